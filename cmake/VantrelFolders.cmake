@@ -1,0 +1,84 @@
+# One folder of src/ is one target. Also the package that installs them.
+
+# A package found in one folder serves the tests and programs that link the folder's library.
+set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON)
+
+# vantrel_add_library(<folder> SOURCES <file>... HEADERS <file>... [LINKS <target>...]
+#                     [PACKAGES <package>... PRIVATE_LINKS <target>...] [INTERNAL])
+#
+# Makes the library vantrel_<folder>, alias vantrel::<folder>; a slash in the folder's name becomes an underscore. Headers are
+# included with the folder in front: "model/Place.h". LINKS are what the headers need, PRIVATE_LINKS what the sources alone need.
+# PACKAGES are found with find_package, also by the projects that use the installed library. INTERNAL: neither installed nor exported.
+function(vantrel_add_library folder)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "INTERNAL" "" "SOURCES;HEADERS;LINKS;PACKAGES;PRIVATE_LINKS")
+  vantrel_refuse_unknown("${arg_UNPARSED_ARGUMENTS}")
+  foreach(package IN LISTS arg_PACKAGES)
+    find_package(${package} REQUIRED)
+  endforeach()
+
+  string(REPLACE "/" "_" name ${folder})
+  set(target vantrel_${name})
+  if(arg_SOURCES)
+    set(scope PUBLIC)
+    add_library(${target})
+    target_sources(${target} PRIVATE ${arg_SOURCES})
+    target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:vantrel::warnings> ${arg_PRIVATE_LINKS})
+  else()
+    set(scope INTERFACE)
+    add_library(${target} INTERFACE)
+  endif()
+  add_library(vantrel::${name} ALIAS ${target})
+  target_sources(${target} ${scope} FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}/src FILES ${arg_HEADERS})
+  target_link_libraries(${target} ${scope} ${arg_LINKS})
+  target_compile_features(${target} ${scope} cxx_std_20)
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
+
+  if(NOT arg_INTERNAL)
+    install(TARGETS ${target} EXPORT VantrelTargets
+      ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
+      LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
+      FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vantrel COMPONENT library)
+    set_property(GLOBAL APPEND PROPERTY VANTREL_EXPORTED ${target})
+    set_property(GLOBAL APPEND PROPERTY VANTREL_PACKAGES ${arg_PACKAGES})
+  endif()
+endfunction()
+
+# vantrel_add_program(SOURCES <file>... [LINKS <target>...])
+#
+# The program `vantrel`.
+function(vantrel_add_program)
+  cmake_parse_arguments(PARSE_ARGV 0 arg "" "" "SOURCES;LINKS")
+  vantrel_refuse_unknown("${arg_UNPARSED_ARGUMENTS}")
+  add_executable(vantrel ${arg_SOURCES})
+  target_link_libraries(vantrel PRIVATE vantrel::warnings ${arg_LINKS})
+  install(TARGETS vantrel RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT program)
+endfunction()
+
+# What `find_package(Vantrel)` reads. Call it after the last folder.
+function(vantrel_install_package)
+  get_property(targets GLOBAL PROPERTY VANTREL_EXPORTED)
+  if(NOT targets)
+    return()
+  endif()
+  get_property(packages GLOBAL PROPERTY VANTREL_PACKAGES)
+  list(REMOVE_DUPLICATES packages)
+  set(VANTREL_FIND_DEPENDENCIES "")
+  foreach(package IN LISTS packages)
+    string(APPEND VANTREL_FIND_DEPENDENCIES "find_dependency(${package})\n")
+  endforeach()
+
+  include(CMakePackageConfigHelpers)
+  set(destination ${CMAKE_INSTALL_LIBDIR}/cmake/Vantrel)
+  configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/VantrelConfig.cmake.in
+    ${PROJECT_BINARY_DIR}/VantrelConfig.cmake INSTALL_DESTINATION ${destination})
+  write_basic_package_version_file(${PROJECT_BINARY_DIR}/VantrelConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+  install(EXPORT VantrelTargets NAMESPACE vantrel:: DESTINATION ${destination} COMPONENT library)
+  install(FILES ${PROJECT_BINARY_DIR}/VantrelConfig.cmake ${PROJECT_BINARY_DIR}/VantrelConfigVersion.cmake
+    DESTINATION ${destination} COMPONENT library)
+endfunction()
+
+function(vantrel_refuse_unknown arguments)
+  if(arguments)
+    message(FATAL_ERROR "unknown arguments: ${arguments}")
+  endif()
+endfunction()

@@ -1,0 +1,13 @@
+# shellcheck shell=bash
+# Debian packages, read by ./run and ./test.
+
+# To build and run the program.
+run_packages=(g++ cmake ninja-build ccache libpugixml-dev libcli11-dev)
+
+# On top of these, to test it.
+test_packages=(
+  "${run_packages[@]}"
+  clang libclang-rt-14-dev clang-format clang-tidy
+  libgtest-dev libgmock-dev libbenchmark-dev
+  python3-minimal
+)
