@@ -1,0 +1,37 @@
+// The failures of the system: a number that callers may react to, and a text that a message box can show as it stands.
+#pragma once
+
+#include <cstdint>
+#include <exception>
+#include <string>
+
+namespace vantrel {
+
+/// Numbers that callers tell failures apart by.
+enum ErrorNumber : std::int32_t {
+  vntErrInvalidCall = 5,         ///< "Invalid procedure call or argument": no such key, index or first item
+  vntErrOverflow = 6,            ///< "Overflow": a number that its type cannot hold
+  vntErrTypeMismatch = 13,       ///< "Type mismatch": a value that cannot become the wanted type
+  vntErrOutOfStack = 28,         ///< a token game that would never end, see TokenGame
+  vntErrObjectNotSet = 91,       ///< "Object variable not set": a reference to nothing was followed
+  vntErrFileFormat = 321,        ///< "Invalid file format": a file that is not what it should be
+  vntErrDuplicateKey = 457,      ///< "This key is already associated with an element of this collection"
+  vntErrObjectClosed = 3704,     ///< a recordset or connection that is closed
+  vntErrNoConnection = 3709,     ///< a connection that cannot be used
+  vntErrElementNotFound = 35601  ///< "Element not found": a list or tree has no such entry
+};
+
+/// Thrown for every failure of the system.
+class Error : public std::exception {
+ public:
+  /// Takes the usual description of the number.
+  explicit Error(std::int32_t plngNumber);
+  Error(std::int32_t plngNumber, std::string pstrDescription);
+
+  const char* what() const noexcept override { return Description.c_str(); }
+
+  std::int32_t Number;
+  std::string Description;  ///< one line, fit for a message box
+};
+
+}  // namespace vantrel

@@ -1,0 +1,83 @@
+// The key of one collection item, in eight bytes.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace vantrel {
+
+/// A key made of the collection's class word and a number keeps only the number ("Token17" is 17); any other key owns its
+/// text. A third form marks an item without key, a fourth a place that no item holds.
+class ItemKey {
+ public:
+  ItemKey() = default;
+  ItemKey(ItemKey&& pobjOther) noexcept : mBits(std::exchange(pobjOther.mBits, kHole)) {}
+  ItemKey& operator=(ItemKey&& pobjOther) noexcept {
+    std::swap(mBits, pobjOther.mBits);
+    return *this;
+  }
+  ~ItemKey() {
+    if (IsText()) delete Text();
+  }
+
+  static ItemKey Unkeyed() { return ItemKey(kUnkeyed); }
+  static ItemKey OfNumber(std::int32_t plngNumber) { return ItemKey(static_cast<std::uintptr_t>(plngNumber) << 2 | kNumberTag); }
+  static ItemKey OfText(std::string_view pstrText) { return ItemKey(reinterpret_cast<std::uintptr_t>(new std::string(pstrText))); }
+  /// The shortest form of a key text under a class word.
+  static ItemKey Of(std::string_view pstrWord, std::string_view pstrKey) {
+    const std::int32_t number = ShortNumber(pstrWord, pstrKey);
+    return number >= 0 ? OfNumber(number) : pstrKey.empty() ? Unkeyed() : OfText(pstrKey);
+  }
+
+  bool IsHole() const { return mBits == kHole; }
+  bool IsUnkeyed() const { return mBits == kUnkeyed; }
+  bool IsNumber() const { return (mBits & 3) == kNumberTag; }
+  bool IsText() const { return mBits != kHole && (mBits & 3) == 0; }
+
+  std::int32_t Number() const { return static_cast<std::int32_t>(mBits >> 2); }
+  const std::string& TextRef() const { return *Text(); }
+  /// The key as its user knows it; empty for an item without key.
+  std::string ToText(std::string_view pstrWord) const;
+
+  friend bool operator==(const ItemKey& a, const ItemKey& b) {
+    return a.mBits == b.mBits || (a.IsText() && b.IsText() && *a.Text() == *b.Text());
+  }
+
+ private:
+  static constexpr std::uintptr_t kHole = 0;
+  static constexpr std::uintptr_t kNumberTag = 1;
+  static constexpr std::uintptr_t kUnkeyed = 2;
+
+  static_assert(sizeof(std::uintptr_t) == 8, "a 31-bit number and its tag share one word");
+
+  // The number of a key made of the word and a number without leading zeros, -1 for any other key. Inline, because every
+  // token that moves comes by here.
+  static std::int32_t ShortNumber(std::string_view pstrWord, std::string_view pstrKey) {
+    constexpr std::size_t kMostDigits = 9;  // any such number fits; the few longer ones go as texts
+    const std::size_t digits = pstrKey.size() - pstrWord.size();
+    if (pstrWord.empty() || pstrKey.size() <= pstrWord.size() || digits > kMostDigits) return -1;
+    if (!pstrKey.starts_with(pstrWord)) return -1;
+    const char* at = pstrKey.data() + pstrWord.size();
+    if (*at == '0' && digits > 1) return -1;
+    std::int32_t number = 0;
+    for (const char* const end = pstrKey.data() + pstrKey.size(); at != end; ++at) {
+      const auto digit = static_cast<unsigned>(*at - '0');
+      if (digit > 9) return -1;
+      number = number * 10 + static_cast<std::int32_t>(digit);
+    }
+    return number;
+  }
+
+  explicit ItemKey(std::uintptr_t pBits) : mBits(pBits) {}
+  std::string* Text() const { return reinterpret_cast<std::string*>(mBits); }
+
+  std::uintptr_t mBits = kHole;
+};
+
+/// The number behind a prefix as key numbering counts it: digits only, leading zeros allowed, at most 2^31 - 1.
+std::optional<std::int32_t> NumberBehind(std::string_view pstrPrefix, std::string_view pstrKey);
+
+}  // namespace vantrel

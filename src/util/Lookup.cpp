@@ -1,0 +1,30 @@
+#include "util/Lookup.h"
+
+#include <limits>
+
+namespace vantrel {
+
+std::int32_t NameNumber(std::string_view pstrPrefix, std::string_view pstrName) {
+  if (!pstrName.starts_with(pstrPrefix)) return -1;
+  if (pstrName.size() == pstrPrefix.size()) return 0;
+  double number = 0;
+  if (!ParseNumber(pstrName.substr(pstrPrefix.size()), number)) return -1;
+  return Variant(number).ToInt32();
+}
+
+bool IsBetween(const Variant& pvarValue, const Variant& pvarA, const Variant& pvarB) {
+  const auto atLeast = [](const Variant& pvarX, const Variant& pvarY) { return Compare(pvarX, pvarY) >= 0; };
+  if (atLeast(pvarA, pvarB)) return atLeast(pvarA, pvarValue) && atLeast(pvarValue, pvarB);
+  return atLeast(pvarB, pvarValue) && atLeast(pvarValue, pvarA);
+}
+
+std::string StripQualifier(std::string_view pstrText) {
+  const auto first = pstrText.find('.');
+  if (first == std::string_view::npos) return std::string(pstrText);
+  const std::string_view rest = pstrText.substr(first + 1);
+  double number = 0;
+  if (ParseNumber(rest, number)) return std::string(pstrText);
+  return std::string(rest.substr(0, rest.find('.')));
+}
+
+}  // namespace vantrel

@@ -1,0 +1,106 @@
+// Finding objects in collections, and making up new keys and names for them.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <string_view>
+
+#include "util/Collection.h"
+#include "util/Variant.h"
+
+namespace vantrel {
+
+/// The `Name` of an item, be it a field or a property.
+template <class T>
+std::string_view NameOf(const T& pobjItem) {
+  if constexpr (requires { pobjItem.Name(); }) {
+    return pobjItem.Name();
+  } else {
+    return pobjItem.Name;
+  }
+}
+
+/// The number of the next key of the usual form: one more than the largest behind the class word. Throws Error 6 behind the
+/// largest 32-bit integer.
+template <class T>
+std::int32_t NextKeyNumber(const Collection<T>& pcolItems) {
+  const std::int32_t largest = pcolItems.LargestKeyNumber();
+  if (largest == 0x7FFFFFFF) throw Error(vntErrOverflow);
+  return largest + 1;
+}
+
+/// The key of the usual form with that number.
+template <class T>
+std::string KeyOf(std::int32_t plngNumber) {
+  return ItemKey::OfNumber(plngNumber).ToText(KeyWordOf<T>::Value);
+}
+
+/// The prefix and one more than the largest number behind it in the collection's keys; keys of another form do not count.
+/// Costs the same whatever the collection's size when the prefix is the word that its keys usually begin with. Throws
+/// Error 6 when the largest number is the largest 32-bit integer.
+template <class T>
+std::string NextKey(const Collection<T>& pcolItems, std::string_view pstrPrefix) {
+  if (pcolItems.KeyWord() == pstrPrefix) return KeyOf<T>(NextKeyNumber(pcolItems));
+  std::int32_t largest = 0;
+  for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) {
+    largest = std::max(largest, NumberBehind(pstrPrefix, item->Key).value_or(0));
+  }
+  if (largest == 0x7FFFFFFF) throw Error(vntErrOverflow);
+  return std::string(pstrPrefix) + std::to_string(largest + 1);
+}
+
+/// The first item of that name (exact comparison), or null.
+template <class T>
+std::shared_ptr<T> FindByName(const Collection<T>& pcolItems, std::string_view pstrName) {
+  for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) {
+    if (NameOf(*item) == pstrName) return cursor.Shared();
+  }
+  return nullptr;
+}
+
+template <class T>
+bool IsNameFree(const Collection<T>& pcolItems, std::string_view pstrName) {
+  return FindByName(pcolItems, pstrName) == nullptr;
+}
+
+/// The number that a name has behind a prefix in the numbering of names: 0 for the prefix alone, -1 for no such name.
+std::int32_t NameNumber(std::string_view pstrPrefix, std::string_view pstrName);
+
+/// The prefix alone when no name counts, else the prefix and one more than the largest number behind it (the prefix alone
+/// counts as 0).
+template <class T>
+std::string NextName(const Collection<T>& pcolItems, std::string_view pstrPrefix) {
+  std::int32_t largest = -1;
+  for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) {
+    largest = std::max(largest, NameNumber(pstrPrefix, NameOf(*item)));
+  }
+  if (largest == 0x7FFFFFFF) throw Error(vntErrOverflow);
+  return largest < 0 ? std::string(pstrPrefix) : std::string(pstrPrefix) + std::to_string(largest + 1);
+}
+
+/// The first item with that record id, or null.
+template <class T>
+std::shared_ptr<T> FindByRecId(const Collection<T>& pcolItems, std::int32_t plngId) {
+  for (typename Collection<T>::Cursor cursor(pcolItems); T* item = cursor.Next();) {
+    if constexpr (requires { item->RecId(); }) {
+      if (item->RecId() == plngId) return cursor.Shared();
+    } else if constexpr (requires { item->RecId; }) {
+      if (item->RecId == plngId) return cursor.Shared();
+    }
+  }
+  return nullptr;
+}
+
+template <class T>
+bool KeyExists(const Collection<T>& pcolItems, std::string_view pstrKey) {
+  return pcolItems.Contains(pstrKey);
+}
+
+/// True when the value lies between the bounds, both included, in either order. Throws Error 13 for values without order.
+bool IsBetween(const Variant& pvarValue, const Variant& pvarA, const Variant& pvarB);
+
+/// The class name of a class identifier: "VNTR.Place.1" gives "Place", "Arc.Guard" gives "Guard". A text without a dot, or
+/// with only a number behind its first dot, comes back unchanged.
+std::string StripQualifier(std::string_view pstrText);
+
+}  // namespace vantrel
