@@ -1,0 +1,80 @@
+// The surface that all elements of a chart lie on.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "chart/Element.h"
+#include "chart/ElementFamily.h"
+#include "chart/Image.h"
+#include "chart/Label.h"
+#include "chart/Line.h"
+#include "chart/SpatialGrid.h"
+#include "chart/TextMeasure.h"
+#include "util/Event.h"
+
+namespace vantrel {
+
+/// Owns the element families, knows every visible element's rectangle and tells views what to paint again. Views ask it
+/// for elements; they never ask the model.
+class ChartSurface {
+  // Before the families: their templates are numbered and stacked while they are made.
+  SpatialGrid mGrid;
+  std::shared_ptr<const TextMeasure> mMeasure;
+  std::int64_t mFront = 0;
+  float mScaleWidth = 0, mScaleHeight = 0;
+  Color mBackColor = kWhite;
+  bool mVisible = true;
+
+ public:
+  ChartSurface();
+  ~ChartSurface();
+  ChartSurface(const ChartSurface&) = delete;
+  ChartSurface& operator=(const ChartSurface&) = delete;
+
+  ElementFamily<Image> ctlImage;
+  ElementFamily<Label> ctlLabel, lblCount;
+  ElementFamily<Line> ctlLine;
+  ElementFamily<Image> ctlHandle;
+
+  /// Visible elements that touch an area (twips), from back to front.
+  std::vector<Element*> ElementsIn(const Rect& pobjArea) const;
+  /// The visible element nearest to the front under a point, or null. The tolerance widens lines only, twips.
+  Element* ElementAt(float psngX, float psngY, float psngTolerance = 0) const;
+
+  float ScaleWidth() const { return mScaleWidth; }  ///< the part in view, twips
+  float ScaleHeight() const { return mScaleHeight; }
+  void Scale(float psngWidth, float psngHeight);
+  Color BackColor() const { return mBackColor; }
+  void BackColor(Color plngColor);
+  bool Visible() const { return mVisible; }
+  void Visible(bool pblnOn);
+
+  const TextMeasure& Measure() const { return *mMeasure; }
+  /// Takes another text measure; null brings the built-in one back. Labels are not measured again by this.
+  void Measure(std::shared_ptr<const TextMeasure> pobjMeasure);
+
+  /// Raised with each rectangle (twips) that has to be painted again.
+  Event<const Rect&> OnDamaged;
+
+ private:
+  friend class Element;
+  template <class E>
+  friend class ElementFamily;
+
+  void Adopt(Element& pobjElement, ElementFamilyId pFamily, std::int32_t plngIndex);
+  void ElementChanged(Element& pobjElement, const Rect& pobjBefore, bool pblnWasVisible, bool pblnIsVisible);
+  void BringToFront(Element& pobjElement);
+  void Unload(Element& pobjElement);
+};
+
+template <class E>
+std::shared_ptr<E> ElementFamily<E>::Append() {
+  auto element = std::make_shared<E>();
+  mSurface.Adopt(*element, mFamily, UpperBound() + 1);
+  mElements.push_back(element);
+  ++mCount;
+  return element;
+}
+
+}  // namespace vantrel

@@ -1,0 +1,58 @@
+// An indexed family of elements.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "chart/Element.h"
+
+namespace vantrel {
+
+class ChartSurface;
+
+/// Elements of one kind, counted from 0. Element 0 is the template whose settings new elements copy; it is never removed.
+/// A new element gets the index one above the highest in use; an index below that is not used again.
+template <class E>
+class ElementFamily {
+ public:
+  ElementFamily(ChartSurface& pobjSurface, ElementFamilyId pFamily) : mSurface(pobjSurface), mFamily(pFamily) { Append(); }
+
+  /// A new hidden element, in front of all others. The family owns it.
+  std::shared_ptr<E> New() {
+    const auto element = Append();
+    element->CopySettings(*mElements.front());
+    return element;
+  }
+  /// The element of an index, or null.
+  std::shared_ptr<E> At(std::int32_t plngIndex) const {
+    return plngIndex >= 0 && plngIndex <= UpperBound() ? mElements[static_cast<std::size_t>(plngIndex)] : nullptr;
+  }
+  E& Template() const { return *mElements.front(); }
+  std::int32_t UpperBound() const { return static_cast<std::int32_t>(mElements.size()) - 1; }
+  /// Elements in use, the template included.
+  std::int32_t Count() const { return mCount; }
+
+  void Remove(std::int32_t plngIndex) {
+    if (plngIndex <= 0 || !At(plngIndex)) return;
+    mElements[static_cast<std::size_t>(plngIndex)] = nullptr;
+    --mCount;
+    while (!mElements.back()) mElements.pop_back();
+  }
+
+  /// Cuts the ties to a surface that goes away.
+  void Detach() {
+    for (const auto& element : mElements) {
+      if (element) element->mSurface = nullptr;
+    }
+  }
+
+ private:
+  std::shared_ptr<E> Append();
+
+  ChartSurface& mSurface;
+  std::vector<std::shared_ptr<E>> mElements;
+  std::int32_t mCount = 0;
+  ElementFamilyId mFamily;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,26 @@
+// Points and rectangles on the chart, in twips (1/1440 inch; 15 twips are one pixel at 96 dpi), y growing downwards.
+#pragma once
+
+#include <algorithm>
+
+namespace vantrel {
+
+constexpr float kTwipsPerPixel = 15;
+
+struct Rect {
+  float Left = 0, Top = 0, Right = 0, Bottom = 0;
+
+  bool IsEmpty() const { return Right <= Left || Bottom <= Top; }
+  bool Contains(float psngX, float psngY) const { return psngX >= Left && psngX <= Right && psngY >= Top && psngY <= Bottom; }
+  /// Touching counts.
+  bool Touches(const Rect& pobjOther) const {
+    return Left <= pobjOther.Right && pobjOther.Left <= Right && Top <= pobjOther.Bottom && pobjOther.Top <= Bottom;
+  }
+  Rect United(const Rect& pobjOther) const {
+    return {std::min(Left, pobjOther.Left), std::min(Top, pobjOther.Top), std::max(Right, pobjOther.Right),
+            std::max(Bottom, pobjOther.Bottom)};
+  }
+  friend bool operator==(const Rect&, const Rect&) = default;
+};
+
+}  // namespace vantrel

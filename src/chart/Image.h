@@ -1,0 +1,26 @@
+// An element that shows a picture.
+#pragma once
+
+#include <memory>
+
+#include "chart/Element.h"
+#include "chart/Picture.h"
+
+namespace vantrel {
+
+/// Shows one picture in its natural size; without a picture it keeps the size that it was given.
+class Image final : public BoxElement {
+ public:
+  std::string Class() const override { return "VNTR.Image.1"; }
+
+  const std::shared_ptr<const vantrel::Picture>& Picture() const { return mPicture; }
+  /// Takes the picture and its size. Null leaves the picture as it is: a list without that key must not blank the chart.
+  void Picture(const std::shared_ptr<const vantrel::Picture>& pobjPicture);
+
+  void CopySettings(const Image& pobjTemplate);
+
+ private:
+  std::shared_ptr<const vantrel::Picture> mPicture;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,38 @@
+// Pictures that images show, and lists of them.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace vantrel {
+
+/// A picture known by name. What it looks like is the business of who paints it; its size is part of the chart's geometry.
+struct Picture {
+  std::string Key;
+  float Width = 0, Height = 0;  ///< natural size in twips
+};
+
+/// Pictures by key. A picture belongs to its list and to every image that shows it.
+class ImageList {
+ public:
+  void Add(std::string pstrKey, float psngWidth, float psngHeight) {
+    auto picture = std::make_shared<const Picture>(Picture{pstrKey, psngWidth, psngHeight});
+    mPictures.insert_or_assign(std::move(pstrKey), std::move(picture));
+  }
+  /// The picture, or null when the list has none of that name.
+  std::shared_ptr<const Picture> Find(std::string_view pstrKey) const {
+    const auto found = mPictures.find(pstrKey);
+    return found == mPictures.end() ? nullptr : found->second;
+  }
+
+  /// The list of the designer's own pictures ("VantrelImages"): objects of 32 pixels, connectors of 8, handles of 6.
+  static ImageList VantrelImages();
+
+ private:
+  std::map<std::string, std::shared_ptr<const Picture>, std::less<>> mPictures;
+};
+
+}  // namespace vantrel

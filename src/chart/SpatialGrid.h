@@ -1,0 +1,42 @@
+// Which elements lie where.
+#pragma once
+
+#include <cstdint>
+#include <unordered_map>
+#include <vector>
+
+#include "chart/Geometry.h"
+
+namespace vantrel {
+
+class Element;
+
+/// Sorts rectangles into square cells, so that a question about a part of the chart costs in proportion to what is there.
+/// Rectangles that would fill very many cells are kept in a list of their own.
+class SpatialGrid {
+ public:
+  void Insert(Element* pobjElement, const Rect& pobjBounds);
+  void Remove(Element* pobjElement, const Rect& pobjBounds);
+  /// Every element whose cell the rectangle touches, each once; the caller still has to compare the bounds.
+  void Collect(const Rect& pobjArea, std::vector<Element*>& pcolFound) const;
+
+ private:
+  static constexpr float kCell = 256 * kTwipsPerPixel;
+  static constexpr std::int64_t kManyCells = 64;
+
+  struct Range {
+    std::int32_t Left, Top, Right, Bottom;
+    bool IsLarge() const { return (std::int64_t{Right} - Left + 1) * (std::int64_t{Bottom} - Top + 1) > kManyCells; }
+  };
+  static Range RangeOf(const Rect& pobjBounds);
+  static std::int64_t CellKey(std::int32_t plngX, std::int32_t plngY) {
+    return std::int64_t{plngX} << 32 | static_cast<std::uint32_t>(plngY);
+  }
+  static bool Drop(std::vector<Element*>& pcolCell, const Element* pobjElement);
+  void CollectAll(std::vector<Element*>& pcolFound) const;
+
+  std::unordered_map<std::int64_t, std::vector<Element*>> mCells;
+  std::vector<Element*> mLarge;
+};
+
+}  // namespace vantrel
