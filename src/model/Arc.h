@@ -1,0 +1,128 @@
+// An arc between a place and a transition.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "chart/Label.h"
+#include "model/Enumerations.h"
+#include "model/Forward.h"
+#include "model/ModelObject.h"
+#include "util/Collection.h"
+#include "util/Ref.h"
+
+namespace vantrel {
+
+/// Joins one place and one transition; carries a weight (shown, not used by the game) and a guard (the label that users
+/// choose among when a vntSelect transition fires). Drawn as a chain of segments (Vector) joined at bend points (Elbow),
+/// which the workflow owns; the arc finds its own without looking through the workflow. Twips throughout.
+class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
+ public:
+  Arc() = default;
+  /// Takes its labels off the chart.
+  ~Arc() override;
+
+  std::string Key;  ///< in the workflow's Arcs
+  Ref<vantrel::Workflow> Workflow;
+  std::string Description;
+  std::string Tag, HiddenTag;  ///< free for the host
+  Ref<Label> CaptionLabel;     ///< shows the guard in square brackets
+  Ref<Label> WeightLabel;
+  bool StdPath = false;  ///< stored only
+  Ref<vantrel::Transition> Transition;
+  Ref<vantrel::Place> Place;
+  ArcDirectionConstant ArcDirection = static_cast<ArcDirectionConstant>(0);  ///< 0 until set
+  std::int32_t RecId = 0;
+  bool Dirty = false;
+
+  std::string Class() const override { return "VNTR.Arc.1"; }
+  std::string NameText() const override { return Name(); }
+  /// "source->target" by the names of its ends; the key while an end is missing.
+  std::string Name() const;
+
+  bool Visible() const { return mblnVisible; }
+  /// Shows or hides segments and labels; bend points stay as they are.
+  void Visible(bool pblnOn);
+  bool Selected() const { return mblnSelected; }
+  /// Thick segments with their bend points, or thin ones without.
+  void Selected(bool pblnOn);
+  /// The look of a selected arc without being selected, and back.
+  void Setfocus() { ShowFocus(true); }
+  void RemoveFocus() { ShowFocus(false); }
+
+  const std::string& Weight() const { return mstrWeight; }
+  /// Stores and shows it; the control then has no current element.
+  void Weight(const std::string& pstrWeight);
+  const std::string& Guard() const { return mstrGuard; }
+  void Guard(const std::string& pstrGuard);
+
+  /// From the middle of the first segment to the middle of the label.
+  float CaptionOffsetX() const { return msngCaptionOffsetX; }
+  void CaptionOffsetX(float psngOffset);
+  float CaptionOffsetY() const { return msngCaptionOffsetY; }
+  void CaptionOffsetY(float psngOffset);
+  float WeightOffsetX() const { return msngWeightOffsetX; }
+  void WeightOffsetX(float psngOffset);
+  float WeightOffsetY() const { return msngWeightOffsetY; }
+  void WeightOffsetY(float psngOffset);
+  float CaptionHeight() const { return msngCaptionHeight; }
+  void CaptionHeight(float psngHeight);
+  float CaptionWidth() const { return msngCaptionWidth; }
+  void CaptionWidth(float psngWidth);
+  float WeightHeight() const { return msngWeightHeight; }
+  void WeightHeight(float psngHeight);
+  float WeightWidth() const { return msngWeightWidth; }
+  void WeightWidth(float psngWidth);
+
+  /// A new collection of the segments that the workflow has, keyed by their keys, in its order; null without a workflow.
+  std::shared_ptr<Collection<Vector>> Vectors() const;
+  /// A new collection of the bend points that the shown workflow has (the arc's own while none is shown), keyed by their
+  /// keys, in its order; empty for a straight arc.
+  std::shared_ptr<Collection<Elbow>> Elbows() const;
+  /// The same as plain pointers, out of the arc's own workflow: good until an object is removed from it.
+  std::vector<Vector*> Segments() const;
+  std::vector<Elbow*> BendPoints() const;
+
+  /// Brings path, bend points and labels to where ends and offsets say; nothing while invisible. Skips what is missing.
+  void Draw();
+
+  /// Splits a segment of this arc in the middle and returns the new second half, which the workflow owns. Error 91 without
+  /// a workflow.
+  std::shared_ptr<Vector> InsertVector(const std::shared_ptr<Vector>& pobjVector);
+  /// Removes a segment and joins its neighbours. Not for an arc's only segment. Error 5 when the workflow does not have it.
+  void RemoveVector(const std::shared_ptr<Vector>& pobjVector);
+
+  /// An arc of the same direction, labels and path between two other objects, added to a workflow, moved by as much as the
+  /// place is; segments linked and with bend points where this arc has them, without chart elements. Linking it to the
+  /// ends' InArcs and OutArcs is the caller's task.
+  std::shared_ptr<Arc> Clone(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow, const std::shared_ptr<vantrel::Place>& pobjPlace,
+                             const std::shared_ptr<vantrel::Transition>& pobjTransition) const;
+
+  std::shared_ptr<PropertyCollection> GetProperties() override;
+  /// Leaves the arc clean.
+  void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
+  /// "Name" is refused, for it follows from the ends: nothing changes, the mark included.
+  void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
+
+ private:
+  friend class Vector;
+
+  void ShowFocus(bool pblnOn);
+  void CopySettings(const Arc& pobjFrom);
+  void Store(const std::string& pstrPropName, const Variant& pvarValue);
+  void MarkWorkflowDirty() const;
+
+  std::vector<Vector*> mcolSegments;  // every living segment whose Arc is this one, in no order
+  std::string mstrWeight = "1";
+  std::string mstrGuard;
+  float msngCaptionOffsetX = 0, msngCaptionOffsetY = -200;
+  float msngWeightOffsetX = 0, msngWeightOffsetY = 200;
+  float msngCaptionHeight = 0, msngCaptionWidth = 0;
+  float msngWeightHeight = 0, msngWeightWidth = 0;
+  bool mblnVisible = false;
+  bool mblnSelected = false;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,106 @@
+// How an arc draws itself: connectors, end points, segments, bend points, labels, in this order.
+#include <functional>
+#include <optional>
+
+#include "model/Arc.h"
+#include "model/VNTRGlobal.h"
+#include "model/Workflow.h"
+
+namespace vantrel {
+
+namespace {
+
+struct Point {
+  float X = 0, Y = 0;
+};
+
+struct Ends {
+  Node& Source;
+  Node& Target;
+};
+
+// Connectors are to be seen exactly while the place is.
+void ShowConnectors(const Ends& pobjEnds, const Place& pobjPlace) {
+  if (auto* connector = pobjEnds.Target.InConnector.get()) connector->Visible(pobjPlace.Visible());
+  if (auto* connector = pobjEnds.Source.OutConnector.get()) connector->Visible(pobjPlace.Visible());
+}
+
+std::optional<Point> OutputPoint(const Node& pobjNode) {
+  if (!pobjNode.OutConnector) return std::nullopt;
+  return Point{OutputConnectorX(pobjNode), OutputConnectorY(pobjNode)};
+}
+
+std::optional<Point> InputPoint(const Node& pobjNode) {
+  if (!pobjNode.InConnector) return std::nullopt;
+  return Point{InputConnectorX(pobjNode), InputConnectorY(pobjNode)};
+}
+
+// A joint takes the point of whichever of its two segments comes later in the workflow; normally both hold the same.
+void DrawSegments(const std::vector<Vector*>& pcolSegments, std::optional<Point> pStart, std::optional<Point> pEnd) {
+  for (Vector* segment : pcolSegments) {
+    if (const Vector* before = segment->InVector.get()) {
+      segment->Start(before->X2(), before->Y2());
+    } else if (pStart) {
+      segment->Start(pStart->X, pStart->Y);
+    }
+    if (const Vector* behind = segment->OutVector.get()) {
+      segment->End(behind->X1(), behind->Y1());
+    } else if (pEnd) {
+      segment->End(pEnd->X, pEnd->Y);
+    }
+    segment->Draw();
+  }
+}
+
+void DrawBendPoints(const Arc& pobjArc) {
+  for (const auto& elbow : *pobjArc.Elbows()) {
+    if (elbow->InVector()) elbow->CentreHandle(elbow->InVector()->X2(), elbow->InVector()->Y2());
+    elbow->Visible(pobjArc.Selected());
+  }
+}
+
+void CentreLabel(const Ref<Label>& pobjLabel, float psngX, float psngY) {
+  if (Label* label = pobjLabel.get()) label->MoveTo(psngX - label->Width() / 2, psngY - label->Height() / 2);
+}
+
+void PlaceLabels(const Arc& pobjArc, const Vector& pobjFirst) {
+  const float x = (pobjFirst.X1() + pobjFirst.X2()) / 2;
+  const float y = (pobjFirst.Y1() + pobjFirst.Y2()) / 2;
+  CentreLabel(pobjArc.CaptionLabel, x + pobjArc.CaptionOffsetX(), y + pobjArc.CaptionOffsetY());
+  CentreLabel(pobjArc.WeightLabel, x + pobjArc.WeightOffsetX(), y + pobjArc.WeightOffsetY());
+}
+
+void ShowLabels(const Arc& pobjArc, const Workflow& pobjWorkflow) {
+  if (Label* label = pobjArc.CaptionLabel.get()) {
+    if (pobjArc.Guard().empty() || !pobjWorkflow.ShowGuards) {
+      label->Visible(false);
+    } else {
+      label->Caption("[" + pobjArc.Guard() + "]");
+      label->Visible(true);
+      FitLabel(*label);
+    }
+  }
+  if (Label* label = pobjArc.WeightLabel.get()) label->Visible(pobjWorkflow.ShowWeights && !pobjArc.Weight().empty());
+}
+
+}  // namespace
+
+void Arc::Draw() {
+  if (!mblnVisible) return;
+  std::optional<Point> start, end;
+  const bool hasDirection = ArcDirection == vntInArc || ArcDirection == vntOutArc;
+  if (hasDirection && Place && Transition) {
+    const bool inward = ArcDirection == vntInArc;
+    const Ends ends{inward ? static_cast<Node&>(*Place) : *Transition, inward ? static_cast<Node&>(*Transition) : *Place};
+    ShowConnectors(ends, *Place);
+    start = OutputPoint(ends.Source);
+    end = InputPoint(ends.Target);
+  }
+  const auto segments = Segments();
+  DrawSegments(segments, start, end);
+  DrawBendPoints(*this);
+  if (!segments.empty()) PlaceLabels(*this, *segments.front());
+  if (Workflow) ShowLabels(*this, *Workflow);
+}
+
+}  // namespace vantrel

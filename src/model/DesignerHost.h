@@ -1,0 +1,60 @@
+// What the model asks of the control that shows it.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "chart/Image.h"
+#include "chart/Label.h"
+#include "chart/Line.h"
+#include "model/Enumerations.h"
+#include "model/Forward.h"
+#include "util/Ref.h"
+
+namespace vantrel {
+
+/// The model's view of the designer control, reached as gobjVantrel. What stands here is the host that serves while no
+/// control exists: it accepts everything, shows nothing, has no elements to give and answers every question with "cancel".
+class DesignerHost {
+ public:
+  virtual ~DesignerHost() = default;
+
+  /// The workflow shown; new places and transitions belong to it.
+  virtual Ref<vantrel::Workflow> Workflow() const { return nullptr; }
+  /// Where new places and transitions lie, twips.
+  virtual float CurrentX() const { return 200; }
+  virtual float CurrentY() const { return 200; }
+
+  /// A workflow became dirty or clean.
+  virtual void Dirty(bool) {}
+  virtual void UseMode(UseModeConstant) {}
+  /// Makes an element the current one, or none.
+  virtual void CurrentControl(const Ref<Element>&) {}
+  /// Hands a transition's action to the host application.
+  virtual void RunAction(Transition&) {}
+
+  /// New hidden elements on the chart, owned by it; nothing while there is no chart.
+  virtual Ref<Image> NewImage() { return nullptr; }
+  virtual Ref<Label> NewLabel() { return nullptr; }
+  virtual Ref<Label> NewCountLabel() { return nullptr; }
+  virtual Ref<Line> NewLine() { return nullptr; }
+  virtual Ref<Image> NewHandle() { return nullptr; }
+
+  /// Lets pending user-interface events take effect once.
+  virtual void ProcessEvents() {}
+  /// Fits the focus frame round its element again, if it is to be seen.
+  virtual void FrameControl() {}
+  /// Names of the fonts on this system, in the system's order.
+  virtual std::vector<std::string> FontNames() const { return {"Arial"}; }
+
+  /// Asks the user for one of the options. The chosen option's text, or nothing when the user cancels.
+  virtual std::optional<std::string> SelectOption(const std::string& /*pstrPrompt*/, const std::vector<std::string>& /*pcolOptions*/) {
+    return std::nullopt;
+  }
+  /// Shows the tokens that a transition could take, for the user to distribute by hand.
+  virtual void SelectTokens(vantrel::Workflow& /*pobjWorkflow*/, Transition& /*pobjTransition*/) {}
+};
+
+}  // namespace vantrel

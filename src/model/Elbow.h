@@ -1,0 +1,61 @@
+// A bend point of an arc's path.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "chart/Image.h"
+#include "model/Forward.h"
+#include "util/Object.h"
+#include "util/Ref.h"
+
+namespace vantrel {
+
+/// Joins two consecutive segments of one arc and shows a small square handle at the joint, hidden at first. Owned by the
+/// workflow's Elbows. Twips.
+class Elbow final : public Object, public std::enable_shared_from_this<Elbow> {
+ public:
+  /// Takes a handle of the control and the next free key of the control's workflow.
+  Elbow();
+  /// Takes the handle off the chart.
+  ~Elbow() override;
+
+  std::string Key;
+  Ref<Image> Handle;
+
+  std::string Class() const override { return "VNTR.Elbow.1"; }
+
+  const Ref<Vector>& InVector() const { return mobjInVector; }  ///< ends at the joint
+  void InVector(const Ref<Vector>& pobjVector) { Attach(mobjInVector, pobjVector); }
+  const Ref<Vector>& OutVector() const { return mobjOutVector; }  ///< starts at the joint
+  void OutVector(const Ref<Vector>& pobjVector) { Attach(mobjOutVector, pobjVector); }
+
+  /// Top-left corner of the handle. Setting one moves the joint, and with it both segments, and marks dirty.
+  float Top() const { return msngTop; }
+  void Top(float psngTop);
+  float Left() const { return msngLeft; }
+  void Left(float psngLeft);
+  /// Puts the handle round a point without moving the joint and without a mark.
+  void CentreHandle(float psngX, float psngY);
+
+  bool Visible() const { return mblnVisible; }
+  void Visible(bool pblnOn);
+  bool Selected() const { return mblnSelected; }
+  void Selected(bool pblnOn) { mblnSelected = pblnOn; }
+  bool Dirty() const { return mblnDirty; }
+  /// True also marks the arc and the segment behind.
+  void Dirty(bool pblnDirty);
+
+ private:
+  void Attach(Ref<Vector>& pobjMember, const Ref<Vector>& pobjVector);
+  float HandleWidth() const;
+  float HandleHeight() const;
+
+  Ref<Vector> mobjInVector, mobjOutVector;
+  float msngTop = 0, msngLeft = 0;
+  bool mblnVisible = false;
+  bool mblnSelected = false;
+  bool mblnDirty = false;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,24 @@
+#include "model/ModelObject.h"
+
+#include "util/MsgBox.h"
+
+namespace vantrel {
+
+void ModelObject::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
+  for (const auto& record : *pcolProperties) {
+    const Variant value = record->Value;
+    SetProperty(record->Name, value);
+  }
+}
+
+bool ModelObject::Guarded(const std::function<void()>& pStore) {
+  try {
+    pStore();
+    return true;
+  } catch (const Error& error) {
+    MsgBox(error.Description);
+    return false;
+  }
+}
+
+}  // namespace vantrel

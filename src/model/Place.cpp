@@ -1,0 +1,147 @@
+#include "model/Place.h"
+
+#include "model/Arc.h"
+#include "model/DesignerState.h"
+#include "model/PropertyBuilder.h"
+#include "model/Workflow.h"
+#include "model/game/Arrival.h"
+#include "model/game/Departure.h"
+#include "util/Lookup.h"
+#include "util/MsgBox.h"
+
+namespace vantrel {
+
+namespace {
+
+constexpr float kCountGap = 75;  // twips between the image and the token count under it
+
+}  // namespace
+
+Place::Place() : Node("PlaceGreen", "Place"), TokenProperties(std::make_shared<PropertyCollection>()) {}
+
+void Place::AddToken(const std::shared_ptr<Token>& pobjToken) { TokenGame::Run<Arrival>(Share(), pobjToken); }
+
+void Place::RemoveToken(const std::shared_ptr<Token>& pobjToken) { TokenGame::Run<Departure>(Share(), pobjToken); }
+
+void Place::TokenCount(float psngCount) {
+  mTokenCount = psngCount;
+  if (!mVisible || gintUseMode == vntRun) return;
+  if (Label* label = CountLabel.get()) label->Caption(std::to_string(static_cast<std::int64_t>(psngCount)));
+  Draw();
+}
+
+void Place::Name(const std::string& pstrName) {
+  if (Workflow && !IsNameFree(Workflow->Places, pstrName)) {
+    MsgBox("There is already another place on this workflow with that name.");
+    return;
+  }
+  mName = pstrName;
+}
+
+void Place::Visible(bool pblnOn) {
+  mVisible = pblnOn;
+  if (!Image) return;
+  ShowElements(pblnOn);
+  for (const auto* arcs : {&InArcs, &OutArcs}) {
+    for (Collection<Arc>::Cursor cursor(*arcs); Arc* arc = cursor.Next();) {
+      if (arc->Place == this) arc->Visible(pblnOn);
+    }
+  }
+  if (pblnOn) Draw();
+}
+
+void Place::CaseEnabled(bool pblnOn) {
+  mblnCaseEnabled = pblnOn;
+  if (auto* image = Image.get()) image->Picture(gobjImageList->Find(pblnOn ? EnabledImageKey : DisabledImageKey));
+}
+
+void Place::Draw() {
+  if (!mVisible || gintUseMode == vntRun || !Workflow) return;
+  DrawImage(!mcolTokens.IsEmpty());
+  if (Label* label = CaptionLabel.get()) label->Resize(CaptionWidth, CaptionHeight);
+  DrawCaption();
+  DrawConnectors(1);
+  DrawCount();
+  DrawArcs();
+}
+
+void Place::DrawCount() {
+  Label* label = CountLabel.get();
+  const auto* image = Image.get();
+  if (!label || !image) return;
+  label->MoveTo(image->Left() + (image->Width() - label->Width()) / 2, image->Top() + image->Height() + kCountGap);
+  label->BringToFront();
+  label->Visible(!label->Caption().empty() && label->Caption() != "0");
+}
+
+std::shared_ptr<PropertyCollection> Place::GetProperties() {
+  PropertyBuilder records;
+  records.Add("Name", vntPropertyText, "Unique name identifying this place on the workflow.", mName);
+  records.Add("Caption", vntPropertyText, "Label used for charts and reports.", mCaption);
+  records.Add("Description", vntPropertyMultiLine, "Place description.", Description);
+  records.Add("SelectionType", vntPropertyChoice, "Determines how tokens are selected when there is more than one option.",
+              std::int32_t{SelectionType}, {{"FIFO", std::int32_t{vntSelectionTypeFIFO}}, {"LIFO", std::int32_t{vntSelectionTypeLIFO}}});
+  records.Add("Object", vntPropertyText, "Object linked to this place.", mobjObject ? mobjObject->NameText() : std::string());
+  records.AddPositions(mInputPosition, mOutputPosition);
+  records.Add("Tag", vntPropertyText, "", Tag);
+  records.Add("TokenProperties", vntPropertyCollection, "Properties assigned tokens that occupied this place.", TokenProperties);
+  return records.Done();
+}
+
+void Place::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
+  for (const auto& record : *pcolProperties) {
+    const Variant value = record->Value;
+    if (record->Name == "Name") {
+      mName = value.ToText();
+    } else if (record->Name == "Caption") {
+      mCaption = value.ToText();
+    } else if (record->Name == "InputPosition") {
+      mInputPosition = value.ToInt16();
+    } else if (record->Name == "OutputPosition") {
+      mOutputPosition = value.ToInt16();
+    } else {
+      SetProperty(record->Name, value);
+    }
+  }
+}
+
+void Place::Store(const std::string& pstrPropName, const Variant& pvarValue) {
+  if (pstrPropName == "Name") {
+    Name(pvarValue.ToText());
+  } else if (pstrPropName == "Caption") {
+    Caption(pvarValue.ToText());
+  } else if (pstrPropName == "Description") {
+    Description = pvarValue.ToText();
+  } else if (pstrPropName == "SelectionType") {
+    SelectionType = static_cast<SelectionTypes>(pvarValue.ToInt32());
+  } else if (pstrPropName == "InputPosition") {
+    InputPosition(pvarValue.ToInt16());
+  } else if (pstrPropName == "OutputPosition") {
+    OutputPosition(pvarValue.ToInt16());
+  } else if (pstrPropName == "TokenProperties") {
+    TokenProperties = pvarValue.ToObjectOf<PropertyCollection>();
+  } else if (pstrPropName == "Tag") {
+    Tag = pvarValue.ToText();
+  }
+}
+
+void Place::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) {
+  if (!Guarded([&] { Store(pstrPropName, pvarValue); })) return;
+  mblnDirty = true;
+  MarkWorkflowDirty();
+}
+
+std::shared_ptr<Place> Place::Clone() const {
+  auto clone = std::make_shared<Place>();
+  clone->CopyLook(*this);
+  clone->SelectionType = SelectionType;
+  clone->OutputPosition(mOutputPosition);
+  clone->Description = Description;
+  clone->mblnDirty = mblnDirty;
+  if (TokenProperties) {
+    for (const auto& record : *TokenProperties) clone->TokenProperties->Add(record->Copy());
+  }
+  return clone;
+}
+
+}  // namespace vantrel

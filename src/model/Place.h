@@ -1,0 +1,86 @@
+// A place of the net.
+#pragma once
+
+#include "model/Node.h"
+#include "model/Token.h"
+#include "util/Event.h"
+
+namespace vantrel {
+
+/// Holds tokens in order of arrival and draws itself as a picture with a caption, a token count and two connectors. Names
+/// the properties that tokens lying in it receive.
+class Place final : public Node {
+ public:
+  Place();
+
+  /// Definitions of the tokens' own properties; the place's own collection, never null unless a host makes it so.
+  std::shared_ptr<PropertyCollection> TokenProperties;
+  Ref<Label> CountLabel;  ///< shows the token count
+  float TokenValue = 0;   ///< stored number
+  SelectionTypes SelectionType = vntSelectionTypeFIFO;
+
+  /// Raised by AddToken when this place is its workflow's end place, after the workflow itself has seen the token.
+  Event<const std::shared_ptr<Token>&> OnCaseFinished;
+
+  std::string Class() const override { return "VNTR.Place.1"; }
+
+  const std::shared_ptr<vantrel::Object>& Object() const { return mobjObject; }
+  void Object(const std::shared_ptr<vantrel::Object>& pobjObject) { mobjObject = pobjObject; }
+  std::int32_t RecId() const { return mRecId; }
+  void RecId(std::int32_t plngRecId) { mRecId = plngRecId; }
+  bool Dirty() const { return mblnDirty; }
+  void Dirty(bool pblnDirty) { mblnDirty = pblnDirty; }
+
+  float TokenCount() const { return mTokenCount; }
+  /// Stores the count; on a visible place, but in run mode, also shows it.
+  void TokenCount(float psngCount);
+  /// The tokens that lie here, keyed by Token::Key, in order of arrival. AddToken and RemoveToken move tokens by the
+  /// rules of the game; the collection itself knows no rules.
+  Collection<Token>& Tokens() { return mcolTokens; }
+  const Collection<Token>& Tokens() const { return mcolTokens; }
+
+  /// Puts the token at the end of Tokens (giving it a key when it has none) and enables what it completes; automatic
+  /// transitions fire before this returns. Throws Error 457 when the key is taken, Error 28 when automatic transitions
+  /// would fire without end, and what an automatic firing throws.
+  void AddToken(const std::shared_ptr<Token>& pobjToken);
+  /// Takes the token out (a token without key: the first one) and enables or disables what the place feeds. Throws
+  /// Error 5 when it does not lie here, and like AddToken.
+  void RemoveToken(const std::shared_ptr<Token>& pobjToken);
+
+  using Node::Name;
+  /// Refuses a name that a place of the workflow already has, its own included (message box), and keeps the old one.
+  void Name(const std::string& pstrName);
+  using Node::Visible;
+  /// Shows or hides image, caption and the place's arcs.
+  void Visible(bool pblnOn) override;
+  /// The case that waits here can go on: the image shows it.
+  bool CaseEnabled() const { return mblnCaseEnabled; }
+  void CaseEnabled(bool pblnOn);
+
+  /// Nothing while invisible, without workflow, or in run mode.
+  void Draw() override;
+
+  std::shared_ptr<PropertyCollection> GetProperties() override;
+  /// Name, caption and connector sides go straight into the fields, without check, redraw or mark.
+  void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
+  void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
+
+  /// A share in this place.
+  std::shared_ptr<Place> Share() { return std::static_pointer_cast<Place>(shared_from_this()); }
+  /// A place of the same look and with copies of the token property definitions; the caller names and places it.
+  std::shared_ptr<Place> Clone() const;
+
+ private:
+  void MarkDirty() override { mblnDirty = true; }
+  void DrawCount();
+  void Store(const std::string& pstrPropName, const Variant& pvarValue);
+
+  Collection<Token> mcolTokens;
+  std::shared_ptr<vantrel::Object> mobjObject;
+  float mTokenCount = 0;
+  std::int32_t mRecId = 0;
+  bool mblnDirty = false;
+  bool mblnCaseEnabled = false;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,16 @@
+// Property records in the order in which a grid shows them.
+#pragma once
+
+#include "model/PropertyRecord.h"
+#include "util/Collection.h"
+#include "util/Object.h"
+
+namespace vantrel {
+
+/// Records keyed by their names. An object of its own, because a record's value may be such a collection.
+class PropertyCollection final : public Object, public Collection<PropertyRecord> {
+ public:
+  std::string Class() const override { return "VNTR.PropertyCollection.1"; }
+};
+
+}  // namespace vantrel

@@ -1,0 +1,48 @@
+#include "model/Token.h"
+
+#include "model/Place.h"
+#include "model/WorkCase.h"
+#include "model/Workflow.h"
+#include "model/game/SubflowRun.h"
+
+namespace vantrel {
+
+Token::Token() : DateCreated(Date::Now()) {}
+
+Token::~Token() = default;
+
+const std::shared_ptr<PropertyCollection>& Token::CustomProperties() const {
+  if (mblnEmptyProperties) {
+    mblnEmptyProperties = false;
+    mcolCustomProperties = std::make_shared<PropertyCollection>();
+  }
+  return mcolCustomProperties;
+}
+
+void Token::CustomProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
+  mblnEmptyProperties = false;
+  mcolCustomProperties = pcolProperties;
+}
+
+void Token::CaseEnabled(bool pblnOn) {
+  mblnCaseEnabled = pblnOn;
+  if (!pblnOn) return;
+  if (auto* place = Place.get()) place->CaseEnabled(true);
+}
+
+void Token::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) {
+  const bool stored = Guarded([&] {
+    if (!CustomProperties()) throw Error(vntErrObjectNotSet);
+    for (const auto& record : *CustomProperties()) {
+      if (record->Name != pstrPropName) continue;
+      record->Value = pvarValue;
+      break;
+    }
+  });
+  if (!stored) return;
+  Dirty = true;
+  const auto* place = Place.get();
+  if (place && place->Workflow) place->Workflow->Dirty(true);
+}
+
+}  // namespace vantrel

@@ -1,0 +1,77 @@
+// A token of the net.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "model/Enumerations.h"
+#include "model/Forward.h"
+#include "model/ModelObject.h"
+#include "util/Date.h"
+#include "util/RareText.h"
+#include "util/Ref.h"
+
+namespace vantrel {
+
+class SubflowRun;
+
+/// Lies in one place, may belong to a case, and remembers who made and who consumed it. Owned by its workflow and by the
+/// place that it lies in. A running net holds millions: its size is watched in bench/.
+class Token final : public ModelObject {
+ public:
+  /// Dated now.
+  Token();
+  ~Token() override;
+
+  std::string Key;                              ///< in the workflow's Tokens and the place's Tokens; "Token" and a number
+  std::string Name;                             ///< equal to Key when nobody gave another
+  std::shared_ptr<vantrel::WorkCase> WorkCase;  ///< nothing for an anonymous token
+  Ref<vantrel::Place> Place;                    ///< where it lies
+  Ref<Transition> CreateTransition;             ///< nothing for start tokens
+  Ref<Transition> ConsumeTransition;            ///< nothing while it is not consumed
+  Date DateCreated;
+  Date DateConsumed;        ///< the zero date while it is not consumed
+  RareText Tag, HiddenTag;  ///< free; Tag goes on to the tokens that a subflow produces
+  Variant NominalValue;
+  std::shared_ptr<vantrel::Object> Object;  ///< linked object of the host
+  std::int32_t RecId = 0;
+  std::int32_t CreateUserId = 0, ConsumeUserId = 0;
+  TokenStatusConstant Status = txQueued;
+  bool mblnCaseEnabled = false;  ///< what CaseEnabled reads and sets
+  bool Dirty = false;            ///< changed since the last save
+
+  std::string Class() const override { return "VNTR.Token.1"; }
+  std::string NameText() const override { return Name; }
+
+  /// The token's own property values; null until a creator gives it any.
+  const std::shared_ptr<PropertyCollection>& CustomProperties() const;
+  void CustomProperties(const std::shared_ptr<PropertyCollection>& pcolProperties);
+  bool CaseEnabled() const { return mblnCaseEnabled; }
+  /// True also marks the place that the token lies in; false leaves the place as it is.
+  void CaseEnabled(bool pblnOn);
+
+  /// The CustomProperties themselves, not copies.
+  std::shared_ptr<PropertyCollection> GetProperties() override { return CustomProperties(); }
+  void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override { CustomProperties(pcolProperties); }
+  /// The run of a subflow that the token takes part in; nothing outside subflows, expired when that run has delivered.
+  const Ref<SubflowRun>& Run() const { return mobjRun; }
+
+  /// Sets the value of the first custom property of that name; an unknown name changes nothing. Marks the token dirty.
+  void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
+
+ private:
+  friend class Departure;
+  friend class Firing;
+  friend class SubflowDelivery;
+  friend class SubflowRun;
+  friend class TokenRules;
+  friend class Workflow;
+
+  bool mblnTaken = false;                    // consumed by a firing whose subflow has not delivered yet: no other firing may use it
+  mutable bool mblnEmptyProperties = false;  // given a collection with nothing in it, which is made when somebody asks
+  mutable std::shared_ptr<PropertyCollection> mcolCustomProperties;
+  Ref<SubflowRun> mobjRun;  // the subflow run that the token takes part in
+};
+
+}  // namespace vantrel

@@ -1,0 +1,133 @@
+// A transition of the net.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/Arc.h"
+#include "model/Node.h"
+#include "model/Place.h"
+#include "util/Event.h"
+
+namespace vantrel {
+
+class SubflowRun;
+
+/// Consumes a token from each input place and produces tokens by its output type. May embed another workflow, which it
+/// then runs as a subflow.
+class Transition final : public Node {
+ public:
+  Transition();
+  /// Takes its elements off the chart.
+  ~Transition() override;
+
+  std::int32_t RecId = 0;
+  std::int32_t SubflowId = 0;                 ///< database id of the embedded workflow
+  std::shared_ptr<PropertyCollection> Roles;  ///< roles allowed to fire the transition; shared with clones; may be null
+  Ref<vantrel::Image> RolesImage;
+  Ref<BoxElement> RolesList;
+  std::string ObjectClassName, ObjectName;  ///< of the embedded object
+  std::string Action;                       ///< command text for the host, see vntProgrammed
+  double Duration = 0, DurationStdDev = 0;
+  std::int32_t ComputationLevel = 0;
+  bool Dirty = false;  ///< changed since the last save
+
+  /// The control raises its own RunCommand with the action when a programmed transition fires; a host may raise this one.
+  Event<const std::string&, const std::shared_ptr<Transition>&> OnRunCommand;
+
+  std::string Class() const override { return "VNTR.Transition.1"; }
+
+  using Node::Name;
+  /// Without a workflow stores any name. In one, an empty name becomes the next free one, and a name that a transition
+  /// already has, its own included, is refused (message box).
+  void Name(const std::string& pstrName);
+  using Node::InputPosition;
+  void InputPosition(std::int16_t pintPosition) override;
+  using Node::Visible;
+  void Visible(bool pblnOn) override;
+
+  bool Enabled() const { return mblnEnabled; }
+  /// Redraws, enters or leaves the firing stack, and fires an automatic transition at once, also when it was enabled
+  /// before. Throws what that firing throws.
+  void Enabled(bool pblnEnabled);
+  /// Fires with no case given.
+  void PullTrigger();
+  /// Consumes and produces as trigger, output type and case tracking say; whatever that enables automatically fires before
+  /// this returns. Throws Error 5, with nothing changed, when an input place is empty (case tracking off), and Error 28
+  /// when automatic transitions would fire without end.
+  void Fire(const std::shared_ptr<WorkCase>& pobjWorkCase = nullptr);
+
+  TriggerTypes TriggerType() const { return mTriggerType; }
+  void TriggerType(TriggerTypes pType) { mTriggerType = pType; }
+  OutputTypes OutputType() const { return mOutputType; }
+  void OutputType(OutputTypes pType) { mOutputType = pType; }
+
+  /// The embedded object: one of the host's, or a workflow to run as subflow. Owned together with whoever else holds it.
+  const std::shared_ptr<vantrel::Object>& Object() const { return mobjObject; }
+  /// Throws Error 5 for a workflow that is, or somewhere inside contains, this transition's own.
+  void Object(const std::shared_ptr<vantrel::Object>& pobjObject);
+  /// The workflow whose finished cases make this transition deliver its output; set by Fire.
+  const std::shared_ptr<vantrel::Workflow>& Subflow() const { return mobjSubflow; }
+  void Subflow(const std::shared_ptr<vantrel::Workflow>& pobjSubflow);
+
+  /// Nothing while invisible.
+  void Draw() override;
+
+  std::shared_ptr<PropertyCollection> GetProperties() override;
+  /// Name, caption, types and connector sides go straight into the fields, without check, redraw or mark.
+  void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
+  /// A name that is no property shows a message box; the transition is marked dirty all the same.
+  void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
+
+  /// A share in this transition.
+  std::shared_ptr<Transition> Share() { return std::static_pointer_cast<Transition>(shared_from_this()); }
+  /// A transition of the same look, types, action and embedded object, marked dirty; the caller names and places it.
+  std::shared_ptr<Transition> Clone() const;
+
+ private:
+  friend class Arrival;
+  friend class Firing;
+  friend class Reevaluation;
+  friend class SubflowRun;
+  friend class TokenGame;
+
+  void MarkDirty() override { Dirty = true; }
+  void DrawRoles();
+  void Store(const std::string& pstrPropName, const Variant& pvarValue);
+  // Everything that setting Enabled does but the firing. True when the transition has to fire now.
+  bool SwitchEnabled(bool pblnEnabled);
+  // Whether every input place passes. Asks first where the last question ended: a join of many branches is asked for each
+  // token that arrives, and is usually held up by the same few inputs.
+  template <class Passes>
+  bool AllInputs(Passes&& pPasses);
+
+  std::shared_ptr<vantrel::Object> mobjObject;
+  std::shared_ptr<vantrel::Workflow> mobjSubflow;
+  std::vector<std::shared_ptr<SubflowRun>> mcolRuns;  // firings whose subflow has not delivered yet, oldest first
+  std::int64_t mHeldUpAt = 0;                         // rank of the input arc that failed the last question of AllInputs
+  std::int32_t mOutputsUnderWay = 0;                  // firings, one inside the other, that are producing output now
+  OutputTypes mOutputType = vntBroadcast;
+  TriggerTypes mTriggerType = vntUser;
+  bool mblnEnabled = false;
+};
+
+template <class Passes>
+bool Transition::AllInputs(Passes&& pPasses) {
+  const std::int64_t heldUpAt = mHeldUpAt;
+  Collection<Arc>::Cursor behind(InArcs, heldUpAt);
+  while (const Arc* arc = behind.Next()) {
+    if (pPasses(*arc->Place)) continue;
+    mHeldUpAt = behind.Rank();
+    return false;
+  }
+  Collection<Arc>::Cursor before(InArcs);
+  for (const Arc* arc = before.Next(); arc && before.Rank() < heldUpAt; arc = before.Next()) {
+    if (pPasses(*arc->Place)) continue;
+    mHeldUpAt = before.Rank();
+    return false;
+  }
+  return true;
+}
+
+}  // namespace vantrel

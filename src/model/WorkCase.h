@@ -1,0 +1,31 @@
+// One run of a workflow.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "model/PropertyCollection.h"
+#include "util/Date.h"
+#include "util/Object.h"
+
+namespace vantrel {
+
+/// With case tracking on, the tokens of a case move together. Owned by its tokens and by whoever keeps a list of cases.
+class WorkCase final : public Object {
+ public:
+  std::string Class() const override { return "VNTR.WorkCase.1"; }
+  std::string NameText() const override { return Name; }
+
+  std::int32_t RecId = 0;
+  std::int32_t OrderItemId = 0;  ///< the host's order item that the case belongs to
+  std::string Key;               ///< tells cases apart when a firing lists its candidates
+  std::string Name;
+  std::string Tag, HiddenTag;
+  std::string TypeCode;  ///< the host's kind of case
+  Date DateCreated, DateClosed;
+  bool Dirty = false;
+  std::shared_ptr<PropertyCollection> UserProperties;  ///< the host's; may be null
+};
+
+}  // namespace vantrel

@@ -1,0 +1,157 @@
+#include "model/Workflow.h"
+
+#include <algorithm>
+
+#include "model/DesignerState.h"
+#include "model/PropertyBuilder.h"
+#include "model/game/FiringNext.h"
+#include "util/Lookup.h"
+
+namespace vantrel {
+
+namespace {
+
+std::shared_ptr<PropertyCollection> CopyByName(const PropertyCollection& pcolDefinitions) {
+  auto properties = std::make_shared<PropertyCollection>();
+  for (const auto& record : pcolDefinitions) {
+    const auto copy = record->Copy();
+    properties->Add(copy, copy->Name);
+  }
+  return properties;
+}
+
+}  // namespace
+
+Workflow::~Workflow() = default;
+
+void Workflow::Dirty(bool pblnDirty) {
+  mblnDirty = pblnDirty;
+  gobjVantrel->Dirty(pblnDirty);
+}
+
+void Workflow::Visible(bool pblnOn) {
+  for (const auto& transition : Transitions) {
+    transition->Visible(pblnOn);
+    transition->Draw();
+  }
+  for (const auto& place : Places) {
+    place->Visible(pblnOn);
+    place->Draw();
+  }
+  mblnVisible = pblnOn;
+}
+
+std::shared_ptr<Token> Workflow::CreateToken(const Ref<vantrel::Place>& pobjPlace, const Ref<Transition>& pobjCreateTransition,
+                                             const std::shared_ptr<WorkCase>& pobjWorkcase) {
+  auto token = std::make_shared<Token>();
+  const std::int32_t number = NextKeyNumber(Tokens);
+  token->Key = KeyOf<Token>(number);
+  token->Name = token->Key;
+  token->Place = pobjPlace;
+  token->CreateTransition = pobjCreateTransition;
+  token->WorkCase = pobjWorkcase;
+  if (const auto& definitions = pobjPlace->TokenProperties) {
+    token->mblnEmptyProperties = definitions->IsEmpty();
+    if (!definitions->IsEmpty()) token->CustomProperties(CopyByName(*definitions));
+  }
+  Tokens.AddNumbered(token, number);
+  return token;
+}
+
+void Workflow::z_StartCase(const std::shared_ptr<WorkCase>& pobjCase) {
+  for (const auto& place : Places) {
+    if (!place->InArcs.IsEmpty()) continue;
+    place->AddToken(CreateToken(place, nullptr, pobjCase));
+  }
+}
+
+void Workflow::FireNext(const std::shared_ptr<Transition>& pobjTransition) {
+  TokenGame::Run<FiringNext>(shared_from_this(), pobjTransition);
+}
+
+void Workflow::TokenAdded(const std::shared_ptr<vantrel::Place>& pobjPlace, const std::shared_ptr<Token>& pobjToken) {
+  OnTokenAdded.Raise(pobjPlace, pobjToken);
+}
+
+std::shared_ptr<Arc> Workflow::CreateArc(const std::shared_ptr<vantrel::Place>& pobjPlace,
+                                         const std::shared_ptr<Transition>& pobjTransition, ArcDirectionConstant pintDirection) {
+  auto arc = std::make_shared<Arc>();
+  auto vector = std::make_shared<Vector>();
+  arc->Workflow = this;
+  arc->Place = pobjPlace;
+  arc->Transition = pobjTransition;
+  arc->ArcDirection = pintDirection;
+  arc->Key = NextKey(Arcs, "Arc");
+  vector->Key = NextKey(Vectors, "Vector");
+  vector->Arc(arc);
+  Arcs.Add(arc, arc->Key);
+  Vectors.Add(vector, vector->Key);
+  if (pintDirection == vntInArc) {
+    pobjTransition->InArcs.Add(arc, arc->Key);
+    pobjPlace->OutArcs.Add(arc, arc->Key);
+  } else if (pintDirection == vntOutArc) {
+    pobjTransition->OutArcs.Add(arc, arc->Key);
+    pobjPlace->InArcs.Add(arc, arc->Key);
+  }
+  return arc;
+}
+
+void Workflow::z_RemoveArc(const std::shared_ptr<Arc>& pobjArc) {
+  const auto elbows = pobjArc->BendPoints();
+  for (const auto& vector : *pobjArc->Vectors()) Vectors.Remove(vector->Key);
+  for (const auto& elbow : elbows) Elbows.Remove(elbow->Key);
+  Arcs.Remove(pobjArc->Key);
+}
+
+bool Workflow::Embeds(const Workflow& pobjOther) const {
+  std::vector<const Workflow*> waiting = {this};
+  while (!waiting.empty()) {
+    const Workflow* workflow = waiting.back();
+    waiting.pop_back();
+    if (workflow == &pobjOther) return true;
+    for (Collection<Transition>::Cursor cursor(workflow->Transitions); const Transition* transition = cursor.Next();) {
+      if (const auto* inner = dynamic_cast<const Workflow*>(transition->Object().get())) waiting.push_back(inner);
+    }
+  }
+  return false;
+}
+
+void Workflow::AddObserver(Transition& pobjTransition) { mcolObservers.emplace_back(&pobjTransition); }
+
+void Workflow::RemoveObserver(const Transition& pobjTransition) {
+  std::erase_if(mcolObservers, [&](const auto& observer) { return !observer || observer == &pobjTransition; });
+}
+
+std::shared_ptr<PropertyCollection> Workflow::GetProperties() {
+  const auto nameOf = [](const Ref<vantrel::Place>& place) { return place ? place->Name() : std::string(); };
+  PropertyBuilder records;
+  auto& start = records.Add("StartPlace", vntPropertyText, "Name of the starting place", nameOf(StartPlace));
+  auto& end = records.Add("EndPlace", vntPropertyText, "Name of the ending place", nameOf(mobjEndPlace));
+  for (const auto& place : Places) {
+    // Places that share a name (SetProperties does not check) share one option.
+    if (place->InArcs.IsEmpty() && !start.Options.Contains(place->Name())) start.AddOption(place->Name(), 0);
+    if (place->OutArcs.IsEmpty() && !end.Options.Contains(place->Name())) end.AddOption(place->Name(), 0);
+  }
+  const PropertyBuilder::Options yesNo = {{"True", true}, {"False", false}};
+  records.Add("CaseTracking", vntPropertyYesNo, "Determines whether case history is enabled.", CaseTracking, yesNo);
+  records.Add("KeepHistory", vntPropertyYesNo, "Determines whether a detailed case hisory is saved.", KeepHistory, yesNo);
+  return records.Done();
+}
+
+void Workflow::Store(const std::string& pstrPropName, const Variant& pvarValue) {
+  if (pstrPropName == "StartPlace") {
+    StartPlace = FindByName(Places, pvarValue.ToText());
+  } else if (pstrPropName == "EndPlace") {
+    mobjEndPlace = FindByName(Places, pvarValue.ToText());
+  } else if (pstrPropName == "CaseTracking") {
+    CaseTracking = pvarValue.ToBoolean();
+  } else if (pstrPropName == "KeepHistory") {
+    KeepHistory = pvarValue.ToBoolean();
+  }
+}
+
+void Workflow::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) {
+  if (Guarded([&] { Store(pstrPropName, pvarValue); })) Dirty(true);
+}
+
+}  // namespace vantrel

@@ -1,0 +1,116 @@
+// A workflow net with everything that belongs to it.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "model/Arc.h"
+#include "model/Elbow.h"
+#include "model/Enumerations.h"
+#include "model/Notation.h"
+#include "model/Place.h"
+#include "model/Token.h"
+#include "model/Transition.h"
+#include "model/Vector.h"
+#include "model/WorkCase.h"
+#include "util/Collection.h"
+#include "util/Event.h"
+
+namespace vantrel {
+
+/// Owns all objects of one net, keyed by their keys, holds the firing stack and reports what the token game does. Always
+/// held by shared_ptr. May run as the subflow of a transition of another workflow.
+class Workflow final : public ModelObject, public std::enable_shared_from_this<Workflow> {
+ public:
+  Workflow() = default;
+  ~Workflow() override;
+
+  std::int32_t DivisionId = 0;  ///< the host's grouping
+  std::int32_t RecId = 0;
+  std::string Key;
+  Variant GUID;  ///< stored with the workflow
+  Collection<vantrel::Place> Places;
+  Collection<Transition> Transitions;
+  Collection<Arc> Arcs;
+  Collection<Vector> Vectors;
+  Collection<Elbow> Elbows;
+  Collection<Notation> Notations;
+  Collection<Token> Tokens;  ///< every token made here, consumed ones included, in order of creation
+  Ref<vantrel::Place> StartPlace;
+  Collection<Transition> FiringStack;  ///< enabled transitions in the order in which they became enabled
+  Date DateEffective;
+  std::string Tag;
+  bool IsRead = false, Loaded = false;  ///< the host's
+  bool CaseTracking = false;            ///< firings work on the tokens of one case
+  bool KeepHistory = false;             ///< tokens stay in the end place
+  bool ShowGuards = false, ShowWeights = false;
+  RunStyleConstant RunStyle = vntSilent;
+  bool LockControls = false;
+  std::int16_t Status = 0;            ///< the host's
+  Ref<Transition> SubflowTransition;  ///< set by a host: the transition that this workflow delivers for when a case ends
+
+  /// A token was added to a place of this workflow.
+  Event<const std::shared_ptr<vantrel::Place>&, const std::shared_ptr<Token>&> OnTokenAdded;
+  /// A firing of one of this workflow's transitions goes on: its tokens are chosen, nothing has moved yet.
+  Event<const std::shared_ptr<Transition>&> OnFiring;
+  /// A token reached the end place, and SubflowTransition is not set.
+  Event<const std::shared_ptr<Token>&> OnCaseFinished;
+
+  std::string Class() const override { return "VNTR.Workflow.1"; }
+  std::string Caption() const { return {}; }
+  std::string ImageKey() const { return "Workflow"; }
+
+  /// Where cases finish; the workflow watches that place.
+  const Ref<vantrel::Place>& EndPlace() const { return mobjEndPlace; }
+  void EndPlace(const Ref<vantrel::Place>& pobjPlace) { mobjEndPlace = pobjPlace; }
+
+  bool Dirty() const { return mblnDirty; }
+  /// Passes the value on to the control, also when unchanged.
+  void Dirty(bool pblnDirty);
+  bool Visible() const { return mblnVisible; }
+  /// Shows or hides and redraws all transitions, then all places.
+  void Visible(bool pblnOn);
+
+  /// Makes a token for a place, with copies of the place's token properties, and registers it in Tokens; does not put it
+  /// into the place. The workflow shares it with the caller.
+  std::shared_ptr<Token> CreateToken(const Ref<vantrel::Place>& pobjPlace, const Ref<Transition>& pobjCreateTransition = nullptr,
+                                     const std::shared_ptr<WorkCase>& pobjWorkcase = nullptr);
+  /// Puts a token of the case into every place without input arcs. Throws like Place::AddToken.
+  void z_StartCase(const std::shared_ptr<WorkCase>& pobjCase);
+  /// Fires the given transition, or the first one on the stack, with no case given; in step-test mode asks first. Nothing
+  /// on the stack, a transition that is not on it and an empty input place end it quietly; any other Error is shown in a
+  /// message box. Never throws Error.
+  void FireNext(const std::shared_ptr<Transition>& pobjTransition = nullptr);
+  /// Raises OnTokenAdded.
+  void TokenAdded(const std::shared_ptr<vantrel::Place>& pobjPlace, const std::shared_ptr<Token>& pobjToken);
+
+  /// Makes an arc with its first segment and links it to both ends; drawing it is the caller's task. Throws Error 457 when
+  /// a key set by hand is in the way.
+  std::shared_ptr<Arc> CreateArc(const std::shared_ptr<vantrel::Place>& pobjPlace, const std::shared_ptr<Transition>& pobjTransition,
+                                 ArcDirectionConstant pintDirection);
+  /// Takes the arc with its segments and bend points out of the workflow; its ends keep it listed.
+  void z_RemoveArc(const std::shared_ptr<Arc>& pobjArc);
+
+  /// True when the other workflow is this one or is embedded in it, however deep.
+  bool Embeds(const Workflow& pobjOther) const;
+
+  std::shared_ptr<PropertyCollection> GetProperties() override;
+  void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
+
+ private:
+  friend class CaseEnd;
+  friend class Transition;
+
+  void AddObserver(Transition& pobjTransition);
+  void RemoveObserver(const Transition& pobjTransition);
+  void Store(const std::string& pstrPropName, const Variant& pvarValue);
+
+  Ref<vantrel::Place> mobjEndPlace;
+  std::vector<Ref<Transition>> mcolObservers;  // transitions that run this workflow as their subflow
+  bool mblnDirty = false;
+  bool mblnVisible = false;
+};
+
+}  // namespace vantrel

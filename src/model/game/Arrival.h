@@ -1,0 +1,31 @@
+// A token arrives in a place.
+#pragma once
+
+#include <memory>
+
+#include "model/Place.h"
+#include "model/game/TokenGame.h"
+
+namespace vantrel {
+
+/// Puts the token into the place, enables what it completes (automatic transitions fire here), and reports it.
+class Arrival final : public GameStep {
+ public:
+  Arrival(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken);
+  bool Advance(TokenGame& pobjGame) override;
+
+ private:
+  enum Stage : std::uint8_t { kPut, kEnable, kReport, kEnd };
+  void Put();
+  bool CompletesInputs(Transition& pobjTransition) const;
+  void Report(TokenGame& pobjGame);
+
+  std::shared_ptr<Place> mobjPlace;
+  std::shared_ptr<Token> mobjToken;
+  std::shared_ptr<WorkCase> mobjCase;
+  Collection<Arc>::Cursor mArcs;
+  Stage mStage = kPut;
+  bool mblnTracking;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,42 @@
+// A token leaves a place.
+#pragma once
+
+#include <memory>
+
+#include "model/Place.h"
+#include "model/game/TokenGame.h"
+
+namespace vantrel {
+
+/// Enables and disables the transitions that a place feeds, by the tokens that it and their other inputs hold now.
+class Reevaluation : public GameStep {
+ public:
+  explicit Reevaluation(std::shared_ptr<Place> pobjPlace);
+  bool Advance(TokenGame& pobjGame) override;
+
+ protected:
+  std::shared_ptr<Place> mobjPlace;
+
+ private:
+  bool HasAllInputs(Transition& pobjTransition) const;
+
+  Collection<Arc>::Cursor mArcs;
+  bool mblnTracking;
+};
+
+/// Takes the token out of the place (a token without key: the first one), then reevaluates what the place feeds. Error 5
+/// when the token does not lie there.
+class Departure final : public Reevaluation {
+ public:
+  Departure(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken);
+  bool Advance(TokenGame& pobjGame) override;
+
+ private:
+  void Take();
+  static void ForgetTaken(Token& pobjToken, const Place& pobjPlace);
+
+  std::shared_ptr<Token> mobjToken;
+  bool mblnTaken = false;
+};
+
+}  // namespace vantrel

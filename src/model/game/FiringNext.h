@@ -1,0 +1,26 @@
+// The next transition on the firing stack fires.
+#pragma once
+
+#include <memory>
+
+#include "model/Workflow.h"
+#include "model/game/TokenGame.h"
+
+namespace vantrel {
+
+/// Takes a transition off the workflow's firing stack and fires it. Errors end here: quietly where there was nothing to
+/// fire, in a message box otherwise. A loop inside a larger operation ends that operation.
+class FiringNext final : public GameStep {
+ public:
+  FiringNext(std::shared_ptr<Workflow> pobjWorkflow, std::shared_ptr<Transition> pobjTransition);
+  bool Advance(TokenGame& pobjGame) override;
+  bool Absorb(const Error& pobjError) override;
+
+ private:
+  std::shared_ptr<Workflow> mobjWorkflow;
+  std::shared_ptr<Transition> mobjTransition;
+  const TokenGame* mobjGame = nullptr;
+  bool mblnStarted = false;
+};
+
+}  // namespace vantrel

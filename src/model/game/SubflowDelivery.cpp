@@ -1,0 +1,106 @@
+#include "model/game/SubflowDelivery.h"
+
+#include "model/DesignerState.h"
+#include "model/game/Arrival.h"
+#include "model/game/Departure.h"
+#include "model/game/FiringNext.h"
+
+namespace vantrel {
+
+SubflowDelivery::SubflowDelivery(std::shared_ptr<Transition> pobjTransition, std::shared_ptr<Token> pobjFinished, Manner pManner)
+    : mobjTransition(std::move(pobjTransition)),
+      mobjFinished(std::move(pobjFinished)),
+      mOutputs(mobjTransition->OutArcs),
+      mManner(pManner) {}
+
+bool SubflowDelivery::Advance(TokenGame& pobjGame) {
+  if (mStage == kStart) {
+    EndRun();
+    if (mManner == kAllAtOnce) MakeAll();
+    mStage = mManner == kAllAtOnce ? kAdd : kProduce;
+  }
+  if (mStage == kDated) {
+    mcolConsumed[mlngNext++]->DateConsumed = Date::Now();
+    mStage = kWithdraw;
+  }
+  switch (mStage) {
+    case kProduce:
+      mStage = Produce(pobjGame);
+      break;
+    case kAdd:
+      mStage = Add(pobjGame);
+      break;
+    case kWithdraw:
+      mStage = Withdraw(pobjGame);
+      break;
+    case kGoOn:
+      mStage = kEnd;
+      if (mManner == kAllAtOnce || !mobjTransition->Workflow) return false;
+      pobjGame.Call<FiringNext>(mobjTransition->Workflow.Lock(), nullptr);
+      break;
+    default:
+      return false;
+  }
+  return true;
+}
+
+// From here on, whatever else finishes for this run comes too late.
+void SubflowDelivery::EndRun() {
+  std::shared_ptr<SubflowRun> run;
+  if (const auto* own = mobjFinished->Run().get(); own && own->Owner() == mobjTransition) {
+    run = SubflowRun::Shared(*own);
+  } else {
+    run = SubflowRun::OldestOf(*mobjTransition, mobjFinished->WorkCase.get());
+  }
+  if (!run) return;
+  mobjOuter = run->Outer();
+  mcolConsumed = run->End();
+}
+
+std::shared_ptr<Token> SubflowDelivery::MakeToken(const Arc& pobjArc, Workflow& pobjWorkflow) const {
+  auto token = pobjWorkflow.CreateToken(pobjArc.Place, mobjTransition, mobjFinished->WorkCase);
+  token->Tag = mobjFinished->Tag;
+  token->CustomProperties(mobjFinished->CustomProperties());
+  token->mobjRun = mobjOuter;
+  return token;
+}
+
+void SubflowDelivery::MakeAll() {
+  Workflow& workflow = gobjWorkflow ? *gobjWorkflow : *mobjTransition->Workflow;
+  while (const Arc* arc = mOutputs.Next()) mcolMade.push_back(MakeToken(*arc, workflow));
+}
+
+SubflowDelivery::Stage SubflowDelivery::Produce(TokenGame& pobjGame) {
+  const Arc* arc = mOutputs.Next();
+  if (!arc) return kWithdraw;
+  const auto token = MakeToken(*arc, *mobjTransition->Workflow);
+  pobjGame.Call<Arrival>(arc->Place->Share(), token);
+  return kProduce;
+}
+
+SubflowDelivery::Stage SubflowDelivery::Add(TokenGame& pobjGame) {
+  if (mlngNext >= mcolMade.size()) {
+    mlngNext = 0;
+    return kWithdraw;
+  }
+  const auto& token = mcolMade[mlngNext++];
+  pobjGame.Call<Arrival>(token->Place->Share(), token);
+  return kAdd;
+}
+
+SubflowDelivery::Stage SubflowDelivery::Withdraw(TokenGame& pobjGame) {
+  while (mlngNext < mcolConsumed.size()) {
+    const auto& token = mcolConsumed[mlngNext];
+    token->mblnTaken = false;
+    const auto place = token->Place.Lock();
+    if (place && place->Tokens().Find(token->Key) == token) {
+      token->ConsumeTransition = mobjTransition;
+      pobjGame.Call<Departure>(place, token);
+      return kDated;
+    }
+    ++mlngNext;  // taken away by hand meanwhile
+  }
+  return kGoOn;
+}
+
+}  // namespace vantrel

@@ -1,0 +1,98 @@
+// The stack on which the token game runs.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <new>
+#include <utility>
+#include <vector>
+
+#include "model/Forward.h"
+#include "model/game/GameStep.h"
+
+namespace vantrel {
+
+/// Runs operations (GameStep) depth first, in the order in which plain calls would run, without the depth of plain calls.
+/// One per process, for the one thread that the model lives in.
+///
+/// Automatic transitions that feed themselves would run for ever. Two bounds stop them with Error 28, which names the
+/// transition; what was produced until then stays, and no token is half moved.
+class TokenGame {
+ public:
+  /// Runs an operation with all that it calls. May be called while one is running, from a listener of an event.
+  template <class Step, class... Args>
+  static void Run(Args&&... args) {
+    TokenGame& game = Instance();
+    const Nesting nesting(game);
+    GameStep* const below = game.mTop;
+    game.Call<Step>(std::forward<Args>(args)...);
+    game.RunDownTo(below);
+  }
+
+  /// Puts an operation on the stack, to be run before the step that calls this is advanced again.
+  template <class Step, class... Args>
+  void Call(Args&&... args) {
+    static_assert(sizeof(Step) <= kChunkSize && alignof(Step) <= alignof(std::max_align_t));
+    const Room room = Take(sizeof(Step));
+    Step* step = nullptr;
+    try {
+      step = new (room.At) Step(std::forward<Args>(args)...);
+    } catch (...) {
+      GiveBack(room.Chunk, room.Offset);
+      throw;
+    }
+    step->mChunk = room.Chunk;
+    step->mOffset = room.Offset;
+    step->mBelow = mTop;
+    mTop = step;
+  }
+
+  /// True for the step that everything else on the stack was called from.
+  bool IsOutermost(const GameStep& pobjStep) const { return pobjStep.mBelow == nullptr; }
+
+  /// A firing starts to produce output, or has ended it. Throws Error 28 instead when this can only be a loop.
+  void EnterOutput(Transition& pobjTransition);
+  void LeaveOutput(Transition& pobjTransition);
+
+ private:
+  static constexpr std::size_t kChunkSize = 64 * 1024;
+  // A place may hold this many tokens that an automatic transition takes one inside the removal of the other, and a chain
+  // of automatic transitions may be this long; about half a gigabyte of steps and tokens.
+  static constexpr std::int32_t kDeepestFiring = 1'000'000;
+  // Only a loop lets a transition produce while an output of its own is under way. Users may leave a loop by a choice, but
+  // not after so many rounds.
+  static constexpr std::int32_t kMostRounds = 10'000;
+  // Listeners that move tokens do take room on the thread's stack.
+  static constexpr std::int32_t kDeepestNesting = 500;
+
+  struct Room {
+    void* At;
+    std::uint32_t Chunk, Offset;  // the end of the stack before
+  };
+  class Nesting {
+   public:
+    explicit Nesting(TokenGame& pobjGame);
+    ~Nesting() { --mGame.mNestedRuns; }
+    Nesting(const Nesting&) = delete;
+    Nesting& operator=(const Nesting&) = delete;
+
+   private:
+    TokenGame& mGame;
+  };
+
+  static TokenGame& Instance();
+  void RunDownTo(GameStep* pobjBelow);
+  void Pop();
+  bool Absorbed(const Error& pobjError, const GameStep* pobjBelow);
+  Room Take(std::size_t plngSize);
+  void GiveBack(std::uint32_t plngChunk, std::uint32_t plngOffset);
+
+  GameStep* mTop = nullptr;
+  std::vector<std::unique_ptr<std::byte[]>> mChunks;
+  std::uint32_t mChunk = 0, mOffset = 0;
+  std::int32_t mOutputsUnderWay = 0;
+  std::int32_t mNestedRuns = 0;
+};
+
+}  // namespace vantrel
