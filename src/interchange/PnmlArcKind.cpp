@@ -1,0 +1,32 @@
+#include "interchange/PnmlArcKind.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "interchange/PnmlXml.h"
+
+namespace vantrel {
+
+namespace {
+
+bool IsOrdinary(const std::string& pstrKind) {
+  std::string kind = pstrKind;
+  std::transform(kind.begin(), kind.end(), kind.begin(),
+                 [](char letter) { return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter; });
+  return kind.find_first_not_of(" \t\r\n") == std::string::npos || kind == "normal" || kind == "ordinary";
+}
+
+}  // namespace
+
+std::optional<std::string> ForeignArcKind(const pugi::xml_node& pobjArc) {
+  if (const std::string kind = pobjArc.attribute("type").value(); !IsOrdinary(kind)) return kind;
+  for (const pugi::xml_node& child : pobjArc.children()) {
+    const std::string_view name = LocalName(child);
+    if (name != "type" && name != "arctype") continue;
+    if (const std::string kind = child.attribute("value").value(); !IsOrdinary(kind)) return kind;
+    if (auto kind = LabelText(child); kind && !IsOrdinary(*kind)) return kind;
+  }
+  return std::nullopt;
+}
+
+}  // namespace vantrel

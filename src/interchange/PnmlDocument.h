@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "interchange/PlanePoint.h"
+
+namespace vantrel {
+
+/// In the units of the file: pixels.
+using PnmlPoint = PlanePoint;
+
+enum class PnmlKind : std::uint8_t { Place, Transition };
+
+/// What a place of a sub-process page is to the transition around it.
+enum class PnmlBorder : std::uint8_t { None, Start, End };
+
+struct PnmlNet;
+
+/// A place or a transition as the file has it.
+struct PnmlNode {
+  PnmlKind Kind = PnmlKind::Place;
+  std::string Id;  ///< unique within its net; any text, spaces included
+  std::string Name;
+  bool HasName = false;
+  std::optional<PnmlPoint> Position;    ///< the node's centre
+  std::optional<PnmlPoint> NameOffset;  ///< of the caption, counted from Position
+  std::int32_t InitialMarking = 0;      ///< tokens of a place, never negative
+  PnmlBorder Border = PnmlBorder::None;
+  std::unique_ptr<PnmlNet> Subnet;  ///< the sub-process of a transition, or nothing
+};
+
+/// An arc; a place is at one end and a transition at the other.
+struct PnmlArc {
+  std::string Id;                ///< may be empty or repeated: nothing refers to an arc
+  std::string Source, Target;    ///< ids of nodes of the same net, never those of reference nodes
+  std::string Weight = "1";      ///< a positive integer
+  std::vector<PnmlPoint> Bends;  ///< from source to target, without the ends
+};
+
+/// One place/transition net: every page of it taken together.
+struct PnmlNet {
+  std::string Id, Type, Name;
+  std::vector<PnmlNode> Nodes;  ///< in the order of the file
+  std::vector<PnmlArc> Arcs;    ///< in the order of the file
+  /// One line for every arc left out because place/transition nets have none of its kind; see PnmlOptions::SkipUnsupported.
+  std::vector<std::string> Skipped;
+};
+
+}  // namespace vantrel

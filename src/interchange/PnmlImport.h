@@ -1,0 +1,39 @@
+// From a PNML file to a workflow.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "interchange/PnmlReader.h"
+#include "model/Workflow.h"
+
+namespace vantrel {
+
+/// Tokens that a file puts into a place before anything fires.
+struct InitialTokens {
+  std::shared_ptr<Place> Where;
+  std::int32_t Count = 0;
+};
+
+/// A workflow that came from a file, with what the file says of it besides.
+struct ImportedNet {
+  std::shared_ptr<vantrel::Workflow> Workflow;
+  std::string Id;
+  std::string Name;                    ///< the net's name, or its id where it has none
+  std::vector<InitialTokens> Marking;  ///< in the order of the places; places without tokens are left out
+  std::vector<std::string> Skipped;    ///< one line for every arc left out, see PnmlOptions::SkipUnsupported
+  std::int32_t SourcePlaces = 0;       ///< places without input arcs; one makes the start place
+  std::int32_t SinkPlaces = 0;         ///< places without output arcs; one makes the end place
+};
+
+/// Reads a net and builds its workflow: keys in document order, the file's ids in HiddenTag, names unique per kind, pixels
+/// of the file as twips (15 each), a layout where the file has none that is of use. Throws PnmlError and leaves nothing
+/// behind.
+ImportedNet ImportPnml(const std::string& pstrPath, const PnmlOptions& pobjOptions = {});
+
+/// Builds the workflow of a net that has been read; sub-process nets become embedded workflows of their transitions.
+ImportedNet BuildWorkflow(const PnmlNet& pobjNet);
+
+}  // namespace vantrel

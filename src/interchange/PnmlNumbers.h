@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace vantrel {
+
+/// Numbers as net files write them: with a point, whatever the process's locale, and nothing around them.
+
+/// A coordinate in pixels; nothing for a text that is no finite number within ten million pixels of zero.
+std::optional<double> ParseCoordinate(std::string_view pstrText);
+
+/// A whole number from 0 to 2^31 - 1; nothing for any other text. An editor that knows several kinds of tokens writes `Default,3` for three
+/// of the ordinary ones.
+std::optional<std::int32_t> ParseCount(std::string_view pstrText);
+
+}  // namespace vantrel

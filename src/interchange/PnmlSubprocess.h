@@ -1,0 +1,31 @@
+#pragma once
+
+#include <set>
+#include <string_view>
+#include <unordered_set>
+#include <utility>
+
+#include "interchange/PnmlDocument.h"
+
+namespace vantrel {
+
+/// Tells what the places are through which a sub-process touches the net around its transition: both nets have them, under the same id.
+class PnmlSubprocessBorder {
+ public:
+  /// pobjOuter is the net with the transition; its nodes and arcs must stay while this lives.
+  explicit PnmlSubprocessBorder(const PnmlNet& pobjOuter);
+
+  /// Sets Border of the shared places: Start where no arc of the sub-process leads in, End where none leads out. For a place that has no
+  /// arc inside at all, the arcs between it and the transition decide.
+  void Mark(PnmlNet& pobjSubnet, std::string_view pstrTransition) const;
+
+ private:
+  using Ends = std::pair<std::string_view, std::string_view>;
+
+  PnmlBorder Kind(std::string_view pstrPlace, std::string_view pstrTransition, bool pblnEntered, bool pblnLeft) const;
+
+  std::unordered_set<std::string_view> mPlaces;
+  std::set<Ends> mArcs;  // source and target
+};
+
+}  // namespace vantrel

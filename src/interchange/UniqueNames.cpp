@@ -1,0 +1,28 @@
+#include "interchange/UniqueNames.h"
+
+namespace vantrel {
+
+UniqueNames::UniqueNames(std::string pstrWord, const std::vector<std::string>& pcolGiven) : mcolNames(pcolGiven) {
+  std::vector<std::size_t> nameless;
+  for (std::size_t i = 0; i < mcolNames.size(); ++i) {
+    if (mcolNames[i].empty() || !mcolTaken.insert(mcolNames[i]).second) nameless.push_back(i);
+  }
+  for (const std::size_t i : nameless) {
+    if (mcolNames[i].empty() && mcolTaken.insert(pstrWord).second) {
+      mcolNames[i] = pstrWord;
+    } else {
+      mcolNames[i] = FreeName(mcolNames[i].empty() ? pstrWord : mcolNames[i]);
+    }
+  }
+}
+
+std::string UniqueNames::FreeName(const std::string& pstrPrefix) {
+  int& number = mcolNumbers[pstrPrefix];
+  std::string name;
+  do {
+    name = pstrPrefix + std::to_string(++number);
+  } while (!mcolTaken.insert(name).second);
+  return name;
+}
+
+}  // namespace vantrel

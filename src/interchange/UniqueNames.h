@@ -1,0 +1,29 @@
+// Names for objects that come from a file.
+#pragma once
+
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace vantrel {
+
+/// Makes the names of one kind of object unique. Every name that the file gives keeps to the first object that has it; an
+/// object without name, or with one that is taken, gets the next free one: the name (or the kind's word) and a number.
+class UniqueNames {
+ public:
+  UniqueNames(std::string pstrWord, const std::vector<std::string>& pcolGiven);
+
+  /// The name for the next object, in the order of the given names.
+  const std::string& Next() { return mcolNames[mlngNext++]; }
+
+ private:
+  std::string FreeName(const std::string& pstrPrefix);
+
+  std::unordered_set<std::string> mcolTaken;
+  std::unordered_map<std::string, int> mcolNumbers;  // last number tried behind a prefix
+  std::vector<std::string> mcolNames;
+  std::size_t mlngNext = 0;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace vantrel {
+
+/// The text of an XML file as UTF-8.
+struct XmlText {
+  std::string Utf8;         ///< without a byte order mark
+  bool Transcoded = false;  ///< true when the file has another encoding than UTF-8
+};
+
+/// True for a character that a document may hold (XML 1.0, production 2).
+bool IsXmlCharacter(char32_t plngCode);
+
+/// Decodes a file by its byte order mark, the form of its first bytes or the encoding that it declares (XML 1.0, appendix F):
+/// UTF-8, UTF-16, US-ASCII, ISO-8859-1 and windows-1252.
+/// Throws XmlFault for another encoding, bytes that the encoding does not have and characters that XML does not allow; pobjText then holds
+/// what comes before the fault.
+void DecodeXml(std::string_view pstrBytes, XmlText& pobjText);
+
+}  // namespace vantrel
