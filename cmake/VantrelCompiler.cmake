@@ -36,7 +36,7 @@ if(VANTREL_WERROR)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Guesses that come and go with the optimiser's inlining: worth reading, not worth a broken build.
     target_compile_options(vantrel_warnings INTERFACE
-      -Wno-error=maybe-uninitialized -Wno-error=array-bounds -Wno-error=stringop-overflow)
+      -Wno-error=maybe-uninitialized -Wno-error=use-after-free -Wno-error=free-nonheap-object -Wno-error=array-bounds -Wno-error=stringop-overflow)
   endif()
 endif()
 

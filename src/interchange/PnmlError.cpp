@@ -26,7 +26,8 @@ std::string At(const TextPosition& pobjPosition) {
 
 }  // namespace
 
-PnmlError::PnmlError(const std::string& pstrFile, const std::string& pstrWhat) : Error(vntErrFileFormat, OneLine(pstrFile + ": " + pstrWhat)) {}
+PnmlError::PnmlError(const std::string& pstrFile, const std::string& pstrWhat)
+    : Error(vntErrFileFormat, OneLine(pstrFile + ": " + pstrWhat)) {}
 
 PnmlError::PnmlError(const std::string& pstrFile, const std::string& pstrWhat, const TextPosition& pobjPosition)
     : PnmlError(pstrFile, pstrWhat + At(pobjPosition)) {}

@@ -88,7 +88,8 @@ void Arc::Visible(bool pblnOn) {
 
 void Arc::ShowFocus(bool pblnOn) {
   for (Vector* segment : Segments()) segment->LineWidth(pblnOn ? 2 : 1);
-  for (const auto& elbow : *Elbows()) elbow->Visible(pblnOn);
+  const auto elbows = Elbows();
+  for (const auto& elbow : *elbows) elbow->Visible(pblnOn);
 }
 
 void Arc::Selected(bool pblnOn) {

@@ -76,7 +76,8 @@ class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
   float WeightWidth() const { return msngWeightWidth; }
   void WeightWidth(float psngWidth);
 
-  /// A new collection of the segments that the workflow has, keyed by their keys, in its order; null without a workflow.
+  /// A new collection of the segments that the workflow has, keyed by their keys, in its order; null without a workflow. It is
+  /// the caller's: keep it in a variable while walking it (`for (... : *arc->Vectors())` walks one that is gone).
   std::shared_ptr<Collection<Vector>> Vectors() const;
   /// A new collection of the bend points that the shown workflow has (the arc's own while none is shown), keyed by their
   /// keys, in its order; empty for a straight arc.
@@ -95,7 +96,7 @@ class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
   void RemoveVector(const std::shared_ptr<Vector>& pobjVector);
 
   /// An arc of the same direction, labels and path between two other objects, added to a workflow, moved by as much as the
-  /// place is; segments linked and with bend points where this arc has them, without chart elements. Linking it to the
+  /// place is; segments linked and with bend points where this arc has them, without lines or labels. Linking it to the
   /// ends' InArcs and OutArcs is the caller's task.
   std::shared_ptr<Arc> Clone(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow, const std::shared_ptr<vantrel::Place>& pobjPlace,
                              const std::shared_ptr<vantrel::Transition>& pobjTransition) const;

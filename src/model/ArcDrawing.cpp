@@ -53,7 +53,8 @@ void DrawSegments(const std::vector<Vector*>& pcolSegments, std::optional<Point>
 }
 
 void DrawBendPoints(const Arc& pobjArc) {
-  for (const auto& elbow : *pobjArc.Elbows()) {
+  const auto elbows = pobjArc.Elbows();
+  for (const auto& elbow : *elbows) {
     if (elbow->InVector()) elbow->CentreHandle(elbow->InVector()->X2(), elbow->InVector()->Y2());
     elbow->Visible(pobjArc.Selected());
   }

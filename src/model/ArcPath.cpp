@@ -67,22 +67,24 @@ std::shared_ptr<Vector> Arc::InsertVector(const std::shared_ptr<Vector>& pobjVec
 }
 
 void Arc::RemoveVector(const std::shared_ptr<Vector>& pobjVector) {
+  const auto vector = pobjVector;  // the caller's may be the workflow's own share, which goes
   vantrel::Workflow& workflow = *Workflow;
+  if (workflow.Vectors.Find(vector->Key) != vector) throw Error(vntErrInvalidCall);
   const auto bendPoints = BendPoints();
-  const auto before = pobjVector->InVector, behind = pobjVector->OutVector;
+  const auto before = vector->InVector, behind = vector->OutVector;
   if (before) before->OutVector = behind;
   if (behind) behind->InVector = before;
   for (Elbow* elbow : bendPoints) {
-    const bool joinsNothing = elbow->InVector() == pobjVector && !before;
-    if (bendPoints.size() == 1 || elbow->OutVector() == pobjVector || joinsNothing) {
+    const bool joinsNothing = elbow->InVector() == vector && !before;
+    if (bendPoints.size() == 1 || elbow->OutVector() == vector || joinsNothing) {
       workflow.Elbows.Remove(elbow->Key);
-    } else if (elbow->InVector() == pobjVector) {
+    } else if (elbow->InVector() == vector) {
       elbow->InVector(before.Lock());
     }
   }
-  workflow.Vectors.Remove(pobjVector->Key);
-  if (pobjVector->LineControl) pobjVector->LineControl->Unload();
-  pobjVector->Arc(nullptr);
+  workflow.Vectors.Remove(vector->Key);
+  if (vector->LineControl) vector->LineControl->Unload();
+  vector->Arc(nullptr);
   workflow.Dirty(true);
   Dirty = true;
   Draw();
@@ -104,6 +106,8 @@ void Arc::CopySettings(const Arc& pobjFrom) {
 
 std::shared_ptr<Arc> Arc::Clone(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow, const std::shared_ptr<vantrel::Place>& pobjPlace,
                                 const std::shared_ptr<vantrel::Transition>& pobjTransition) const {
+  const float dx = std::nearbyint(pobjPlace->Left() - Place->Left());
+  const float dy = std::nearbyint(pobjPlace->Top() - Place->Top());
   auto arc = std::make_shared<Arc>();
   arc->Workflow = pobjWorkflow;
   arc->Place = pobjPlace;
@@ -113,8 +117,6 @@ std::shared_ptr<Arc> Arc::Clone(const std::shared_ptr<vantrel::Workflow>& pobjWo
   pobjWorkflow->Arcs.Add(arc, arc->Key);
   arc->CopySettings(*this);
 
-  const float dx = std::nearbyint(pobjPlace->Left() - Place->Left());
-  const float dy = std::nearbyint(pobjPlace->Top() - Place->Top());
   std::unordered_map<const Vector*, std::shared_ptr<Vector>> copies;
   const auto segments = Segments();
   for (const Vector* segment : segments) {

@@ -5,6 +5,7 @@
 namespace vantrel {
 
 void ModelObject::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
+  if (!pcolProperties) throw Error(vntErrObjectNotSet);
   for (const auto& record : *pcolProperties) {
     const Variant value = record->Value;
     SetProperty(record->Name, value);

@@ -17,7 +17,8 @@ class ModelObject : public Object {
   /// whose records are their own, such as tokens, say so.)
   virtual std::shared_ptr<PropertyCollection> GetProperties() = 0;
 
-  /// Applies every record in the collection's order: its value, stored under its name.
+  /// Applies every record in the collection's order: its value, stored under its name. Error 91 for none. Where
+  /// a class stores some names straight into its fields, a value that does not convert throws its Error to the caller.
   virtual void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties);
 
   /// Stores one value under a name (exact comparison), converted to the setting's type, and marks the object and its

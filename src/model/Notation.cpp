@@ -95,10 +95,10 @@ std::shared_ptr<PropertyCollection> Notation::GetProperties() {
   PropertyBuilder records;
   const PropertyBuilder::Options yesNo = {{"True", true}, {"False", false}};
   records.Add("Caption", vntPropertyMultiLine, "Note text.", Caption);
-  records.Add("Alignment", vntPropertyNoteChoice, "Text alignment.", Alignment, {{"Left", 0}, {"Right", 1}, {"Center", 2}});
-  records.Add("Appearance", vntPropertyNoteChoice, "Text alignment.", Appearance, {{"Flat", 0}, {"3D", 1}});
-  records.Add("BackStyle", vntPropertyNoteChoice, "Back style.", BackStyle, {{"Transparent", 0}, {"Opaque", 1}});
-  records.Add("BorderStyle", vntPropertyNoteChoice, "Border style.", BorderStyle, {{"None", 0}, {"Fixed Single", 1}});
+  records.Add("Alignment", vntPropertyNoteChoice, "Text alignment.", std::int32_t{Alignment}, {{"Left", 0}, {"Right", 1}, {"Center", 2}});
+  records.Add("Appearance", vntPropertyNoteChoice, "Text alignment.", std::int32_t{Appearance}, {{"Flat", 0}, {"3D", 1}});
+  records.Add("BackStyle", vntPropertyNoteChoice, "Back style.", std::int32_t{BackStyle}, {{"Transparent", 0}, {"Opaque", 1}});
+  records.Add("BorderStyle", vntPropertyNoteChoice, "Border style.", std::int32_t{BorderStyle}, {{"None", 0}, {"Fixed Single", 1}});
   records.Add("BackColor", vntPropertyColor, "Background color.", BackColor);
   records.Add("ForeColor", vntPropertyColor, "Text color.", ForeColor);
   auto& font = records.Add("Font", vntPropertyText, "Font name.", Font);

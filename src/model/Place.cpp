@@ -5,6 +5,7 @@
 #include "model/PropertyBuilder.h"
 #include "model/Workflow.h"
 #include "model/game/Arrival.h"
+#include "model/game/CaseIndex.h"
 #include "model/game/Departure.h"
 #include "util/Lookup.h"
 #include "util/MsgBox.h"
@@ -19,7 +20,12 @@ constexpr float kCountGap = 75;  // twips between the image and the token count 
 
 Place::Place() : Node("PlaceGreen", "Place"), TokenProperties(std::make_shared<PropertyCollection>()) {}
 
-void Place::AddToken(const std::shared_ptr<Token>& pobjToken) { TokenGame::Run<Arrival>(Share(), pobjToken); }
+Place::~Place() = default;
+
+void Place::AddToken(const std::shared_ptr<Token>& pobjToken) {
+  if (!pobjToken) throw Error(vntErrInvalidCall);
+  TokenGame::Run<Arrival>(Share(), pobjToken);
+}
 
 void Place::RemoveToken(const std::shared_ptr<Token>& pobjToken) { TokenGame::Run<Departure>(Share(), pobjToken); }
 
@@ -89,6 +95,7 @@ std::shared_ptr<PropertyCollection> Place::GetProperties() {
 }
 
 void Place::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
+  if (!pcolProperties) throw Error(vntErrObjectNotSet);
   for (const auto& record : *pcolProperties) {
     const Variant value = record->Value;
     if (record->Name == "Name") {

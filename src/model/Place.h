@@ -7,11 +7,14 @@
 
 namespace vantrel {
 
+class CaseIndex;
+
 /// Holds tokens in order of arrival and draws itself as a picture with a caption, a token count and two connectors. Names
 /// the properties that tokens lying in it receive.
 class Place final : public Node {
  public:
   Place();
+  ~Place() override;
 
   /// Definitions of the tokens' own properties; the place's own collection, never null unless a host makes it so.
   std::shared_ptr<PropertyCollection> TokenProperties;
@@ -51,7 +54,8 @@ class Place final : public Node {
   /// Refuses a name that a place of the workflow already has, its own included (message box), and keeps the old one.
   void Name(const std::string& pstrName);
   using Node::Visible;
-  /// Shows or hides image, caption and the place's arcs.
+  /// Shows or hides image, caption and the arcs that InArcs and OutArcs list; draws when showing. Nothing but the stored value
+  /// changes while there is no image.
   void Visible(bool pblnOn) override;
   /// The case that waits here can go on: the image shows it.
   bool CaseEnabled() const { return mblnCaseEnabled; }
@@ -71,11 +75,16 @@ class Place final : public Node {
   std::shared_ptr<Place> Clone() const;
 
  private:
+  friend class Arrival;
+  friend class CaseIndex;
+  friend class Departure;
+
   void MarkDirty() override { mblnDirty = true; }
   void DrawCount();
   void Store(const std::string& pstrPropName, const Variant& pvarValue);
 
   Collection<Token> mcolTokens;
+  mutable std::unique_ptr<CaseIndex> mobjCases;  // only while many tokens lie here
   std::shared_ptr<vantrel::Object> mobjObject;
   float mTokenCount = 0;
   std::int32_t mRecId = 0;

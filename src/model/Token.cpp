@@ -26,6 +26,7 @@ void Token::CustomProperties(const std::shared_ptr<PropertyCollection>& pcolProp
 
 void Token::CaseEnabled(bool pblnOn) {
   mblnCaseEnabled = pblnOn;
+  if (!pblnOn) CaseLink::CountChange();
   if (!pblnOn) return;
   if (auto* place = Place.get()) place->CaseEnabled(true);
 }
@@ -33,7 +34,7 @@ void Token::CaseEnabled(bool pblnOn) {
 void Token::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) {
   const bool stored = Guarded([&] {
     if (!CustomProperties()) throw Error(vntErrObjectNotSet);
-    for (const auto& record : *CustomProperties()) {
+    for (const auto& record : *mcolCustomProperties) {
       if (record->Name != pstrPropName) continue;
       record->Value = pvarValue;
       break;

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "model/CaseLink.h"
 #include "model/Enumerations.h"
 #include "model/Forward.h"
 #include "model/ModelObject.h"
@@ -24,12 +25,12 @@ class Token final : public ModelObject {
   Token();
   ~Token() override;
 
-  std::string Key;                              ///< in the workflow's Tokens and the place's Tokens; "Token" and a number
-  std::string Name;                             ///< equal to Key when nobody gave another
-  std::shared_ptr<vantrel::WorkCase> WorkCase;  ///< nothing for an anonymous token
-  Ref<vantrel::Place> Place;                    ///< where it lies
-  Ref<Transition> CreateTransition;             ///< nothing for start tokens
-  Ref<Transition> ConsumeTransition;            ///< nothing while it is not consumed
+  std::string Key;                    ///< in the workflow's Tokens and the place's Tokens; "Token" and a number
+  std::string Name;                   ///< equal to Key when nobody gave another
+  CaseLink WorkCase;                  ///< nothing for an anonymous token
+  Ref<vantrel::Place> Place;          ///< where it lies
+  Ref<Transition> CreateTransition;   ///< nothing for start tokens
+  Ref<Transition> ConsumeTransition;  ///< nothing while it is not consumed
   Date DateCreated;
   Date DateConsumed;        ///< the zero date while it is not consumed
   RareText Tag, HiddenTag;  ///< free; Tag goes on to the tokens that a subflow produces
@@ -38,7 +39,7 @@ class Token final : public ModelObject {
   std::int32_t RecId = 0;
   std::int32_t CreateUserId = 0, ConsumeUserId = 0;
   TokenStatusConstant Status = txQueued;
-  bool mblnCaseEnabled = false;  ///< what CaseEnabled reads and sets
+  bool mblnCaseEnabled = false;  ///< what CaseEnabled reads and sets; set it back to false through CaseEnabled
   bool Dirty = false;            ///< changed since the last save
 
   std::string Class() const override { return "VNTR.Token.1"; }

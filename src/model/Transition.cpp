@@ -67,6 +67,11 @@ bool Transition::SwitchEnabled(bool pblnEnabled) {
   return pblnEnabled && mTriggerType == vntAutomatic;
 }
 
+void Transition::WaitAgain() {
+  auto* workflow = Workflow.get();
+  if (mblnEnabled && workflow) workflow->FiringStack.AddIfMissing(Key, [this] { return Share(); });
+}
+
 void Transition::Object(const std::shared_ptr<vantrel::Object>& pobjObject) {
   const auto workflow = std::dynamic_pointer_cast<vantrel::Workflow>(pobjObject);
   if (workflow && Workflow && workflow->Embeds(*Workflow)) {
@@ -124,6 +129,7 @@ std::shared_ptr<PropertyCollection> Transition::GetProperties() {
 }
 
 void Transition::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
+  if (!pcolProperties) throw Error(vntErrObjectNotSet);
   for (const auto& record : *pcolProperties) {
     const Variant value = record->Value;
     if (record->Name == "Name") {
@@ -179,7 +185,7 @@ void Transition::SetProperty(const std::string& pstrPropName, const Variant& pva
 std::shared_ptr<Transition> Transition::Clone() const {
   auto clone = std::make_shared<Transition>();
   clone->CopyLook(*this);
-  clone->mobjObject = mobjObject;
+  clone->Object(mobjObject);
   clone->ObjectClassName = ObjectClassName;
   clone->ObjectName = ObjectName;
   clone->Duration = Duration;

@@ -67,6 +67,8 @@ class Transition final : public Node {
   const std::shared_ptr<vantrel::Object>& Object() const { return mobjObject; }
   /// Throws Error 5 for a workflow that is, or somewhere inside contains, this transition's own.
   void Object(const std::shared_ptr<vantrel::Object>& pobjObject);
+  /// Forgets the firings whose subflow has not delivered yet, and lets go of the tokens they had taken: for a reset.
+  void CancelRuns() { mcolRuns.clear(); }
   /// The workflow whose finished cases make this transition deliver its output; set by Fire.
   const std::shared_ptr<vantrel::Workflow>& Subflow() const { return mobjSubflow; }
   void Subflow(const std::shared_ptr<vantrel::Workflow>& pobjSubflow);
@@ -83,11 +85,13 @@ class Transition final : public Node {
   /// A share in this transition.
   std::shared_ptr<Transition> Share() { return std::static_pointer_cast<Transition>(shared_from_this()); }
   /// A transition of the same look, types, action and embedded object, marked dirty; the caller names and places it.
+  /// Throws Error 5 when that would put a workflow into itself.
   std::shared_ptr<Transition> Clone() const;
 
  private:
   friend class Arrival;
   friend class Firing;
+  friend class FiringNext;
   friend class Reevaluation;
   friend class SubflowRun;
   friend class TokenGame;
@@ -97,6 +101,8 @@ class Transition final : public Node {
   void Store(const std::string& pstrPropName, const Variant& pvarValue);
   // Everything that setting Enabled does but the firing. True when the transition has to fire now.
   bool SwitchEnabled(bool pblnEnabled);
+  // Back on the firing stack, if FireNext took it off for a firing that the user then called off.
+  void WaitAgain();
   // Whether every input place passes. Asks first where the last question ended: a join of many branches is asked for each
   // token that arrives, and is usually held up by the same few inputs.
   template <class Passes>
@@ -106,7 +112,8 @@ class Transition final : public Node {
   std::shared_ptr<vantrel::Workflow> mobjSubflow;
   std::vector<std::shared_ptr<SubflowRun>> mcolRuns;  // firings whose subflow has not delivered yet, oldest first
   std::int64_t mHeldUpAt = 0;                         // rank of the input arc that failed the last question of AllInputs
-  std::int32_t mOutputsUnderWay = 0;                  // firings, one inside the other, that are producing output now
+  std::int32_t mFiringsUnderWay = 0;
+  std::int32_t mOutputsUnderWay = 0;  // firings, one inside the other, that are producing output now
   OutputTypes mOutputType = vntBroadcast;
   TriggerTypes mTriggerType = vntUser;
   bool mblnEnabled = false;

@@ -1,6 +1,7 @@
 #include "model/Workflow.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "model/DesignerState.h"
 #include "model/PropertyBuilder.h"
@@ -45,11 +46,12 @@ std::shared_ptr<Token> Workflow::CreateToken(const Ref<vantrel::Place>& pobjPlac
                                              const std::shared_ptr<WorkCase>& pobjWorkcase) {
   auto token = std::make_shared<Token>();
   const std::int32_t number = NextKeyNumber(Tokens);
-  token->Key = KeyOf<Token>(number);
-  token->Name = token->Key;
+  const KeyText key(KeyWordOf<Token>::Value, number);
+  token->Key = key.View();
+  token->Name = key.View();
   token->Place = pobjPlace;
   token->CreateTransition = pobjCreateTransition;
-  token->WorkCase = pobjWorkcase;
+  token->WorkCase.Begin(pobjWorkcase);
   if (const auto& definitions = pobjPlace->TokenProperties) {
     token->mblnEmptyProperties = definitions->IsEmpty();
     if (!definitions->IsEmpty()) token->CustomProperties(CopyByName(*definitions));
@@ -59,6 +61,7 @@ std::shared_ptr<Token> Workflow::CreateToken(const Ref<vantrel::Place>& pobjPlac
 }
 
 void Workflow::z_StartCase(const std::shared_ptr<WorkCase>& pobjCase) {
+  const auto keeper = shared_from_this();  // a listener may let go of the workflow
   for (const auto& place : Places) {
     if (!place->InArcs.IsEmpty()) continue;
     place->AddToken(CreateToken(place, nullptr, pobjCase));
@@ -97,18 +100,22 @@ std::shared_ptr<Arc> Workflow::CreateArc(const std::shared_ptr<vantrel::Place>& 
 }
 
 void Workflow::z_RemoveArc(const std::shared_ptr<Arc>& pobjArc) {
+  if (Arcs.Find(pobjArc->Key) != pobjArc) throw Error(vntErrInvalidCall);
   const auto elbows = pobjArc->BendPoints();
-  for (const auto& vector : *pobjArc->Vectors()) Vectors.Remove(vector->Key);
-  for (const auto& elbow : elbows) Elbows.Remove(elbow->Key);
+  for (const Elbow* elbow : elbows) Elbows.Remove(elbow->Key);
+  const auto segments = pobjArc->Segments();
+  for (const Vector* segment : segments) Vectors.Remove(segment->Key);
   Arcs.Remove(pobjArc->Key);
 }
 
 bool Workflow::Embeds(const Workflow& pobjOther) const {
   std::vector<const Workflow*> waiting = {this};
+  std::unordered_set<const Workflow*> seen;
   while (!waiting.empty()) {
     const Workflow* workflow = waiting.back();
     waiting.pop_back();
     if (workflow == &pobjOther) return true;
+    if (!seen.insert(workflow).second) continue;
     for (Collection<Transition>::Cursor cursor(workflow->Transitions); const Transition* transition = cursor.Next();) {
       if (const auto* inner = dynamic_cast<const Workflow*>(transition->Object().get())) waiting.push_back(inner);
     }

@@ -90,7 +90,8 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
   /// a key set by hand is in the way.
   std::shared_ptr<Arc> CreateArc(const std::shared_ptr<vantrel::Place>& pobjPlace, const std::shared_ptr<Transition>& pobjTransition,
                                  ArcDirectionConstant pintDirection);
-  /// Takes the arc with its segments and bend points out of the workflow; its ends keep it listed.
+  /// Takes the arc with its segments and bend points out of the workflow; its ends keep it listed. Error 5 when the workflow
+  /// does not have it.
   void z_RemoveArc(const std::shared_ptr<Arc>& pobjArc);
 
   /// True when the other workflow is this one or is embedded in it, however deep.

@@ -24,7 +24,8 @@ struct KeyWordOf {
 ///
 /// Adding, finding and removing by key, the first and the last item cost the same whatever the size. A walk (range-for,
 /// Cursor) survives the removal of any item and visits what is added at the end meanwhile; the collection itself must
-/// outlive it. Changing an item's own `Key` field does not change the key that the item has here.
+/// outlive it. The key is the one that the item was added under: whoever changes an item's own `Key` field afterwards takes
+/// the item out and adds it again.
 template <class T>
 class Collection {
  public:
@@ -36,6 +37,8 @@ class Collection {
 
   std::int32_t Count() const { return static_cast<std::int32_t>(mOrder.Count()); }
   bool IsEmpty() const { return mOrder.Count() == 0; }
+  /// Additions and removals so far: tells whether what was learnt of the collection still holds.
+  std::uint64_t Changes() const { return mOrder.Changes(); }
 
   /// Adds at the end. Throws Error 457 when the key is taken, Error 5 for a null item.
   void Add(Pointer pobjItem, std::string_view pstrKey = {}) {

@@ -1,7 +1,5 @@
 #include "util/ItemKey.h"
 
-#include <algorithm>
-#include <array>
 #include <charconv>
 
 namespace vantrel {
@@ -19,11 +17,7 @@ std::optional<std::int32_t> NumberBehind(std::string_view pstrPrefix, std::strin
 std::string ItemKey::ToText(std::string_view pstrWord) const {
   if (IsText()) return TextRef();
   if (!IsNumber()) return {};
-  std::array<char, 64> text;
-  if (pstrWord.size() + 10 > text.size()) return std::string(pstrWord) + std::to_string(Number());
-  std::copy(pstrWord.begin(), pstrWord.end(), text.begin());
-  const auto end = std::to_chars(text.data() + pstrWord.size(), text.data() + text.size(), Number()).ptr;
-  return {text.data(), end};
+  return std::string(KeyText(pstrWord, Number()).View());
 }
 
 }  // namespace vantrel

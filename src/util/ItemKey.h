@@ -1,6 +1,8 @@
 // The key of one collection item, in eight bytes.
 #pragma once
 
+#include <array>
+#include <charconv>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -27,7 +29,7 @@ class ItemKey {
   static ItemKey OfNumber(std::int32_t plngNumber) { return ItemKey(static_cast<std::uintptr_t>(plngNumber) << 2 | kNumberTag); }
   static ItemKey OfText(std::string_view pstrText) { return ItemKey(reinterpret_cast<std::uintptr_t>(new std::string(pstrText))); }
   /// The shortest form of a key text under a class word.
-  static ItemKey Of(std::string_view pstrWord, std::string_view pstrKey) {
+  [[gnu::always_inline]] static ItemKey Of(std::string_view pstrWord, std::string_view pstrKey) {
     const std::int32_t number = ShortNumber(pstrWord, pstrKey);
     return number >= 0 ? OfNumber(number) : pstrKey.empty() ? Unkeyed() : OfText(pstrKey);
   }
@@ -55,11 +57,11 @@ class ItemKey {
 
   // The number of a key made of the word and a number without leading zeros, -1 for any other key. Inline, because every
   // token that moves comes by here.
-  static std::int32_t ShortNumber(std::string_view pstrWord, std::string_view pstrKey) {
+  [[gnu::always_inline]] static std::int32_t ShortNumber(std::string_view pstrWord, std::string_view pstrKey) {
     constexpr std::size_t kMostDigits = 9;  // any such number fits; the few longer ones go as texts
     const std::size_t digits = pstrKey.size() - pstrWord.size();
     if (pstrWord.empty() || pstrKey.size() <= pstrWord.size() || digits > kMostDigits) return -1;
-    if (!pstrKey.starts_with(pstrWord)) return -1;
+    if (std::char_traits<char>::compare(pstrKey.data(), pstrWord.data(), pstrWord.size()) != 0) return -1;
     const char* at = pstrKey.data() + pstrWord.size();
     if (*at == '0' && digits > 1) return -1;
     std::int32_t number = 0;
@@ -75,6 +77,20 @@ class ItemKey {
   std::string* Text() const { return reinterpret_cast<std::string*>(mBits); }
 
   std::uintptr_t mBits = kHole;
+};
+
+/// A key made of a class word and a number, written without a detour over the heap.
+class KeyText {
+ public:
+  KeyText(std::string_view pstrWord, std::int32_t plngNumber) : mSize(pstrWord.copy(mText.data(), kLongestWord)) {
+    mSize = static_cast<std::size_t>(std::to_chars(mText.data() + mSize, mText.data() + mText.size(), plngNumber).ptr - mText.data());
+  }
+  std::string_view View() const { return {mText.data(), mSize}; }
+
+ private:
+  static constexpr std::size_t kLongestWord = 20;
+  std::array<char, kLongestWord + 12> mText;
+  std::size_t mSize;
 };
 
 /// The number behind a prefix as key numbering counts it: digits only, leading zeros allowed, at most 2^31 - 1.

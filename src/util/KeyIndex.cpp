@@ -86,6 +86,7 @@ std::int32_t KeyIndex::LargestInNumbers() {
       if (entry.Number >= 0) mNumbers.push(entry.Number);
     }
   }
+  if (mNumbers.size() > 2 * mLive + 64) return mKeepsNumbers = false, mNumbers = {}, LargestInNumbers();
   while (!mNumbers.empty() && !FindNumber(mNumbers.top())) mNumbers.pop();
   return mNumbers.empty() ? 0 : mNumbers.top();
 }

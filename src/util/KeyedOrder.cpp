@@ -57,6 +57,7 @@ KeyedOrder::Place KeyedOrder::Append(ItemKey pKey) {
   mKeys[Slot(place)] = std::move(pKey);
   ++mTail;
   ++mCount;
+  ++mChanges;
   return place;
 }
 
@@ -66,6 +67,7 @@ void KeyedOrder::Remove(Place pPlace) {
   ItemKey hole;
   key = std::move(hole);
   --mCount;
+  ++mChanges;
   Trim();
 }
 

@@ -28,8 +28,9 @@ class KeyedOrder {
 
   std::string_view Word() const { return {mWord, mWordSize}; }
   std::uint32_t Count() const { return mCount; }
-  Place Head() const { return mHead; }  ///< the first item's place, when there is one
-  Place Tail() const { return mTail; }  ///< behind the last place
+  std::uint64_t Changes() const { return mChanges; }  ///< additions and removals so far
+  Place Head() const { return mHead; }                ///< the first item's place, when there is one
+  Place Tail() const { return mTail; }                ///< behind the last place
   std::uint32_t Capacity() const { return mCapacity; }
   std::uint32_t Slot(Place pPlace) const { return static_cast<std::uint32_t>(pPlace) & (mCapacity - 1); }
   bool Holds(Place pPlace) const { return pPlace >= mHead && pPlace < mTail && !mKeys[Slot(pPlace)].IsHole(); }
@@ -79,6 +80,7 @@ class KeyedOrder {
 
   Place mHead = 0;
   Place mTail = 0;
+  std::uint64_t mChanges = 0;
   std::uint32_t mCapacity = 0;
   std::uint32_t mCount = 0;
   mutable std::uint32_t mWalkers = 0;

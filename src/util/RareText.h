@@ -31,6 +31,8 @@ class RareText {
   bool empty() const { return !mText; }
 
   friend bool operator==(const RareText& a, std::string_view b) { return a.str() == b; }
+  friend bool operator==(const RareText& a, const std::string& b) { return a.str() == b; }
+  friend bool operator==(const RareText& a, const char* b) { return a.str() == b; }
   friend bool operator==(const RareText& a, const RareText& b) { return a.str() == b.str(); }
 
  private:

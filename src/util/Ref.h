@@ -13,8 +13,8 @@ namespace vantrel {
 class Referable {
  public:
   Referable() = default;
-  Referable(const Referable&) {}  // a copy is another object: it has no references yet
-  Referable& operator=(const Referable&) { return *this; }
+  Referable(const Referable&) {}                            // a copy is another object: it has no references yet
+  Referable& operator=(const Referable&) { return *this; }  // NOLINT(bugprone-unhandled-self-assignment): copies nothing
 
  protected:
   ~Referable() {
@@ -64,6 +64,7 @@ class Ref {
   }
 
   Ref& operator=(const Ref& pobjOther) {
+    if (mMark == pobjOther.mMark) return *this;
     if (pobjOther.mMark) ++pobjOther.mMark->Users;
     if (mMark) mMark->Release();
     mMark = pobjOther.mMark;
@@ -76,6 +77,8 @@ class Ref {
 
   T* get() const { return mMark ? static_cast<T*>(mMark->Target) : nullptr; }
   explicit operator bool() const { return mMark && mMark->Target; }
+  /// True when it points to an object or to one that is gone.
+  bool IsSet() const { return mMark != nullptr; }
   /// True when it pointed to an object that is gone, false when it never pointed to any.
   bool Expired() const { return mMark && !mMark->Target; }
 

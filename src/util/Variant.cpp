@@ -55,6 +55,7 @@ Integer ToInteger(double pdblValue) {
 bool ParseNumber(std::string_view pstrText, double& pdblNumber) {
   std::string_view text = Trimmed(pstrText);
   if (text.starts_with('+')) text.remove_prefix(1);
+  if (text.starts_with('+') || (text.starts_with('-') && text.data() != Trimmed(pstrText).data())) return false;
   const bool startsLikeNumber = !text.empty() && text.find_first_not_of("0123456789.eE+-") == std::string_view::npos;
   if (!startsLikeNumber) return false;  // from_chars would take "inf" and "nan"
   const auto [end, problem] = std::from_chars(text.data(), text.data() + text.size(), pdblNumber);

@@ -2,14 +2,15 @@
 #include <cstdint>
 #include <string_view>
 
-#include "interchange/PnmlReader.h"
+#include "interchange/PnmlImport.h"
 
-/// Whatever the bytes are, they are a net or a PnmlError.
+/// Whatever the bytes are, they are a net that makes a workflow, or a PnmlError.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pobjData, std::size_t plngSize) {
   vantrel::PnmlOptions options;
   options.SkipUnsupported = plngSize % 2 == 0;
   try {
-    vantrel::PnmlReader(options).ReadBytes({reinterpret_cast<const char*>(pobjData), plngSize}, "input");
+    const auto net = vantrel::PnmlReader(options).ReadBytes({reinterpret_cast<const char*>(pobjData), plngSize}, "input");
+    vantrel::BuildWorkflow(net);
   } catch (const vantrel::PnmlError&) {
   }
   return 0;

@@ -2,6 +2,7 @@
 
 #include "model/Workflow.h"
 #include "model/game/CaseEnd.h"
+#include "model/game/CaseIndex.h"
 #include "model/game/Firing.h"
 #include "model/game/TokenRules.h"
 #include "util/Lookup.h"
@@ -22,6 +23,7 @@ void Arrival::Put() {
   }
   if (token.Name.empty()) token.Name = token.Key;
   mobjPlace->Tokens().Add(mobjToken, token.Key);
+  if (auto* cases = mobjPlace->mobjCases.get()) cases->Added(*mobjPlace, mobjToken);
   mobjCase = token.WorkCase;
   if (!(token.Place == mobjPlace.get())) token.Place = mobjPlace.get();
   mobjPlace->TokenCount(static_cast<float>(mobjPlace->Tokens().Count()));
@@ -47,6 +49,7 @@ bool Arrival::Advance(TokenGame& pobjGame) {
     for (Collection<Arc>::Cursor inputs(transition->InArcs); const Arc* input = inputs.Next();) {
       TokenRules::MarkEnabled(*input->Place, mobjCase.get());
     }
+    const auto keeper = transition->Visible() ? transition->Share() : nullptr;  // drawing lets the user do things
     if (!transition->SwitchEnabled(true)) continue;
     pobjGame.Call<Firing>(transition->Share(), nullptr);
     return true;

@@ -1,6 +1,7 @@
 #include "model/game/Departure.h"
 
 #include "model/Workflow.h"
+#include "model/game/CaseIndex.h"
 #include "model/game/Firing.h"
 #include "model/game/SubflowRun.h"
 #include "model/game/TokenRules.h"
@@ -28,7 +29,9 @@ bool Reevaluation::HasAllInputs(Transition& pobjTransition) const {
 bool Reevaluation::Advance(TokenGame& pobjGame) {
   while (const Arc* arc = mArcs.Next()) {
     Transition* transition = arc->Transition.get();
-    if (!transition || !transition->SwitchEnabled(HasAllInputs(*transition))) continue;
+    if (!transition) continue;
+    const auto keeper = transition->Visible() ? transition->Share() : nullptr;  // drawing lets the user do things
+    if (!transition->SwitchEnabled(HasAllInputs(*transition))) continue;
     pobjGame.Call<Firing>(transition->Share(), nullptr);
     return true;
   }
@@ -50,6 +53,7 @@ void Departure::Take() {
   auto& tokens = mobjPlace->Tokens();
   const bool unnamed = !mobjToken || mobjToken->Key.empty();
   const auto token = unnamed ? tokens.TakeFirst() : tokens.Take(mobjToken->Key);
+  if (auto* cases = mobjPlace->mobjCases.get()) cases->Removed(*mobjPlace, *token);
   if (token->mblnTaken) ForgetTaken(*token, *mobjPlace);
   mobjPlace->TokenCount(static_cast<float>(tokens.Count()));
   mobjPlace->Draw();

@@ -5,6 +5,7 @@
 #include "model/DesignerState.h"
 #include "model/Workflow.h"
 #include "model/game/Arrival.h"
+#include "model/game/CaseIndex.h"
 #include "model/game/Departure.h"
 #include "model/game/FiringNext.h"
 #include "model/game/TokenRules.h"
@@ -22,10 +23,17 @@ constexpr const char* kOther = "<other>";
 Firing::Firing(std::shared_ptr<Transition> pobjTransition, std::shared_ptr<WorkCase> pobjCase)
     : mobjTransition(std::move(pobjTransition)),
       mobjCase(std::move(pobjCase)),
+      mcolConsumed(TokenGame::Instance().BorrowList()),
       mOutputs(mobjTransition->OutArcs),
-      mblnTracking(TokenRules::CaseTracking(*mobjTransition)) {}
+      mblnTracking(TokenRules::CaseTracking(*mobjTransition)) {
+  ++mobjTransition->mFiringsUnderWay;
+}
 
-Firing::~Firing() { EndOutput(); }
+Firing::~Firing() {
+  EndOutput();
+  --mobjTransition->mFiringsUnderWay;
+  TokenGame::Instance().GiveBackList(std::move(mcolConsumed));
+}
 
 void Firing::EndOutput() {
   if (!mobjGame) return;
@@ -39,6 +47,7 @@ bool Firing::Advance(TokenGame& pobjGame) {
   switch (mStage) {
     case kConsume:
       mStage = kEnd;  // where a failure of the stage itself leaves it
+      pobjGame.CheckDepth(*mobjTransition);
       mStage = Consume();
       break;
     case kStartSubflow:
@@ -107,7 +116,10 @@ std::shared_ptr<Token> Firing::NextUnused(const Place& pobjPlace) const {
 }
 
 std::shared_ptr<Token> Firing::NextUnusedOfCase(const Place& pobjPlace) const {
-  for (Collection<Token>::Cursor tokens(pobjPlace.Tokens()); const Token* token = tokens.Next();) {
+  const auto* index = CaseIndex::Of(pobjPlace);
+  const auto* ofCase = index ? index->TokensOf(mobjCase.get()) : &pobjPlace.Tokens();
+  if (!ofCase) return nullptr;
+  for (Collection<Token>::Cursor tokens(*ofCase); const Token* token = tokens.Next();) {
     if (token->WorkCase == mobjCase && TokenRules::IsFree(*token) && !Uses(*token)) return tokens.Shared();
   }
   return nullptr;
@@ -155,7 +167,10 @@ bool Firing::AskForCase(const Collection<WorkCase>& pcolCandidates) {
     names.push_back(candidate->Name);
   }
   const auto chosen = gobjVantrel->SelectOption("Select workcase for consumption.", names);
-  if (!chosen) return false;
+  if (!chosen) {
+    if (!names.empty()) mobjTransition->WaitAgain();
+    return false;
+  }
   if (auto candidate = pcolCandidates.Find(*chosen)) mobjCase = std::move(candidate);
   return true;
 }
@@ -176,10 +191,10 @@ Firing::Stage Firing::StartSubflow(TokenGame& pobjGame) {
     throw Error(vntErrObjectNotSet, "The workflow in transition \"" + mobjTransition->Name() + "\" has no start place.");
   }
   mobjTransition->Subflow(mobjSubflow);
+  const auto token = mobjSubflow->CreateToken(start, mobjTransition, mobjCase);
   const auto run = std::make_shared<SubflowRun>(*mobjTransition, mcolConsumed, mobjCase);
   mobjTransition->mcolRuns.push_back(run);
   mobjRun = run;
-  const auto token = mobjSubflow->CreateToken(start, mobjTransition, mobjCase);
   if (!mcolConsumed.empty()) token->Tag = mcolConsumed.front()->Tag;
   token->mobjRun = run;
   pobjGame.Call<Arrival>(start, token);
@@ -214,7 +229,10 @@ bool Firing::ChooseOutputs() {
   }
   if (hasUnguarded) options.emplace_back(kOther);
   auto chosen = gobjVantrel->SelectOption("Select ouputs:", options);
-  if (!chosen) return false;
+  if (!chosen) {
+    if (!options.empty()) mobjTransition->WaitAgain();
+    return false;
+  }
   mstrGuard = std::make_unique<std::string>(std::move(*chosen));
   return true;
 }

@@ -12,20 +12,28 @@ FiringNext::FiringNext(std::shared_ptr<Workflow> pobjWorkflow, std::shared_ptr<T
 bool FiringNext::Advance(TokenGame& pobjGame) {
   if (mblnStarted) return false;
   mblnStarted = true;
-  mobjGame = &pobjGame;
   if (gintUseMode == vntStepTest && MsgBox("Fire next?", vntOKCancel, "Step Testing") == vntCancel) {
     gobjVantrel->UseMode(vntDesign);
     return false;
   }
-  if (!mobjTransition) mobjTransition = mobjWorkflow->FiringStack.First();
+  if (!mobjTransition) mobjTransition = FirstWaiting();
   mobjWorkflow->FiringStack.Remove(mobjTransition->Key);
   pobjGame.Call<Firing>(std::move(mobjTransition), nullptr);
   return true;
 }
 
+// An automatic transition stays on the stack while it fires. When a subflow ends inside that firing and asks for the next
+// transition, taking the same one would use its tokens twice.
+std::shared_ptr<Transition> FiringNext::FirstWaiting() const {
+  for (Collection<Transition>::Cursor stack(mobjWorkflow->FiringStack); const Transition* transition = stack.Next();) {
+    if (transition->mFiringsUnderWay == 0) return stack.Shared();
+  }
+  throw Error(vntErrInvalidCall);
+}
+
 bool FiringNext::Absorb(const Error& pobjError) {
   if (pobjError.Number == vntErrInvalidCall) return true;
-  if (pobjError.Number == vntErrOutOfStack && !mobjGame->IsOutermost(*this)) return false;
+  if (pobjError.Number == vntErrOutOfStack && !TokenGame::IsCalledFromOutside(*this)) return false;
   MsgBox(pobjError.Description);
   return true;
 }

@@ -17,9 +17,10 @@ class FiringNext final : public GameStep {
   bool Absorb(const Error& pobjError) override;
 
  private:
+  std::shared_ptr<Transition> FirstWaiting() const;
+
   std::shared_ptr<Workflow> mobjWorkflow;
   std::shared_ptr<Transition> mobjTransition;
-  const TokenGame* mobjGame = nullptr;
   bool mblnStarted = false;
 };
 

@@ -32,6 +32,7 @@ class GameStep {
  private:
   friend class TokenGame;
   GameStep* mBelow = nullptr;
+  bool mblnFromOutside = false;
   std::uint32_t mChunk = 0, mOffset = 0;  // where the room of the stack ended before this step
 };
 

@@ -16,6 +16,8 @@ SubflowDelivery::SubflowDelivery(std::shared_ptr<Transition> pobjTransition, std
 bool SubflowDelivery::Advance(TokenGame& pobjGame) {
   if (mStage == kStart) {
     EndRun();
+    pobjGame.EnterOutput(*mobjTransition);
+    mobjGame = &pobjGame;
     if (mManner == kAllAtOnce) MakeAll();
     mStage = mManner == kAllAtOnce ? kAdd : kProduce;
   }
@@ -42,6 +44,19 @@ bool SubflowDelivery::Advance(TokenGame& pobjGame) {
       return false;
   }
   return true;
+}
+
+SubflowDelivery::~SubflowDelivery() {
+  EndOutput();
+  const bool failed = mStage != kEnd && mStage != kGoOn;
+  if (!failed) return;
+  for (const auto& token : mcolConsumed) token->mblnTaken = false;  // the run is over: others may use what stayed behind
+}
+
+void SubflowDelivery::EndOutput() {
+  if (!mobjGame) return;
+  mobjGame->LeaveOutput(*mobjTransition);
+  mobjGame = nullptr;
 }
 
 // From here on, whatever else finishes for this run comes too late.
@@ -72,7 +87,10 @@ void SubflowDelivery::MakeAll() {
 
 SubflowDelivery::Stage SubflowDelivery::Produce(TokenGame& pobjGame) {
   const Arc* arc = mOutputs.Next();
-  if (!arc) return kWithdraw;
+  if (!arc) {
+    EndOutput();
+    return kWithdraw;
+  }
   const auto token = MakeToken(*arc, *mobjTransition->Workflow);
   pobjGame.Call<Arrival>(arc->Place->Share(), token);
   return kProduce;
@@ -81,6 +99,7 @@ SubflowDelivery::Stage SubflowDelivery::Produce(TokenGame& pobjGame) {
 SubflowDelivery::Stage SubflowDelivery::Add(TokenGame& pobjGame) {
   if (mlngNext >= mcolMade.size()) {
     mlngNext = 0;
+    EndOutput();
     return kWithdraw;
   }
   const auto& token = mcolMade[mlngNext++];

@@ -19,11 +19,13 @@ class SubflowDelivery final : public GameStep {
     kAllAtOnce  ///< the subflow was told whom it runs for: all outputs are made, by the shown workflow, before the first is added
   };
   SubflowDelivery(std::shared_ptr<Transition> pobjTransition, std::shared_ptr<Token> pobjFinished, Manner pManner);
+  ~SubflowDelivery() override;
   bool Advance(TokenGame& pobjGame) override;
 
  private:
   enum Stage : std::uint8_t { kStart, kProduce, kAdd, kWithdraw, kDated, kGoOn, kEnd };
   void EndRun();
+  void EndOutput();
   std::shared_ptr<Token> MakeToken(const Arc& pobjArc, Workflow& pobjWorkflow) const;
   void MakeAll();
   Stage Produce(TokenGame& pobjGame);
@@ -36,6 +38,7 @@ class SubflowDelivery final : public GameStep {
   std::vector<std::shared_ptr<Token>> mcolConsumed;
   std::vector<std::shared_ptr<Token>> mcolMade;
   Collection<Arc>::Cursor mOutputs;
+  TokenGame* mobjGame = nullptr;  // while output is under way
   std::uint32_t mlngNext = 0;
   Manner mManner;
   Stage mStage = kStart;

@@ -51,7 +51,7 @@ std::vector<std::shared_ptr<Token>> SubflowRun::End() {
 
 Ref<SubflowRun> RunOf(const std::vector<std::shared_ptr<Token>>& pcolTokens) {
   for (const auto& token : pcolTokens) {
-    if (const auto& run = token->Run()) return run;
+    if (token->Run().IsSet()) return token->Run();
   }
   return nullptr;
 }

@@ -42,7 +42,7 @@ class SubflowRun final : public Referable {
   Ref<SubflowRun> mobjOuter;
 };
 
-/// The run that a firing takes part in: the first that one of its tokens knows.
+/// The run that a firing takes part in: the first that one of its tokens knows, be it over or not.
 Ref<SubflowRun> RunOf(const std::vector<std::shared_ptr<Token>>& pcolTokens);
 
 }  // namespace vantrel

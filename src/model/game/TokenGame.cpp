@@ -52,31 +52,59 @@ void TokenGame::RunDownTo(GameStep* pobjBelow) {
     } catch (const Error& error) {
       if (!Absorbed(error, pobjBelow)) throw;
     } catch (...) {
-      while (mTop != pobjBelow) Pop();
+      Abandon(pobjBelow);
       throw;
     }
   }
 }
 
+void TokenGame::Abandon(const GameStep* pobjBelow) {
+  while (mTop != pobjBelow) Pop();
+}
+
 bool TokenGame::Absorbed(const Error& pobjError, const GameStep* pobjBelow) {
-  while (mTop != pobjBelow) {
-    if (mTop->Absorb(pobjError)) return true;
-    Pop();
+  try {
+    while (mTop != pobjBelow) {
+      if (mTop->Absorb(pobjError)) return true;
+      Pop();
+    }
+  } catch (...) {  // out of whoever shows the message
+    Abandon(pobjBelow);
+    throw;
   }
   return false;
 }
 
-void TokenGame::EnterOutput(Transition& pobjTransition) {
-  if (pobjTransition.mOutputsUnderWay >= kMostRounds || mOutputsUnderWay >= kDeepestFiring) {
-    throw Error(vntErrOutOfStack, "Transition \"" + pobjTransition.Name() + "\" fires itself without end.");
-  }
-  ++pobjTransition.mOutputsUnderWay;
-  ++mOutputsUnderWay;
+std::vector<std::shared_ptr<Token>> TokenGame::BorrowList() {
+  if (mSpareLists.empty()) return {};
+  auto list = std::move(mSpareLists.back());
+  mSpareLists.pop_back();
+  return list;
 }
 
-void TokenGame::LeaveOutput(Transition& pobjTransition) {
-  --pobjTransition.mOutputsUnderWay;
-  --mOutputsUnderWay;
+void TokenGame::GiveBackList(std::vector<std::shared_ptr<Token>>&& pcolTokens) {
+  constexpr std::size_t kMostSpare = 16;
+  pcolTokens.clear();
+  if (mSpareLists.size() < kMostSpare) mSpareLists.push_back(std::move(pcolTokens));
 }
+
+namespace {
+
+[[noreturn]] void ThrowEndless(const Transition& pobjTransition) {
+  throw Error(vntErrOutOfStack, "Transition \"" + pobjTransition.Name() + "\" fires without end.");
+}
+
+}  // namespace
+
+void TokenGame::CheckDepth(const Transition& pobjTransition) const {
+  if (mChunk >= kMostChunks) ThrowEndless(pobjTransition);
+}
+
+void TokenGame::EnterOutput(Transition& pobjTransition) {
+  if (pobjTransition.mOutputsUnderWay >= kMostRounds) ThrowEndless(pobjTransition);
+  ++pobjTransition.mOutputsUnderWay;
+}
+
+void TokenGame::LeaveOutput(Transition& pobjTransition) { --pobjTransition.mOutputsUnderWay; }
 
 }  // namespace vantrel

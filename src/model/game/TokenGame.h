@@ -27,8 +27,11 @@ class TokenGame {
     const Nesting nesting(game);
     GameStep* const below = game.mTop;
     game.Call<Step>(std::forward<Args>(args)...);
+    game.mTop->mblnFromOutside = true;
     game.RunDownTo(below);
   }
+
+  static TokenGame& Instance();
 
   /// Puts an operation on the stack, to be run before the step that calls this is advanced again.
   template <class Step, class... Args>
@@ -48,18 +51,24 @@ class TokenGame {
     mTop = step;
   }
 
-  /// True for the step that everything else on the stack was called from.
-  bool IsOutermost(const GameStep& pobjStep) const { return pobjStep.mBelow == nullptr; }
+  /// True for a step that came from outside (Run), not from another step.
+  static bool IsCalledFromOutside(const GameStep& pobjStep) { return pobjStep.mblnFromOutside; }
 
-  /// A firing starts to produce output, or has ended it. Throws Error 28 instead when this can only be a loop.
+  /// Throws Error 28 when the stack is so deep that the firing which is to begin can only be part of a loop.
+  void CheckDepth(const Transition& pobjTransition) const;
+  /// An empty list with room, to be given back: firings come by the million, and most consume a token or two.
+  std::vector<std::shared_ptr<Token>> BorrowList();
+  void GiveBackList(std::vector<std::shared_ptr<Token>>&& pcolTokens);
+
+  /// A transition starts to produce output, or has ended it. Throws Error 28 instead when this can only be a loop.
   void EnterOutput(Transition& pobjTransition);
   void LeaveOutput(Transition& pobjTransition);
 
  private:
   static constexpr std::size_t kChunkSize = 64 * 1024;
-  // A place may hold this many tokens that an automatic transition takes one inside the removal of the other, and a chain
-  // of automatic transitions may be this long; about half a gigabyte of steps and tokens.
-  static constexpr std::int32_t kDeepestFiring = 1'000'000;
+  // Room for the steps of a chain of a million automatic transitions, or of a place with a million tokens that an automatic
+  // transition takes one inside the removal of the other. With the tokens it stays under a gigabyte.
+  static constexpr std::size_t kMostChunks = 300 * 1024 * 1024 / kChunkSize;
   // Only a loop lets a transition produce while an output of its own is under way. Users may leave a loop by a choice, but
   // not after so many rounds.
   static constexpr std::int32_t kMostRounds = 10'000;
@@ -81,9 +90,9 @@ class TokenGame {
     TokenGame& mGame;
   };
 
-  static TokenGame& Instance();
   void RunDownTo(GameStep* pobjBelow);
   void Pop();
+  void Abandon(const GameStep* pobjBelow);
   bool Absorbed(const Error& pobjError, const GameStep* pobjBelow);
   Room Take(std::size_t plngSize);
   void GiveBack(std::uint32_t plngChunk, std::uint32_t plngOffset);
@@ -91,7 +100,7 @@ class TokenGame {
   GameStep* mTop = nullptr;
   std::vector<std::unique_ptr<std::byte[]>> mChunks;
   std::uint32_t mChunk = 0, mOffset = 0;
-  std::int32_t mOutputsUnderWay = 0;
+  std::vector<std::vector<std::shared_ptr<Token>>> mSpareLists;
   std::int32_t mNestedRuns = 0;
 };
 

@@ -2,19 +2,22 @@
 
 #include "model/DesignerState.h"
 #include "model/Workflow.h"
+#include "model/game/CaseIndex.h"
 
 namespace vantrel {
 
 namespace {
 
 template <class Accepts>
-Token* FirstWhere(const Place& pobjPlace, Accepts&& pAccepts) {
-  Collection<Token>::Cursor tokens(pobjPlace.Tokens());
+Token* FirstFree(const Collection<Token>& pcolTokens, Accepts&& pAccepts) {
+  Collection<Token>::Cursor tokens(pcolTokens);
   while (Token* token = tokens.Next()) {
     if (TokenRules::IsFree(*token) && pAccepts(*token)) return token;
   }
   return nullptr;
 }
+
+bool Any(const Token&) { return true; }
 
 }  // namespace
 
@@ -24,35 +27,31 @@ bool TokenRules::CaseTracking(const Node& pobjNode) {
   return own && own->CaseTracking;
 }
 
-Token* TokenRules::FirstBehind(const Place& pobjPlace) {
-  return FirstWhere(pobjPlace, [](const Token&) { return true; });
-}
-
-Token* TokenRules::Last(const Place& pobjPlace) {
-  const auto& tokens = pobjPlace.Tokens();
-  if (tokens.IsEmpty()) return nullptr;
-  if (Token* last = tokens.Last().get(); IsFree(*last)) return last;
-  Token* found = nullptr;
-  for (Collection<Token>::Cursor cursor(tokens); Token* token = cursor.Next();) {
-    if (IsFree(*token)) found = token;
-  }
-  return found;
-}
+Token* TokenRules::FirstBehind(const Place& pobjPlace) { return FirstFree(pobjPlace.Tokens(), Any); }
 
 Token* TokenRules::FirstOf(const Place& pobjPlace, const WorkCase* pobjCase) {
-  return FirstWhere(pobjPlace, [&](const Token& pobjToken) { return pobjToken.WorkCase.get() == pobjCase; });
+  if (const auto* index = CaseIndex::Of(pobjPlace)) {
+    const auto* tokens = index->TokensOf(pobjCase);
+    return tokens ? FirstFree(*tokens, Any) : nullptr;
+  }
+  return FirstFree(pobjPlace.Tokens(), [&](const Token& pobjToken) { return pobjToken.WorkCase.get() == pobjCase; });
 }
 
 bool TokenRules::ServesCase(const Place& pobjPlace, const WorkCase* pobjCase) {
-  return FirstWhere(pobjPlace, [&](const Token& pobjToken) { return !pobjToken.WorkCase || pobjToken.WorkCase.get() == pobjCase; }) !=
-         nullptr;
+  return FirstOf(pobjPlace, pobjCase) || (pobjCase && FirstOf(pobjPlace, nullptr));
 }
 
 bool TokenRules::HoldsEnabled(const Place& pobjPlace) {
-  return FirstWhere(pobjPlace, [](const Token& pobjToken) { return pobjToken.mblnCaseEnabled; }) != nullptr;
+  const auto* index = CaseIndex::Of(pobjPlace);
+  const auto& tokens = index ? index->Marked() : pobjPlace.Tokens();
+  return FirstFree(tokens, [](const Token& pobjToken) { return pobjToken.mblnCaseEnabled; }) != nullptr;
 }
 
 void TokenRules::MarkEnabled(Place& pobjPlace, const WorkCase* pobjCase) {
+  if (auto* index = CaseIndex::Of(pobjPlace)) {
+    index->MarkAll(pobjCase);
+    return;
+  }
   for (Collection<Token>::Cursor cursor(pobjPlace.Tokens()); Token* token = cursor.Next();) {
     if (token->WorkCase.get() == pobjCase) token->CaseEnabled(true);
   }

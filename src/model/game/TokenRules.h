@@ -16,14 +16,13 @@ class TokenRules {
   static bool CaseTracking(const Node& pobjNode);
 
   static bool IsFree(const Token& pobjToken) { return !pobjToken.mblnTaken; }
-  /// The first free token of the place, or null; the last one.
+  /// The first free token of the place, or null.
   static Token* First(const Place& pobjPlace) {
     const auto& tokens = pobjPlace.Tokens();
     if (tokens.IsEmpty()) return nullptr;
     Token* const first = tokens.First().get();
     return IsFree(*first) ? first : FirstBehind(pobjPlace);
   }
-  static Token* Last(const Place& pobjPlace);
   /// The first free token of the case, or null.
   static Token* FirstOf(const Place& pobjPlace, const WorkCase* pobjCase);
   /// A free token that serves a newly arrived token's case: any without case tracking, else one of the case or of none.
