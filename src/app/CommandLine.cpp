@@ -1,0 +1,68 @@
+#include "app/CommandLine.h"
+
+#include <algorithm>
+#include <iostream>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "app/commands/PlayCommand.h"
+#include "app/commands/SampleCommand.h"
+
+namespace vantrel {
+
+namespace {
+
+using Commands = std::vector<std::unique_ptr<Command>>;
+
+Commands AllCommands() {
+  Commands commands;
+  commands.push_back(std::make_unique<PlayCommand>());
+  return commands;
+}
+
+int RunChosen(const CLI::App& pobjApp, const Commands& pcolCommands) {
+  for (const auto& command : pcolCommands) {
+    if (pobjApp.got_subcommand(command->Name())) return command->Run();
+  }
+  return SampleCommand().Run();
+}
+
+int Fail(std::string pstrWhat) {
+  std::replace_if(
+      pstrWhat.begin(), pstrWhat.end(), [](unsigned char pstrByte) { return pstrByte < 0x20 || pstrByte == 0x7F; }, ' ');
+  std::cerr << "vantrel: " << pstrWhat << '\n';
+  return kBadInput;
+}
+
+int ParseAndRun(CLI::App& pobjApp, const Commands& pcolCommands, int plngCount, const char* const* pstrArguments) {
+  try {
+    pobjApp.parse(plngCount, pstrArguments);
+  } catch (const CLI::Success& request) {  // --help, --version
+    return pobjApp.exit(request);
+  }
+  return RunChosen(pobjApp, pcolCommands);
+}
+
+}  // namespace
+
+int RunCommandLine(int plngCount, const char* const* pstrArguments) {
+  try {
+    CLI::App app("Vantrel draws workflow nets and plays them. Without a command it plays a small net of its own.", "vantrel");
+    app.set_version_flag("--version", "vantrel " VANTREL_VERSION, "Print the version and exit");
+    app.require_subcommand(0, 1);
+    const Commands commands = AllCommands();
+    for (const auto& command : commands) command->Declare(*app.add_subcommand(command->Name(), command->Summary()));
+
+    const int status = ParseAndRun(app, commands, plngCount, pstrArguments);
+    if (!std::cout.flush()) throw std::runtime_error("cannot write to standard output");
+    return status;
+  } catch (const std::exception& error) {
+    return Fail(error.what());
+  }
+}
+
+}  // namespace vantrel

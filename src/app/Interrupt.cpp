@@ -1,0 +1,29 @@
+#include "app/Interrupt.h"
+
+namespace vantrel {
+
+namespace {
+
+volatile std::sig_atomic_t glngCame = 0;
+
+}  // namespace
+
+Interrupt::Interrupt() {
+  glngCame = 0;
+  struct sigaction action = {};
+  // The third one ends the program at once. Not the second: who stops a whole group of processes sends two in one go.
+  action.sa_handler = [](int) {
+    const int came = glngCame + 1;
+    glngCame = came;
+    if (came < 3) return;
+    std::signal(SIGINT, SIG_DFL);
+    std::raise(SIGINT);
+  };
+  sigaction(SIGINT, &action, &mBefore);
+}
+
+Interrupt::~Interrupt() { sigaction(SIGINT, &mBefore, nullptr); }
+
+bool Interrupt::Came() const { return glngCame != 0; }
+
+}  // namespace vantrel

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+namespace CLI {
+class App;
+}
+
+namespace vantrel {
+
+/// A command of the program: `vantrel NAME ...`. CommandLine.cpp lists them all.
+class Command {
+ public:
+  Command() = default;
+  Command(const Command&) = delete;
+  Command& operator=(const Command&) = delete;
+  virtual ~Command() = default;
+
+  virtual std::string Name() const = 0;
+  virtual std::string Summary() const = 0;  ///< the line of `vantrel --help`
+  /// Names the command's options, which then lead into this object: it must outlive the parsing.
+  virtual void Declare(CLI::App& pobjApp) = 0;
+  /// Does the work after the parsing and returns an ExitStatus. Whatever it throws becomes the line on standard error
+  /// that goes with kBadInput.
+  virtual int Run() = 0;
+};
+
+}  // namespace vantrel

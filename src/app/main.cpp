@@ -1,0 +1,3 @@
+#include "app/CommandLine.h"
+
+int main(int plngCount, char** pstrArguments) { return vantrel::RunCommandLine(plngCount, pstrArguments); }

@@ -1,0 +1,7 @@
+#include "app/play/Account.h"
+
+namespace vantrel {
+
+bool Account::IsFinished() const { return Stopped != StopReason::Error && CasesFinished >= CasesStarted; }
+
+}  // namespace vantrel

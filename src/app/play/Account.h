@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstdint>
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace vantrel {
+
+/// Why a run ended: nothing was left to fire, there were enough firings or Ctrl-C, or a firing failed.
+enum class StopReason : std::uint8_t { Quiet, Limit, Error };
+
+/// A place or a transition as an account shows it. The key of one inside an embedded workflow has the keys of the transitions
+/// around it in front, divided by slashes.
+struct AccountEntry {
+  std::string Key, Name;
+};
+
+/// What happened in a run.
+struct Account {
+  struct Holding {
+    AccountEntry Place;
+    std::int32_t Tokens = 0;
+  };
+
+  std::string Net;
+  std::int32_t Places = 0, Transitions = 0, Arcs = 0;  ///< of the net itself, without embedded workflows
+  std::optional<AccountEntry> Start, End;
+  std::int64_t CasesStarted = 0, CasesFinished = 0;
+  std::int64_t Firings = 0, TokensCreated = 0;  ///< embedded workflows included
+  std::int64_t Actions = 0;                     ///< actions of transitions that a host would have run
+  StopReason Stopped = StopReason::Quiet;
+  std::string Error;                ///< with StopReason::Error: what failed
+  std::vector<Holding> Marking;     ///< places with tokens in the order of the net, then those of embedded workflows
+  std::vector<AccountEntry> Trace;  ///< in the order in which the firings began; empty unless it was wanted
+
+  /// No failure, and as many cases finished as were started.
+  bool IsFinished() const;
+};
+
+/// For a person to read, with the trace where there is one.
+void WriteText(std::ostream& pobjOut, const Account& pobjAccount);
+/// One JSON object on one line; docs/command-line.md describes it.
+std::string ToJson(const Account& pobjAccount);
+
+}  // namespace vantrel

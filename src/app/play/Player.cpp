@@ -1,0 +1,168 @@
+#include "app/play/Player.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace vantrel {
+
+namespace {
+
+/// Leaves a run, even from inside a firing. Not an Error: nothing in the token game is to deal with it.
+struct RunEnded {};
+
+AccountEntry EntryOf(const PlayedNet& pobjNet, const Node& pobjNode) { return {pobjNet.Prefix + pobjNode.Key, pobjNode.Name()}; }
+
+std::optional<AccountEntry> EntryOf(const PlayedNet& pobjNet, const Ref<Place>& pobjPlace) {
+  if (!pobjPlace) return std::nullopt;
+  return EntryOf(pobjNet, *pobjPlace);
+}
+
+}  // namespace
+
+Player::Player(ImportedNet pobjNet, const PlayOptions& pobjOptions, Watch pWatch)
+    : mNet(std::move(pobjNet)),
+      mOptions(pobjOptions),
+      mWatch(std::move(pWatch)),
+      mRandom(pobjOptions.Seed),
+      mPlayed(PlayedNetsOf(mNet.Workflow)),
+      mHost(mNet.Workflow, !pobjOptions.FromMarking) {
+  gobjVantrel = &mHost;
+  gobjWorkflow = mNet.Workflow;
+  gintUseMode = vntRun;
+}
+
+Account Player::Play() {
+  Prepare();
+  const auto subscriptions = Listen();
+  Run();
+  Describe();
+  return std::move(mAccount);
+}
+
+void Player::Prepare() {
+  for (const PlayedNet& net : mPlayed) {
+    net.Workflow->CaseTracking = mOptions.CaseTracking;
+    net.Workflow->KeepHistory = mOptions.KeepHistory;
+    if (!mOptions.Automatic) continue;
+    for (const auto& transition : net.Workflow->Transitions) transition->TriggerType(vntAutomatic);
+  }
+}
+
+std::vector<Subscription> Player::Listen() {
+  std::vector<Subscription> subscriptions;
+  for (const PlayedNet& net : mPlayed) {
+    subscriptions.push_back(
+        net.Workflow->OnFiring.Connect([this, &net](const std::shared_ptr<Transition>& pobjTransition) { Record(net, *pobjTransition); }));
+  }
+  subscriptions.push_back(mNet.Workflow->OnCaseFinished.Connect([this](const std::shared_ptr<Token>&) { ++mAccount.CasesFinished; }));
+  return subscriptions;
+}
+
+void Player::Run() {
+  try {
+    if (mOptions.FromMarking) {
+      PutMarking();
+    } else {
+      StartCases();
+    }
+    FireUntilQuiet();
+  } catch (const RunEnded&) {
+    mAccount.Stopped = StopReason::Limit;
+  } catch (const Error& error) {
+    mAccount.Stopped = StopReason::Error;
+    mAccount.Error = error.Description;
+  }
+}
+
+void Player::StartCases() {
+  const auto start = mNet.Workflow->StartPlace.Lock();
+  while (mAccount.CasesStarted < mOptions.Cases) {
+    AskWatch();
+    const auto workCase = std::make_shared<WorkCase>();
+    workCase->Key = "WorkCase" + std::to_string(++mAccount.CasesStarted);
+    workCase->Name = workCase->Key;
+    workCase->DateCreated = Date::Now();
+    Add(start, workCase);
+  }
+}
+
+void Player::PutMarking() {
+  for (const InitialTokens& tokens : mNet.Marking) {
+    for (std::int32_t i = 0; i < tokens.Count; ++i) {
+      AskWatch();
+      Add(tokens.Where, nullptr);
+    }
+  }
+}
+
+void Player::Add(const std::shared_ptr<Place>& pobjPlace, const std::shared_ptr<WorkCase>& pobjCase) {
+  pobjPlace->AddToken(mNet.Workflow->CreateToken(pobjPlace, nullptr, pobjCase));
+  mMessages.ThrowFirst();
+}
+
+void Player::FireUntilQuiet() {
+  std::int64_t calls = 0;  // more than firings where a transition finds its tokens gone
+  while (const PlayedNet* ready = FirstReady()) {
+    if (std::max(calls++, mAccount.Firings) >= mOptions.MaxFirings) throw RunEnded();
+    if (mOptions.Pick == Pick::First) {
+      ready->Workflow->FireNext();
+    } else {
+      const auto transition = DrawReady();
+      transition->Workflow->FireNext(transition);
+    }
+    mMessages.ThrowFirst();
+  }
+}
+
+const PlayedNet* Player::FirstReady() const {
+  const auto ready = std::find_if(mPlayed.begin(), mPlayed.end(), [](const auto& net) { return !net.Workflow->FiringStack.IsEmpty(); });
+  return ready == mPlayed.end() ? nullptr : &*ready;
+}
+
+// From all stacks, one of which holds something.
+std::shared_ptr<Transition> Player::DrawReady() {
+  std::int64_t entries = 0;
+  for (const PlayedNet& net : mPlayed) entries += net.Workflow->FiringStack.Count();
+  auto drawn = static_cast<std::int64_t>(mRandom.Below(static_cast<std::uint64_t>(entries)));
+  auto net = mPlayed.begin();
+  for (; drawn >= net->Workflow->FiringStack.Count(); ++net) drawn -= net->Workflow->FiringStack.Count();
+  return net->Workflow->FiringStack.Item(static_cast<std::int32_t>(drawn) + 1);
+}
+
+void Player::Record(const PlayedNet& pobjNet, const Transition& pobjTransition) {
+  AskWatch();
+  ++mAccount.Firings;
+  if (mOptions.KeepTrace) mAccount.Trace.push_back(EntryOf(pobjNet, pobjTransition));
+}
+
+void Player::AskWatch() {
+  if (mWatch && !mWatch({mAccount.Firings, TokensCreated(), mAccount.CasesFinished})) throw RunEnded();
+}
+
+std::int64_t Player::TokensCreated() const {
+  std::int64_t tokens = 0;
+  for (const PlayedNet& net : mPlayed) tokens += net.Workflow->Tokens.Count();
+  return tokens;
+}
+
+void Player::Describe() {
+  const PlayedNet& outermost = mPlayed.front();
+  const Workflow& workflow = *mNet.Workflow;
+  mAccount.Net = mNet.Name;
+  mAccount.Places = workflow.Places.Count();
+  mAccount.Transitions = workflow.Transitions.Count();
+  mAccount.Arcs = workflow.Arcs.Count();
+  mAccount.Start = EntryOf(outermost, workflow.StartPlace);
+  mAccount.End = EntryOf(outermost, workflow.EndPlace());
+  mAccount.TokensCreated = TokensCreated();
+  mAccount.Actions = mHost.Actions();
+  for (const PlayedNet& net : mPlayed) {
+    for (const auto& place : net.Workflow->Places) {
+      const std::int32_t tokens = place->Tokens().Count();
+      if (tokens > 0) mAccount.Marking.push_back({EntryOf(net, *place), tokens});
+    }
+  }
+}
+
+}  // namespace vantrel

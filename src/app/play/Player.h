@@ -1,0 +1,63 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "app/play/Account.h"
+#include "app/play/MessageRecorder.h"
+#include "app/play/PlayHost.h"
+#include "app/play/PlayOptions.h"
+#include "app/play/PlayedNets.h"
+#include "app/play/RandomIndex.h"
+#include "interchange/PnmlImport.h"
+#include "model/DesignerState.h"
+#include "util/Event.h"
+
+namespace vantrel {
+
+/// How far a run has come.
+struct PlayCounts {
+  std::int64_t Firings = 0, TokensCreated = 0, CasesFinished = 0;
+};
+
+/// Plays a net without a user: puts tokens into it, then fires what is enabled until nothing is. One object a run: while it
+/// lives it is the process's designer and answers its message boxes. The net's workflows are its to change.
+class Player {
+ public:
+  /// Hears of every case and every firing before it starts; answering false ends the run there.
+  using Watch = std::function<bool(const PlayCounts&)>;
+
+  /// Unless played from its marking, the net must have a start place.
+  explicit Player(ImportedNet pobjNet, const PlayOptions& pobjOptions = {}, Watch pWatch = {});
+
+  Account Play();
+
+ private:
+  void Prepare();
+  std::vector<Subscription> Listen();
+  void Run();
+  void StartCases();
+  void PutMarking();
+  void Add(const std::shared_ptr<Place>& pobjPlace, const std::shared_ptr<WorkCase>& pobjCase);
+  void FireUntilQuiet();
+  const PlayedNet* FirstReady() const;
+  std::shared_ptr<Transition> DrawReady();
+  void Record(const PlayedNet& pobjNet, const Transition& pobjTransition);
+  void AskWatch();
+  std::int64_t TokensCreated() const;
+  void Describe();
+
+  ImportedNet mNet;
+  PlayOptions mOptions;
+  Watch mWatch;
+  RandomIndex mRandom;
+  std::vector<PlayedNet> mPlayed;
+  Account mAccount;
+  PlayHost mHost;
+  DesignerStateScope mStateBefore;
+  MessageRecorder mMessages;
+};
+
+}  // namespace vantrel
