@@ -2,7 +2,7 @@
 
 namespace vantrel {
 
-UniqueNames::UniqueNames(std::string pstrWord, const std::vector<std::string>& pcolGiven) : mcolNames(pcolGiven) {
+UniqueNames::UniqueNames(const std::string& pstrWord, const std::vector<std::string>& pcolGiven) : mcolNames(pcolGiven) {
   std::vector<std::size_t> nameless;
   for (std::size_t i = 0; i < mcolNames.size(); ++i) {
     if (mcolNames[i].empty() || !mcolTaken.insert(mcolNames[i]).second) nameless.push_back(i);

@@ -12,7 +12,7 @@ namespace vantrel {
 /// object without name, or with one that is taken, gets the next free one: the name (or the kind's word) and a number.
 class UniqueNames {
  public:
-  UniqueNames(std::string pstrWord, const std::vector<std::string>& pcolGiven);
+  UniqueNames(const std::string& pstrWord, const std::vector<std::string>& pcolGiven);
 
   /// The name for the next object, in the order of the given names.
   const std::string& Next() { return mcolNames[mlngNext++]; }

@@ -67,7 +67,8 @@ std::shared_ptr<Vector> Arc::InsertVector(const std::shared_ptr<Vector>& pobjVec
 }
 
 void Arc::RemoveVector(const std::shared_ptr<Vector>& pobjVector) {
-  const auto vector = pobjVector;  // the caller's may be the workflow's own share, which goes
+  // The caller's may be the workflow's own share, which goes. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+  const auto vector = pobjVector;
   vantrel::Workflow& workflow = *Workflow;
   if (workflow.Vectors.Find(vector->Key) != vector) throw Error(vntErrInvalidCall);
   const auto bendPoints = BendPoints();

@@ -14,7 +14,10 @@ class CaseLink {
  public:
   CaseLink() = default;
   CaseLink(const CaseLink&) = default;
-  CaseLink& operator=(const CaseLink& pobjOther) { return *this = pobjOther.mobjCase; }
+  CaseLink& operator=(const CaseLink& pobjOther) {
+    if (this != &pobjOther) *this = pobjOther.mobjCase;
+    return *this;
+  }
   CaseLink& operator=(const std::shared_ptr<WorkCase>& pobjCase) {
     mobjCase = pobjCase;
     ++sChanges;

@@ -23,16 +23,13 @@ Transition::~Transition() {
 }
 
 void Transition::Name(const std::string& pstrName) {
-  if (!Workflow) {
-    mName = pstrName;
-  } else if (pstrName.empty()) {
-    mName = NextName(Workflow->Transitions, "Transition");
-  } else if (!IsNameFree(Workflow->Transitions, pstrName)) {
+  const auto* workflow = Workflow.get();
+  const bool wantsName = workflow && pstrName.empty();
+  if (workflow && !wantsName && !IsNameFree(workflow->Transitions, pstrName)) {
     MsgBox("There is already another transition on this workflow with that name.");
     return;
-  } else {
-    mName = pstrName;
   }
+  mName = wantsName ? NextName(workflow->Transitions, "Transition") : pstrName;
   Dirty = true;
 }
 

@@ -1,6 +1,6 @@
 #include "util/Lookup.h"
 
-#include <limits>
+#include <compare>
 
 namespace vantrel {
 
@@ -13,7 +13,7 @@ std::int32_t NameNumber(std::string_view pstrPrefix, std::string_view pstrName) 
 }
 
 bool IsBetween(const Variant& pvarValue, const Variant& pvarA, const Variant& pvarB) {
-  const auto atLeast = [](const Variant& pvarX, const Variant& pvarY) { return Compare(pvarX, pvarY) >= 0; };
+  const auto atLeast = [](const Variant& pvarX, const Variant& pvarY) { return std::is_gteq(Compare(pvarX, pvarY)); };
   if (atLeast(pvarA, pvarB)) return atLeast(pvarA, pvarValue) && atLeast(pvarValue, pvarB);
   return atLeast(pvarB, pvarValue) && atLeast(pvarValue, pvarA);
 }

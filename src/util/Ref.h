@@ -14,7 +14,7 @@ class Referable {
  public:
   Referable() = default;
   Referable(const Referable&) {}                            // a copy is another object: it has no references yet
-  Referable& operator=(const Referable&) { return *this; }  // NOLINT(bugprone-unhandled-self-assignment): copies nothing
+  Referable& operator=(const Referable&) { return *this; }
 
  protected:
   ~Referable() {
@@ -64,7 +64,7 @@ class Ref {
   }
 
   Ref& operator=(const Ref& pobjOther) {
-    if (mMark == pobjOther.mMark) return *this;
+    if (this == &pobjOther) return *this;
     if (pobjOther.mMark) ++pobjOther.mMark->Users;
     if (mMark) mMark->Release();
     mMark = pobjOther.mMark;

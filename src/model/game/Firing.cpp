@@ -44,6 +44,14 @@ void Firing::EndOutput() {
 bool Firing::Absorb(const Error& pobjError) { return mblnIgnoreErrors && pobjError.Number != vntErrOutOfStack; }
 
 bool Firing::Advance(TokenGame& pobjGame) {
+  while (mStage != kEnd) {
+    DoStage(pobjGame);
+    if (!pobjGame.IsTop(*this)) return true;
+  }
+  return false;
+}
+
+void Firing::DoStage(TokenGame& pobjGame) {
   switch (mStage) {
     case kConsume:
       mStage = kEnd;  // where a failure of the stage itself leaves it
@@ -76,9 +84,8 @@ bool Firing::Advance(TokenGame& pobjGame) {
       mStage = Withdraw(pobjGame);
       break;
     case kEnd:
-      return false;
+      break;
   }
-  return mStage != kEnd;
 }
 
 Firing::Stage Firing::Consume() {

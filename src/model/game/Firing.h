@@ -24,6 +24,7 @@ class Firing final : public GameStep {
  private:
   enum Stage : std::uint8_t { kConsume, kStartSubflow, kFireSubflow, kReleaseSubflow, kPrepareOutput, kProduce, kWithdraw, kDated, kEnd };
 
+  void DoStage(TokenGame& pobjGame);
   // Each does one stage and names the next.
   Stage Consume();
   Stage StartSubflow(TokenGame& pobjGame);

@@ -4,10 +4,7 @@
 
 namespace vantrel {
 
-TokenGame& TokenGame::Instance() {
-  static TokenGame game;
-  return game;
-}
+constinit TokenGame TokenGame::sGame;
 
 TokenGame::Nesting::Nesting(TokenGame& pobjGame) : mGame(pobjGame) {
   if (mGame.mNestedRuns >= kDeepestNesting) {
@@ -16,22 +13,15 @@ TokenGame::Nesting::Nesting(TokenGame& pobjGame) : mGame(pobjGame) {
   ++mGame.mNestedRuns;
 }
 
-TokenGame::Room TokenGame::Take(std::size_t plngSize) {
-  const auto size = static_cast<std::uint32_t>((plngSize + alignof(std::max_align_t) - 1) & ~(alignof(std::max_align_t) - 1));
-  const Room before{nullptr, mChunk, mOffset};
-  if (mOffset + size > kChunkSize) {
-    ++mChunk;
-    mOffset = 0;
-  }
-  if (mChunk >= mChunks.size()) mChunks.push_back(std::make_unique_for_overwrite<std::byte[]>(kChunkSize));
-  void* const at = mChunks[mChunk].get() + mOffset;
-  mOffset += size;
-  return {at, before.Chunk, before.Offset};
+void TokenGame::NextChunk() {
+  const std::uint32_t next = mChunks.empty() ? 0 : mChunk + 1;
+  if (next >= mChunks.size()) mChunks.push_back(std::make_unique_for_overwrite<std::byte[]>(kChunkSize));
+  mChunk = next;
+  mOffset = 0;
 }
 
-void TokenGame::GiveBack(std::uint32_t plngChunk, std::uint32_t plngOffset) {
+void TokenGame::LeaveChunk(std::uint32_t plngChunk) {
   mChunk = plngChunk;
-  mOffset = plngOffset;
   if (mChunks.size() > std::size_t{mChunk} + 2) mChunks.resize(std::size_t{mChunk} + 2);  // one to spare
 }
 

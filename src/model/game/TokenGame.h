@@ -31,12 +31,16 @@ class TokenGame {
     game.RunDownTo(below);
   }
 
-  static TokenGame& Instance();
+  static TokenGame& Instance() { return sGame; }
+
+  /// True while nothing that the step called is still to be run.
+  bool IsTop(const GameStep& pobjStep) const { return mTop == &pobjStep; }
 
   /// Puts an operation on the stack, to be run before the step that calls this is advanced again.
   template <class Step, class... Args>
   void Call(Args&&... args) {
-    static_assert(sizeof(Step) <= kChunkSize && alignof(Step) <= alignof(std::max_align_t));
+    static_assert(sizeof(Step) <= kChunkSize);
+    static_assert(alignof(Step) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__);
     const Room room = Take(sizeof(Step));
     Step* step = nullptr;
     try {
@@ -94,8 +98,23 @@ class TokenGame {
   void Pop();
   void Abandon(const GameStep* pobjBelow);
   bool Absorbed(const Error& pobjError, const GameStep* pobjBelow);
-  Room Take(std::size_t plngSize);
-  void GiveBack(std::uint32_t plngChunk, std::uint32_t plngOffset);
+  Room Take(std::size_t plngSize) {
+    constexpr std::size_t kAlignment = alignof(std::max_align_t);
+    const auto size = static_cast<std::uint32_t>((plngSize + kAlignment - 1) & ~(kAlignment - 1));
+    const std::uint32_t chunk = mChunk, offset = mOffset;
+    if (mOffset + size > kChunkSize || mChunks.empty()) NextChunk();
+    void* const at = mChunks[mChunk].get() + mOffset;
+    mOffset += size;
+    return {at, chunk, offset};
+  }
+  void GiveBack(std::uint32_t plngChunk, std::uint32_t plngOffset) {
+    mOffset = plngOffset;
+    if (mChunk != plngChunk) LeaveChunk(plngChunk);
+  }
+  void NextChunk();
+  void LeaveChunk(std::uint32_t plngChunk);
+
+  static TokenGame sGame;
 
   GameStep* mTop = nullptr;
   std::vector<std::unique_ptr<std::byte[]>> mChunks;
