@@ -13,7 +13,7 @@ namespace vantrel {
 class Referable {
  public:
   Referable() = default;
-  Referable(const Referable&) {}                            // a copy is another object: it has no references yet
+  Referable(const Referable&) {}  // a copy is another object: it has no references yet
   Referable& operator=(const Referable&) { return *this; }
 
  protected:
