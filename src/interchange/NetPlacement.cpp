@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "interchange/BendPoints.h"
-#include "interchange/LayeredLayout.h"
-#include "interchange/LayoutJudge.h"
+#include "interchange/layout/LayeredLayout.h"
+#include "interchange/layout/LayoutJudge.h"
 
 namespace vantrel {
 

@@ -5,8 +5,8 @@
 #include <unordered_map>
 #include <vector>
 
-#include "interchange/LayoutGraph.h"
 #include "interchange/PnmlDocument.h"
+#include "interchange/layout/LayoutGraph.h"
 
 namespace vantrel {
 

@@ -1,4 +1,4 @@
-#include "interchange/LayeredLayout.h"
+#include "interchange/layout/LayeredLayout.h"
 
 #include <algorithm>
 #include <optional>
@@ -9,8 +9,8 @@
 
 #include <gtest/gtest.h>
 
-#include "interchange/LayerGraph.h"
-#include "interchange/LayerOrder.h"
+#include "interchange/layout/LayerGraph.h"
+#include "interchange/layout/LayerOrder.h"
 
 namespace vantrel {
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <vector>
 
-#include "interchange/LayoutGraph.h"
+#include "interchange/layout/LayoutGraph.h"
 
 namespace vantrel {
 

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "interchange/LayerDistances.h"
-#include "interchange/LayerGraph.h"
+#include "interchange/layout/LayerDistances.h"
+#include "interchange/layout/LayerGraph.h"
 
 namespace vantrel {
 

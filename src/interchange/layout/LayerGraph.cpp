@@ -1,4 +1,4 @@
-#include "interchange/LayerGraph.h"
+#include "interchange/layout/LayerGraph.h"
 
 #include <algorithm>
 #include <cstddef>

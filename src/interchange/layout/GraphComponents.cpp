@@ -1,4 +1,4 @@
-#include "interchange/GraphComponents.h"
+#include "interchange/layout/GraphComponents.h"
 
 #include <algorithm>
 #include <numeric>

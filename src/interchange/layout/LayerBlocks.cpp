@@ -1,4 +1,4 @@
-#include "interchange/LayerBlocks.h"
+#include "interchange/layout/LayerBlocks.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interchange/LayoutGraph.h"
+#include "interchange/layout/LayoutGraph.h"
 
 namespace vantrel {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "interchange/LayerGraph.h"
+#include "interchange/layout/LayerGraph.h"
 
 namespace vantrel {
 

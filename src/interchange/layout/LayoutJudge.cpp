@@ -1,4 +1,4 @@
-#include "interchange/LayoutJudge.h"
+#include "interchange/layout/LayoutJudge.h"
 
 #include <cmath>
 #include <cstddef>

@@ -4,7 +4,7 @@
 #include <optional>
 #include <vector>
 
-#include "interchange/LayoutGraph.h"
+#include "interchange/layout/LayoutGraph.h"
 
 namespace vantrel {
 

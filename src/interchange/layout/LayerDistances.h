@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "interchange/LayerGraph.h"
+#include "interchange/layout/LayerGraph.h"
 
 namespace vantrel {
 

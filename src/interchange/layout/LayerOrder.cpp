@@ -1,4 +1,4 @@
-#include "interchange/LayerOrder.h"
+#include "interchange/layout/LayerOrder.h"
 
 #include <algorithm>
 #include <cstddef>

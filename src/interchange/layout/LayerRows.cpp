@@ -1,4 +1,4 @@
-#include "interchange/LayerRows.h"
+#include "interchange/layout/LayerRows.h"
 
 #include <algorithm>
 #include <array>
@@ -9,8 +9,8 @@
 #include <unordered_set>
 #include <utility>
 
-#include "interchange/LayerBlocks.h"
-#include "interchange/LayerDistances.h"
+#include "interchange/layout/LayerBlocks.h"
+#include "interchange/layout/LayerDistances.h"
 
 namespace vantrel {
 

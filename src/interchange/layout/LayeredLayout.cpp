@@ -1,15 +1,15 @@
-#include "interchange/LayeredLayout.h"
+#include "interchange/layout/LayeredLayout.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <utility>
 
 #include "interchange/BendPoints.h"
-#include "interchange/GraphComponents.h"
-#include "interchange/LayerDistances.h"
-#include "interchange/LayerGraph.h"
-#include "interchange/LayerOrder.h"
-#include "interchange/LayerRows.h"
+#include "interchange/layout/GraphComponents.h"
+#include "interchange/layout/LayerDistances.h"
+#include "interchange/layout/LayerGraph.h"
+#include "interchange/layout/LayerOrder.h"
+#include "interchange/layout/LayerRows.h"
 
 namespace vantrel {
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "interchange/LayoutGraph.h"
+#include "interchange/layout/LayoutGraph.h"
 
 namespace vantrel {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "interchange/LayerGraph.h"
+#include "interchange/layout/LayerGraph.h"
 
 namespace vantrel {
 
