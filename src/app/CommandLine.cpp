@@ -60,6 +60,9 @@ int RunCommandLine(int plngCount, const char* const* pstrArguments) {
     const int status = ParseAndRun(app, commands, plngCount, pstrArguments);
     if (!std::cout.flush()) throw std::runtime_error("cannot write to standard output");
     return status;
+  } catch (const std::bad_alloc&) {
+    std::cerr << "vantrel: not enough memory\n";
+    return 2;
   } catch (const std::exception& error) {
     return Fail(error.what());
   }

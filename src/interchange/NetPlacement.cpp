@@ -18,8 +18,12 @@ constexpr float kCaptionHeight = 200;
 constexpr float kCharacter = 95;     // twips, a wide average of the chart's usual face
 constexpr float kCountHeight = 300;  // the token count under a place
 
+std::ptrdiff_t Characters(const std::string& pstrText) {
+  return std::count_if(pstrText.begin(), pstrText.end(), [](char byte) { return (byte & 0xC0) != 0x80; });  // UTF-8
+}
+
 LayoutSize RoomFor(const PnmlNode& pobjNode) {
-  const float caption = kCharacter * static_cast<float>(pobjNode.Name.size());
+  const float caption = kCharacter * static_cast<float>(Characters(pobjNode.Name));
   return {kConnector + std::max(kNodeSize + kConnector, caption), kCaptionHeight + kNodeSize + kCountHeight};
 }
 
@@ -42,6 +46,7 @@ NetPlacement LayOut(const PnmlNet& pobjNet, const NodeNumbers& pcolNumbers) {
   for (const PnmlArc& arc : pobjNet.Arcs) graph.Edges.push_back({pcolNumbers.at(arc.Source), pcolNumbers.at(arc.Target)});
   graph.Start = StartOf(pobjNet, graph.Edges);
   LayoutResult drawing = ArrangeInLayers(graph);
+  // The picture lies within the node's room, right of its connector and under its caption; bend points are points of the drawing.
   for (auto& point : drawing.TopLeft) {
     point.X += kMargin + kConnector;
     point.Y += kMargin + kCaptionHeight;

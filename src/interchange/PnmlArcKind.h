@@ -12,4 +12,7 @@ namespace vantrel {
 /// in a child `arctype`; any of them is enough to make the arc a foreign one.
 std::optional<std::string> ForeignArcKind(const pugi::xml_node& pobjArc);
 
+/// True for an element that some editors write for an arc of another kind: `inhibitorArc`, `resetArc`, … with both ends.
+bool IsForeignArcElement(const pugi::xml_node& pobjElement);
+
 }  // namespace vantrel

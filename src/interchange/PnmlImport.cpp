@@ -89,6 +89,7 @@ void WorkflowBuilder::AddTransition(const PnmlNode& pobjNode) {
   workflow.Transitions.Add(transition, transition->Key);
   if (pobjNode.Subnet) {
     const ImportedNet inner = WorkflowBuilder(*pobjNode.Subnet).Build();
+    mResult.Skipped.insert(mResult.Skipped.end(), inner.Skipped.begin(), inner.Skipped.end());
     transition->Object(inner.Workflow);
     transition->ObjectClassName = inner.Workflow->Class();
     transition->ObjectName = inner.Name;

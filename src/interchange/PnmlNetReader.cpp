@@ -46,7 +46,7 @@ void PnmlNetReader::ReadElement(const pugi::xml_node& pobjElement) {
     ReadNode(pobjElement, PnmlKind::Place);
   } else if (name == "transition") {
     ReadNode(pobjElement, PnmlKind::Transition);
-  } else if (name == "arc") {
+  } else if (name == "arc" || IsForeignArcElement(pobjElement)) {
     mArcs.push_back(pobjElement);
   } else if (name == "referencePlace") {
     mIds.AddReference(pobjElement, PnmlKind::Place);

@@ -8,11 +8,9 @@ UniqueNames::UniqueNames(const std::string& pstrWord, const std::vector<std::str
     if (mcolNames[i].empty() || !mcolTaken.insert(mcolNames[i]).second) nameless.push_back(i);
   }
   for (const std::size_t i : nameless) {
-    if (mcolNames[i].empty() && mcolTaken.insert(pstrWord).second) {
-      mcolNames[i] = pstrWord;
-    } else {
-      mcolNames[i] = FreeName(mcolNames[i].empty() ? pstrWord : mcolNames[i]);
-    }
+    const bool empty = mcolNames[i].empty();
+    std::string key = empty ? pstrWord + std::to_string(i + 1) : std::string();
+    mcolNames[i] = empty && mcolTaken.insert(key).second ? std::move(key) : FreeName(empty ? pstrWord : mcolNames[i]);
   }
 }
 

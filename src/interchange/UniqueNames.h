@@ -9,7 +9,8 @@
 namespace vantrel {
 
 /// Makes the names of one kind of object unique. Every name that the file gives keeps to the first object that has it; an
-/// object without name, or with one that is taken, gets the next free one: the name (or the kind's word) and a number.
+/// object without name gets its key as name (the kind's word and its number), or the next free one where that is taken; one
+/// whose name is taken gets that name and the next free number.
 class UniqueNames {
  public:
   UniqueNames(const std::string& pstrWord, const std::vector<std::string>& pcolGiven);

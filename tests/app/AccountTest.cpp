@@ -34,7 +34,7 @@ TEST(Account, NamesOfAFileCannotSteerTheTerminal) {
 
 TEST(Account, FailureIsNoSuccessThoughTheCasesFinished) {
   Account account;
-  account.CasesStarted = account.CasesFinished = 1;
+  account.CasesStarted = account.CasesFinished = account.DifferentCasesFinished = 1;
   EXPECT_TRUE(account.IsFinished());
   account.Stopped = StopReason::Error;
   EXPECT_FALSE(account.IsFinished());

@@ -2,6 +2,6 @@
 
 namespace vantrel {
 
-bool Account::IsFinished() const { return Stopped != StopReason::Error && CasesFinished >= CasesStarted; }
+bool Account::IsFinished() const { return Stopped != StopReason::Error && DifferentCasesFinished >= CasesStarted; }
 
 }  // namespace vantrel

@@ -25,8 +25,14 @@ std::string Reason(const Account& pobjAccount) {
 
 void WriteMarking(std::ostream& pobjOut, const Account& pobjAccount) {
   pobjOut << "Left     " << (pobjAccount.Marking.empty() ? "no tokens\n" : "");
+  constexpr std::size_t kMostLines = 40;
   const char* indent = "";
+  std::size_t lines = 0;
   for (const auto& holding : pobjAccount.Marking) {
+    if (++lines > kMostLines) {
+      pobjOut << indent << "and in " << pobjAccount.Marking.size() - kMostLines << " more places (--json names them)\n";
+      return;
+    }
     pobjOut << indent << holding.Tokens << " in " << Shown(holding.Place) << '\n';
     indent = "         ";
   }

@@ -19,6 +19,7 @@ class PlayHost final : public DesignerHost {
 
   Ref<vantrel::Workflow> Workflow() const override { return mobjWorkflow; }
   void RunAction(Transition&) override { ++mActions; }
+  bool TakesFirstCase() const override { return true; }
   /// Without options no case has all the tokens that a firing needs. Cancelling keeps it from firing with none of them, but
   /// tokens without a case move in answer to the empty text alone.
   std::optional<std::string> SelectOption(const std::string& /*pstrPrompt*/, const std::vector<std::string>& pcolOptions) override {

@@ -55,7 +55,8 @@ std::vector<Subscription> Player::Listen() {
     subscriptions.push_back(
         net.Workflow->OnFiring.Connect([this, &net](const std::shared_ptr<Transition>& pobjTransition) { Record(net, *pobjTransition); }));
   }
-  subscriptions.push_back(mNet.Workflow->OnCaseFinished.Connect([this](const std::shared_ptr<Token>&) { ++mAccount.CasesFinished; }));
+  subscriptions.push_back(
+      mNet.Workflow->OnCaseFinished.Connect([this](const std::shared_ptr<Token>& pobjToken) { CountFinished(*pobjToken); }));
   return subscriptions;
 }
 
@@ -76,6 +77,7 @@ void Player::Run() {
 }
 
 void Player::StartCases() {
+  if (mOptions.Cases > kMostTokens) throw Error(vntErrOverflow, "no more than " + std::to_string(kMostTokens) + " cases can be played");
   const auto start = mNet.Workflow->StartPlace.Lock();
   while (mAccount.CasesStarted < mOptions.Cases) {
     AskWatch();
@@ -87,7 +89,20 @@ void Player::StartCases() {
   }
 }
 
+// An unsound net finishes a case more than once. Tokens know their case only under case tracking; without it, every end counts.
+void Player::CountFinished(const Token& pobjToken) {
+  ++mAccount.CasesFinished;
+  const auto* const workCase = pobjToken.WorkCase.get();
+  if (!workCase || mFinished.insert(workCase->Key).second) ++mAccount.DifferentCasesFinished;
+}
+
 void Player::PutMarking() {
+  std::int64_t total = 0;
+  for (const InitialTokens& initial : mNet.Marking) total += initial.Count;
+  if (total > kMostTokens) {
+    throw Error(vntErrOverflow,
+                "the net's marking has " + std::to_string(total) + " tokens; " + std::to_string(kMostTokens) + " can be played");
+  }
   for (const InitialTokens& tokens : mNet.Marking) {
     for (std::int32_t i = 0; i < tokens.Count; ++i) {
       AskWatch();

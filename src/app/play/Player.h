@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
+#include <unordered_set>
 #include <vector>
 
 #include "app/play/Account.h"
@@ -35,11 +37,14 @@ class Player {
   Account Play();
 
  private:
+  static constexpr std::int64_t kMostTokens = 10'000'000;  // to begin with: about three gigabytes
+
   void Prepare();
   std::vector<Subscription> Listen();
   void Run();
   void StartCases();
   void PutMarking();
+  void CountFinished(const Token& pobjToken);
   void Add(const std::shared_ptr<Place>& pobjPlace, const std::shared_ptr<WorkCase>& pobjCase);
   void FireUntilQuiet();
   const PlayedNet* FirstReady() const;
@@ -55,6 +60,7 @@ class Player {
   RandomIndex mRandom;
   std::vector<PlayedNet> mPlayed;
   Account mAccount;
+  std::unordered_set<std::string> mFinished;  // keys of cases
   PlayHost mHost;
   DesignerStateScope mStateBefore;
   MessageRecorder mMessages;

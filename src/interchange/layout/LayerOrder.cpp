@@ -66,7 +66,7 @@ class Sweeper {
   void Run() {
     Order best = mGraph.Layers;
     std::int64_t fewest = CountCrossings(mGraph);
-    const int sweeps = static_cast<int>(std::clamp<std::size_t>(6'000'000 / (mSize + 1), 4, 24));
+    const int sweeps = static_cast<int>(std::clamp<std::size_t>(1'500'000 / (mSize + 1), 3, 24));
     for (int sweep = 0, useless = 0; sweep < sweeps && fewest > 0 && useless < 6; ++sweep, ++useless) {
       Sweep(sweep % 2 == 0, sweep / 2 % 2 == 0);
       if (mSize < 10'000) Transpose();

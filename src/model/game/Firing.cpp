@@ -149,7 +149,8 @@ bool Firing::ChooseCase() {
   const TriggerTypes trigger = mobjTransition->TriggerType();
   if (trigger != vntUser && trigger != vntAutomatic) return true;
 
-  const bool oldestWins = trigger == vntAutomatic && scarcest && scarcest->SelectionType == vntSelectionTypeFIFO;
+  const bool fifo = scarcest && scarcest->SelectionType == vntSelectionTypeFIFO;
+  const bool oldestWins = trigger == vntAutomatic ? fifo : gobjVantrel->TakesFirstCase();
   Collection<WorkCase> candidates;
   if (scarcest) {
     for (Collection<Token>::Cursor tokens(scarcest->Tokens()); const Token* token = tokens.Next();) {

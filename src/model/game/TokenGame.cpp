@@ -81,7 +81,8 @@ void TokenGame::GiveBackList(std::vector<std::shared_ptr<Token>>&& pcolTokens) {
 namespace {
 
 [[noreturn]] void ThrowEndless(const Transition& pobjTransition) {
-  throw Error(vntErrOutOfStack, "Transition \"" + pobjTransition.Name() + "\" fires without end.");
+  const std::string key = pobjTransition.Key == pobjTransition.Name() ? "" : " (" + pobjTransition.Key + ")";
+  throw Error(vntErrOutOfStack, "Transition \"" + pobjTransition.Name() + "\"" + key + " fires without end.");
 }
 
 }  // namespace
@@ -91,7 +92,9 @@ void TokenGame::CheckDepth(const Transition& pobjTransition) const {
 }
 
 void TokenGame::EnterOutput(Transition& pobjTransition) {
-  if (pobjTransition.mOutputsUnderWay >= kMostRounds) ThrowEndless(pobjTransition);
+  const std::int64_t rounds = pobjTransition.mOutputsUnderWay;
+  const std::int64_t tokens = rounds * pobjTransition.OutArcs.Count();
+  if (rounds >= kMostRounds || tokens > kMostLoopTokens) ThrowEndless(pobjTransition);
   ++pobjTransition.mOutputsUnderWay;
 }
 

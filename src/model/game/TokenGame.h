@@ -72,10 +72,12 @@ class TokenGame {
   static constexpr std::size_t kChunkSize = 64 * 1024;
   // Room for the steps of a chain of a million automatic transitions, or of a place with a million tokens that an automatic
   // transition takes one inside the removal of the other. With the tokens it stays under a gigabyte.
-  static constexpr std::size_t kMostChunks = 300 * 1024 * 1024 / kChunkSize;
+  static constexpr std::size_t kMostChunks = 256 * 1024 * 1024 / kChunkSize;
   // Only a loop lets a transition produce while an output of its own is under way. Users may leave a loop by a choice, but
   // not after so many rounds.
   static constexpr std::int32_t kMostRounds = 10'000;
+  // Each round leaves a token on every output: with many outputs fewer rounds fill the memory.
+  static constexpr std::int64_t kMostLoopTokens = 1'000'000;
   // Listeners that move tokens do take room on the thread's stack.
   static constexpr std::int32_t kDeepestNesting = 500;
 
