@@ -12,6 +12,7 @@ namespace {
 /// Answers every question with the first option.
 class FirstOptionHost final : public DesignerHost {
  public:
+  bool TakesFirstCase() const override { return true; }
   std::optional<std::string> SelectOption(const std::string&, const std::vector<std::string>& pcolOptions) override {
     return pcolOptions.empty() ? std::string() : pcolOptions.front();
   }

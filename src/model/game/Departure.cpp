@@ -20,7 +20,7 @@ bool Reevaluation::HasAllInputs(Transition& pobjTransition) const {
   while (const Arc* arc = inputs.Next()) {
     Place& place = *arc->Place;
     const bool holds = TokenRules::HoldsEnabled(place);
-    place.CaseEnabled(holds);
+    if (place.Image || place.CaseEnabled() != holds) place.CaseEnabled(holds);
     all = all && holds;
   }
   return all;

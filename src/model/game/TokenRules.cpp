@@ -41,7 +41,7 @@ bool TokenRules::ServesCase(const Place& pobjPlace, const WorkCase* pobjCase) {
   return FirstOf(pobjPlace, pobjCase) || (pobjCase && FirstOf(pobjPlace, nullptr));
 }
 
-bool TokenRules::HoldsEnabled(const Place& pobjPlace) {
+bool TokenRules::HoldsEnabledBehind(const Place& pobjPlace) {
   const auto* index = CaseIndex::Of(pobjPlace);
   const auto& tokens = index ? index->Marked() : pobjPlace.Tokens();
   return FirstFree(tokens, [](const Token& pobjToken) { return pobjToken.mblnCaseEnabled; }) != nullptr;

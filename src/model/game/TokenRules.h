@@ -30,12 +30,18 @@ class TokenRules {
     return pblnTracking ? ServesCase(pobjPlace, pobjCase) : First(pobjPlace) != nullptr;
   }
   /// A free token that is marked as case-enabled.
-  static bool HoldsEnabled(const Place& pobjPlace);
+  static bool HoldsEnabled(const Place& pobjPlace) {
+    const auto& tokens = pobjPlace.Tokens();
+    if (tokens.IsEmpty()) return false;
+    const Token& first = *tokens.First();
+    return (first.mblnCaseEnabled && IsFree(first)) || HoldsEnabledBehind(pobjPlace);
+  }
   /// Marks every token of the case that lies in the place as case-enabled, and with it the place.
   static void MarkEnabled(Place& pobjPlace, const WorkCase* pobjCase);
 
  private:
   static Token* FirstBehind(const Place& pobjPlace);
+  static bool HoldsEnabledBehind(const Place& pobjPlace);
   static bool ServesCase(const Place& pobjPlace, const WorkCase* pobjCase);
 };
 
