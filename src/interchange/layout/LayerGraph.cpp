@@ -114,7 +114,7 @@ std::vector<LayerIndex> Layering(const Directed& pobjGraph, std::optional<std::i
 
 /// The longest edge that still gets joints.
 LayerIndex LongestJointedSpan(const std::vector<LayerIndex>& pcolSpans, std::size_t plngNodeCount) {
-  const std::size_t limit = std::min<std::size_t>(20 * (plngNodeCount + pcolSpans.size()) + 20'000, 1'000'000);
+  const std::size_t limit = std::min<std::size_t>(4 * (plngNodeCount + pcolSpans.size()) + 20'000, 1'000'000);
   std::vector<LayerIndex> spans = pcolSpans;
   std::sort(spans.begin(), spans.end());
   std::size_t joints = 0;
