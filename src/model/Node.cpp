@@ -127,6 +127,38 @@ void Node::Selected(bool pblnOn) {
   if (auto* image = Image.get()) image->BorderStyle(pblnOn ? 1 : 0);
 }
 
+bool Node::StoreField(const std::string& pstrPropName, const Variant& pvarValue) {
+  if (pstrPropName == "Name") {
+    mName = pvarValue.ToText();
+  } else if (pstrPropName == "Caption") {
+    mCaption = pvarValue.ToText();
+  } else if (pstrPropName == "InputPosition") {
+    mInputPosition = pvarValue.ToInt16();
+  } else if (pstrPropName == "OutputPosition") {
+    mOutputPosition = pvarValue.ToInt16();
+  } else {
+    return false;
+  }
+  return true;
+}
+
+bool Node::StoreSetting(const std::string& pstrPropName, const Variant& pvarValue) {
+  if (pstrPropName == "Caption") {
+    Caption(pvarValue.ToText());
+  } else if (pstrPropName == "Description") {
+    Description = pvarValue.ToText();
+  } else if (pstrPropName == "InputPosition") {
+    InputPosition(pvarValue.ToInt16());
+  } else if (pstrPropName == "OutputPosition") {
+    OutputPosition(pvarValue.ToInt16());
+  } else if (pstrPropName == "Tag") {
+    Tag = pvarValue.ToText();
+  } else {
+    return false;
+  }
+  return true;
+}
+
 void Node::ShowElements(bool pblnOn) {
   if (auto* image = Image.get()) image->Visible(pblnOn);
   if (auto* label = CaptionLabel.get()) label->Visible(pblnOn);

@@ -73,6 +73,10 @@ class Node : public ModelObject, public std::enable_shared_from_this<Node> {
   virtual void MarkDirty() = 0;
   /// Marks the owning workflow dirty, if there is one.
   void MarkWorkflowDirty() const;
+  /// Stores name, caption or a connector side straight into the field. False for any other setting.
+  bool StoreField(const std::string& pstrPropName, const Variant& pvarValue);
+  /// Stores caption, description, a connector side or the tag as their setters do. False for any other setting.
+  bool StoreSetting(const std::string& pstrPropName, const Variant& pvarValue);
   /// Shows or hides the image and the caption; hides connectors when hiding, and never shows them.
   void ShowElements(bool pblnOn);
   void DrawImage(bool pblnEnabled);

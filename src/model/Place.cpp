@@ -98,37 +98,18 @@ void Place::SetProperties(const std::shared_ptr<PropertyCollection>& pcolPropert
   if (!pcolProperties) throw Error(vntErrObjectNotSet);
   for (const auto& record : *pcolProperties) {
     const Variant value = record->Value;
-    if (record->Name == "Name") {
-      mName = value.ToText();
-    } else if (record->Name == "Caption") {
-      mCaption = value.ToText();
-    } else if (record->Name == "InputPosition") {
-      mInputPosition = value.ToInt16();
-    } else if (record->Name == "OutputPosition") {
-      mOutputPosition = value.ToInt16();
-    } else {
-      SetProperty(record->Name, value);
-    }
+    if (!StoreField(record->Name, value)) SetProperty(record->Name, value);
   }
 }
 
 void Place::Store(const std::string& pstrPropName, const Variant& pvarValue) {
+  if (StoreSetting(pstrPropName, pvarValue)) return;
   if (pstrPropName == "Name") {
     Name(pvarValue.ToText());
-  } else if (pstrPropName == "Caption") {
-    Caption(pvarValue.ToText());
-  } else if (pstrPropName == "Description") {
-    Description = pvarValue.ToText();
   } else if (pstrPropName == "SelectionType") {
     SelectionType = static_cast<SelectionTypes>(pvarValue.ToInt32());
-  } else if (pstrPropName == "InputPosition") {
-    InputPosition(pvarValue.ToInt16());
-  } else if (pstrPropName == "OutputPosition") {
-    OutputPosition(pvarValue.ToInt16());
   } else if (pstrPropName == "TokenProperties") {
     TokenProperties = pvarValue.ToObjectOf<PropertyCollection>();
-  } else if (pstrPropName == "Tag") {
-    Tag = pvarValue.ToText();
   }
 }
 

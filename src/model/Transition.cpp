@@ -129,45 +129,28 @@ void Transition::SetProperties(const std::shared_ptr<PropertyCollection>& pcolPr
   if (!pcolProperties) throw Error(vntErrObjectNotSet);
   for (const auto& record : *pcolProperties) {
     const Variant value = record->Value;
-    if (record->Name == "Name") {
-      mName = value.ToText();
-    } else if (record->Name == "Caption") {
-      mCaption = value.ToText();
-    } else if (record->Name == "OutputType") {
+    if (record->Name == "OutputType") {
       mOutputType = static_cast<OutputTypes>(value.ToInt32());
     } else if (record->Name == "TriggerType") {
       mTriggerType = static_cast<TriggerTypes>(value.ToInt32());
-    } else if (record->Name == "InputPosition") {
-      mInputPosition = value.ToInt16();
-    } else if (record->Name == "OutputPosition") {
-      mOutputPosition = value.ToInt16();
-    } else {
+    } else if (!StoreField(record->Name, value)) {
       SetProperty(record->Name, value);
     }
   }
 }
 
 void Transition::Store(const std::string& pstrPropName, const Variant& pvarValue) {
+  if (StoreSetting(pstrPropName, pvarValue)) return;
   if (pstrPropName == "Name") {
     Name(pvarValue.ToText());
-  } else if (pstrPropName == "Caption") {
-    Caption(pvarValue.ToText());
   } else if (pstrPropName == "Roles") {
     Roles = pvarValue.ToObjectOf<PropertyCollection>();
   } else if (pstrPropName == "OutputType") {
     mOutputType = static_cast<OutputTypes>(pvarValue.ToInt32());
   } else if (pstrPropName == "TriggerType") {
     mTriggerType = static_cast<TriggerTypes>(pvarValue.ToInt32());
-  } else if (pstrPropName == "InputPosition") {
-    InputPosition(pvarValue.ToInt16());
-  } else if (pstrPropName == "OutputPosition") {
-    OutputPosition(pvarValue.ToInt16());
-  } else if (pstrPropName == "Description") {
-    Description = pvarValue.ToText();
   } else if (pstrPropName == "Action") {
     Action = pvarValue.ToText();
-  } else if (pstrPropName == "Tag") {
-    Tag = pvarValue.ToText();
   } else {
     MsgBox("Object doesn't have a property " + pstrPropName + ".");
   }

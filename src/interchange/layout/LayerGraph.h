@@ -26,7 +26,8 @@ struct LayerGraph {
 
 /// Deals the nodes of a graph out to layers. Edges that close a cycle of a depth-first walk from the start count as turned round; then each
 /// node goes as far left as its edges let it (longest path), and back to the right where that shortens more edges than it stretches. The
-/// order within the layers is that of the walk. Joints are limited to a few for every node and edge: beyond that the longest edges have none.
+/// order within the layers is that of the walk. Joints are limited to a few for every node and edge: beyond that the longest edges have
+/// none.
 LayerGraph DealOutToLayers(std::int32_t plngNodeCount, const std::vector<LayoutEdge>& pcolEdges, std::optional<std::int32_t> pobjStart);
 
 }  // namespace vantrel
