@@ -29,7 +29,8 @@ class DesignerHost {
 
   /// A workflow became dirty or clean.
   virtual void Dirty(bool) {}
-  virtual void UseMode(UseModeConstant) {}
+  /// Takes the process-wide use mode, gintUseMode.
+  virtual void UseMode(UseModeConstant pintMode);
   /// Makes an element the current one, or none.
   virtual void CurrentControl(const Ref<Element>&) {}
   /// Hands a transition's action to the host application.

@@ -13,6 +13,8 @@ const ImageList& OwnImages() {
 
 }  // namespace
 
+void DesignerHost::UseMode(UseModeConstant pintMode) { gintUseMode = pintMode; }
+
 DesignerHost& DesignerHostRef::BuiltIn() {
   static DesignerHost host;
   return host;
