@@ -27,6 +27,11 @@ void Place::AddToken(const std::shared_ptr<Token>& pobjToken) {
   TokenGame::Run<Arrival>(Share(), pobjToken);
 }
 
+void Place::PutBack(const std::shared_ptr<Token>& pobjToken) {
+  if (!pobjToken) throw Error(vntErrInvalidCall);
+  Arrival::PutBack(Share(), pobjToken);
+}
+
 void Place::RemoveToken(const std::shared_ptr<Token>& pobjToken) { TokenGame::Run<Departure>(Share(), pobjToken); }
 
 void Place::TokenCount(float psngCount) {

@@ -46,6 +46,9 @@ class Place final : public Node {
   /// transitions fire before this returns. Throws Error 457 when the key is taken, Error 28 when automatic transitions
   /// would fire without end, and what an automatic firing throws.
   void AddToken(const std::shared_ptr<Token>& pobjToken);
+  /// Puts a token that was stored back to where it lay: as AddToken, but automatic transitions wait on the firing stack and
+  /// nobody is told. Throws Error 457 when the key is taken.
+  void PutBack(const std::shared_ptr<Token>& pobjToken);
   /// Takes the token out (a token without key: the first one) and enables or disables what the place feeds. Throws
   /// Error 5 when it does not lie here, and like AddToken.
   void RemoveToken(const std::shared_ptr<Token>& pobjToken);

@@ -9,6 +9,13 @@
 
 namespace vantrel {
 
+namespace {
+
+// Drawing lets the user do things.
+std::shared_ptr<Transition> KeeperOf(Transition& pobjTransition) { return pobjTransition.Visible() ? pobjTransition.Share() : nullptr; }
+
+}  // namespace
+
 Arrival::Arrival(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken)
     : mobjPlace(std::move(pobjPlace)),
       mobjToken(std::move(pobjToken)),
@@ -33,6 +40,24 @@ bool Arrival::CompletesInputs(Transition& pobjTransition) const {
   return pobjTransition.AllInputs([&](const Place& pobjPlace) { return TokenRules::Serves(pobjPlace, mobjCase.get(), mblnTracking); });
 }
 
+bool Arrival::Enable(Transition& pobjTransition) const {
+  for (Collection<Arc>::Cursor inputs(pobjTransition.InArcs); const Arc* input = inputs.Next();) {
+    TokenRules::MarkEnabled(*input->Place, mobjCase.get());
+  }
+  return pobjTransition.SwitchEnabled(true);
+}
+
+void Arrival::PutBack(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken) {
+  Arrival arrival(std::move(pobjPlace), std::move(pobjToken));
+  arrival.Put();
+  while (const Arc* arc = arrival.mArcs.Next()) {
+    Transition* transition = arc->Transition.get();
+    if (!transition || !arrival.CompletesInputs(*transition)) continue;
+    const auto keeper = KeeperOf(*transition);
+    arrival.Enable(*transition);
+  }
+}
+
 bool Arrival::Advance(TokenGame& pobjGame) {
   if (mStage == kPut) {
     Put();
@@ -46,11 +71,8 @@ bool Arrival::Advance(TokenGame& pobjGame) {
     }
     Transition* transition = arc->Transition.get();
     if (!transition || !CompletesInputs(*transition)) continue;
-    for (Collection<Arc>::Cursor inputs(transition->InArcs); const Arc* input = inputs.Next();) {
-      TokenRules::MarkEnabled(*input->Place, mobjCase.get());
-    }
-    const auto keeper = transition->Visible() ? transition->Share() : nullptr;  // drawing lets the user do things
-    if (!transition->SwitchEnabled(true)) continue;
+    const auto keeper = KeeperOf(*transition);
+    if (!Enable(*transition)) continue;
     pobjGame.Call<Firing>(transition->Share(), nullptr);
     return true;
   }

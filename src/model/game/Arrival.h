@@ -14,10 +14,15 @@ class Arrival final : public GameStep {
   Arrival(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken);
   bool Advance(TokenGame& pobjGame) override;
 
+  /// The same for a stored token: nothing fires and nothing is reported.
+  static void PutBack(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken);
+
  private:
   enum Stage : std::uint8_t { kPut, kEnable, kReport, kEnd };
   void Put();
   bool CompletesInputs(Transition& pobjTransition) const;
+  // True when the transition, now enabled, has to fire at once.
+  bool Enable(Transition& pobjTransition) const;
   void Report(TokenGame& pobjGame);
 
   std::shared_ptr<Place> mobjPlace;

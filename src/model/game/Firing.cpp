@@ -293,6 +293,7 @@ Firing::Stage Firing::Withdraw(TokenGame& pobjGame) {
   if (mlngNext >= mcolConsumed.size()) return kEnd;
   const auto& token = mcolConsumed[mlngNext];
   token->ConsumeTransition = mobjTransition;
+  token->Dirty = true;
   pobjGame.Call<Departure>(token->Place->Share(), token);
   return kDated;
 }

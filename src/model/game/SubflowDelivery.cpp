@@ -114,6 +114,7 @@ SubflowDelivery::Stage SubflowDelivery::Withdraw(TokenGame& pobjGame) {
     const auto place = token->Place.Lock();
     if (place && place->Tokens().Find(token->Key) == token) {
       token->ConsumeTransition = mobjTransition;
+      token->Dirty = true;
       pobjGame.Call<Departure>(place, token);
       return kDated;
     }
