@@ -22,6 +22,10 @@ const char* UsualDescription(std::int32_t plngNumber) {
       return "Invalid file format";
     case vntErrDuplicateKey:
       return "This key is already associated with an element of this collection";
+    case vntErrNoCurrentRow:
+      return "Either BOF or EOF is True, or the current record has been deleted. Requested operation requires a current record.";
+    case vntErrNoSuchColumn:
+      return "Item cannot be found in the collection corresponding to the requested name or ordinal.";
     case vntErrObjectClosed:
       return "Operation is not allowed when the object is closed.";
     case vntErrNoConnection:

@@ -1,0 +1,62 @@
+// A connection to any engine: the rules of connections and transactions over what the engine's adapter does.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "database/Connection.h"
+#include "database/Session.h"
+
+namespace vantrel {
+
+class EngineConnection final : public Connection {
+ public:
+  /// Takes a session that is not open yet, or one that is open at the address.
+  explicit EngineConnection(std::unique_ptr<Session> pobjSession, std::string pstrAddress = {});
+  ~EngineConnection() override;
+
+  void Execute(const std::string& pstrSql, std::int32_t plngOptions = kOptionsUnspecified) override;
+  /// The user and the password belong into the address; throws Error 5 for others. Does nothing on a connection that is open at
+  /// the address already.
+  void Open(const std::string& pstrAddress = {}, const std::string& pstrUserId = {}, const std::string& pstrPassword = {},
+            std::int32_t plngOptions = kOptionsUnspecified) override;
+  std::unique_ptr<Recordset> NewRecordset() override;
+
+  /// Opens a lost session anew when it begins an outermost transaction.
+  void BeginTrans(Transaction pTransaction) override;
+  void CommitTrans() override;
+  /// An inner one ends the engine's transaction at once; from then on the outer ones are lost.
+  void RollbackTrans() noexcept override;
+  bool IsTransactionLost() const override;
+
+  /// For row sets: like the session's, with Error 3709 where the connection or the transaction is lost.
+  EngineRows Query(const EngineStatement& pobjStatement);
+  std::int64_t Run(const EngineStatement& pobjStatement);
+  std::int32_t Insert(const EngineStatement& pobjStatement);
+  const vantrel::Dialect& Dialect() const { return mobjSession->Dialect(); }
+  /// The columns of a table, asked for once.
+  std::shared_ptr<const std::vector<std::string>> ColumnsOf(const std::string& pstrTable);
+
+ private:
+  /// The session for a statement. Throws the error of that number, with the reason, when there can be none now.
+  Session& Usable(std::int32_t plngNumber);
+  template <class Action>
+  auto ForRowSet(Action pAction);
+  std::string ReasonOfLoss() const;
+  void BeginOutermost(Transaction pTransaction);
+  void EndTransaction() noexcept;
+  /// Keeps why the transaction is lost, when it is.
+  void NoteFailure(const std::string& pstrDescription);
+
+  std::unique_ptr<Session> mobjSession;
+  std::map<std::string, std::shared_ptr<const std::vector<std::string>>> mcolColumns;  // by table
+  std::string mstrAddress;
+  std::string mstrLoss;  // why the transaction is lost
+  std::int32_t mlngDepth = 0;
+  Transaction mKind = Transaction::Read;
+  bool mblnLost = false;
+};
+
+}  // namespace vantrel

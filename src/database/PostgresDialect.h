@@ -1,0 +1,20 @@
+// How PostgreSQL wants statements written.
+#pragma once
+
+#include "database/Dialect.h"
+
+namespace vantrel {
+
+/// Names are in small letters, as in the schema, and stand in double quotes.
+class PostgresDialect final : public Dialect {
+ protected:
+  void AppendName(std::string& pstrText, std::string_view pstrName) const override;
+  void AppendParameter(std::string& pstrText, std::size_t plngNumber) const override;
+  void AppendBoolean(std::string& pstrText, bool pblnValue) const override;
+  void AppendDate(std::string& pstrText, Date pdtmValue) const override;
+  std::string_view ReturningId() const override { return " RETURNING \"id\""; }
+  /// The server gives a changed row last. For whole rows of one table of the schema only: others need not have an id.
+  std::string_view RowOrder(std::string_view pstrText) const override;
+};
+
+}  // namespace vantrel

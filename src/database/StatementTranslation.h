@@ -1,0 +1,45 @@
+// One statement on its way into an engine's language.
+#pragma once
+
+#include <string_view>
+
+#include "database/Dialect.h"
+#include "database/SqlTokenizer.h"
+
+namespace vantrel {
+
+/// Writes the statement anew, token by token and with single blanks, so that statements of one shape become one text.
+class Dialect::Translation {
+ public:
+  Translation(const Dialect& pobjDialect, std::string_view pstrSql);
+
+  EngineStatement Run();
+
+ private:
+  void CheckBeginning() const;
+  void Translate(const SqlToken& pToken);
+  void TranslateWord(const SqlToken& pToken);
+  void TranslateSymbol(const SqlToken& pToken);
+  bool IsName(const SqlToken& pToken) const;
+  void AddNumber(std::string_view pstrDigits, bool pblnNegative);
+  void AddValue(Variant pvarValue);
+  /// The values behind IN, which stay text, up to and with the closing parenthesis.
+  void TranslateList();
+  void TranslateListItem(const SqlToken& pToken);
+
+  void AddName(std::string_view pstrName);
+  /// A word or symbol as it is.
+  void AddPlain(std::string_view pstrText, bool pblnValueFollows);
+  void AddSymbol(std::string_view pstrSymbol);
+  void AddBlank();
+
+  const Dialect& mobjDialect;
+  SqlTokenizer mTokens;
+  EngineStatement mResult;
+  bool mblnGlue = true;           // no blank before the next token
+  bool mblnValueFollows = false;  // a minus here is a sign
+  bool mblnAfterDot = false;
+  bool mblnOrdering = false;  // behind ORDER BY or GROUP BY a number is the place of a column and no value
+};
+
+}  // namespace vantrel

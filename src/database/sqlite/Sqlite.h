@@ -1,0 +1,23 @@
+// Databases that are one file on this machine.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "database/Connection.h"
+
+namespace vantrel {
+
+struct SqliteOptions {
+  int BusyTimeout = 10'000;  ///< milliseconds that a statement waits for others who keep the file
+};
+
+/// Opens an existing database file; one that may not be written can still be read. Throws Error vntErrDatabase, which names the
+/// file, for one that is missing, damaged or no database.
+std::shared_ptr<Connection> OpenSqlite(const std::string& pstrPath, SqliteOptions pOptions = {});
+
+/// Makes the tables of the schema, and the file where there is none yet: all or nothing, and no file stays behind when it fails.
+/// Throws Error vntErrDatabase also when the database has the tables already.
+void CreateSqlite(const std::string& pstrPath, const std::string& pstrSchema);
+
+}  // namespace vantrel

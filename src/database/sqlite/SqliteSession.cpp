@@ -1,0 +1,193 @@
+#include "database/sqlite/SqliteSession.h"
+
+#include <filesystem>
+#include <limits>
+#include <optional>
+
+#include "database/sqlite/SqliteError.h"
+#include "util/Error.h"
+
+namespace vantrel {
+
+namespace {
+
+constexpr int kFlags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+
+// A path as the URI that SQLite takes.
+std::string UriOf(const std::string& pstrPath) {
+  constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+  std::string uri = "file:";
+  for (const char c : std::filesystem::absolute(pstrPath).string()) {
+    if (c == '%' || c == '?' || c == '#') {
+      const auto byte = static_cast<unsigned char>(c);
+      uri.append({'%', kHexDigits[byte >> 4], kHexDigits[byte & 15]});
+    } else {
+      uri.push_back(c);
+    }
+  }
+  return uri;
+}
+
+}  // namespace
+
+void SqliteSession::Open(const std::string& pstrAddress) {
+  Close();
+  mstrPath = pstrAddress;
+  std::error_code ignored;
+  // SQLite takes an empty file for a database without tables, and an empty name for one of its own.
+  if (std::filesystem::is_regular_file(mstrPath, ignored) && std::filesystem::file_size(mstrPath, ignored) == 0) {
+    throw SqliteError(nullptr, SQLITE_NOTADB, mstrPath);
+  }
+  if (mstrPath.empty()) throw SqliteError(nullptr, SQLITE_CANTOPEN, mstrPath);
+  try {
+    OpenFile(mstrPath, SQLITE_OPEN_READWRITE);
+    OpenToRead();
+  } catch (...) {
+    Close();
+    throw;
+  }
+}
+
+void SqliteSession::OpenOrMake(const std::string& pstrAddress) {
+  Close();
+  mstrPath = pstrAddress;
+  OpenFile(mstrPath, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  UseWriteAheadLog();
+}
+
+void SqliteSession::OpenFile(const std::string& pstrName, int plngFlags) {
+  const int result = sqlite3_open_v2(pstrName.c_str(), &mobjDatabase, plngFlags | kFlags, nullptr);
+  if (result != SQLITE_OK) {
+    const Error error = SqliteError(mobjDatabase, result, mstrPath);
+    Close();
+    throw error;
+  }
+  Configure();
+}
+
+void SqliteSession::Configure() {
+  sqlite3_busy_timeout(mobjDatabase, mOptions.BusyTimeout);
+  // An unknown name is an error and not a text.
+  sqlite3_db_config(mobjDatabase, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+  sqlite3_db_config(mobjDatabase, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
+  sqlite3_db_config(mobjDatabase, SQLITE_DBCONFIG_ENABLE_FKEY, 1, nullptr);
+  sqlite3_db_config(mobjDatabase, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+}
+
+// Reads something, which shows whether the file is a database at all.
+void SqliteSession::OpenToRead() {
+  try {
+    UseWriteAheadLog();
+    RunText("SELECT COUNT(*) FROM sqlite_schema");
+  } catch (const Error&) {
+    // Where neither the file nor its folder can be written there is no place for the log's index. Where the log is
+    // missing or empty the file is complete, and can be read as it lies there.
+    const int problem = sqlite3_errcode(mobjDatabase) & 0xFF;
+    std::error_code ignored;
+    const auto logSize = std::filesystem::file_size(mstrPath + "-wal", ignored);
+    const bool hasLog = logSize != static_cast<std::uintmax_t>(-1) && logSize > 0;
+    if (hasLog || (problem != SQLITE_CANTOPEN && problem != SQLITE_READONLY)) throw;
+    Close();
+    OpenFile(UriOf(mstrPath) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+    RunText("SELECT COUNT(*) FROM sqlite_schema");
+  }
+}
+
+// A file that somebody made without the log works too, only slower: it is not worth waiting for.
+void SqliteSession::UseWriteAheadLog() {
+  if (sqlite3_db_readonly(mobjDatabase, "main") == 1) return;
+  sqlite3_busy_timeout(mobjDatabase, 0);
+  sqlite3_exec(mobjDatabase, "PRAGMA journal_mode = WAL", nullptr, nullptr, nullptr);
+  sqlite3_busy_timeout(mobjDatabase, mOptions.BusyTimeout);
+  RunText("PRAGMA synchronous = FULL");
+}
+
+void SqliteSession::Close() noexcept {
+  mStatements.Clear();
+  sqlite3_close_v2(mobjDatabase);
+  mobjDatabase = nullptr;
+  mblnReadsOnly = false;
+}
+
+std::int64_t SqliteSession::Run(const EngineStatement& pobjStatement) {
+  RunPrepared(pobjStatement, nullptr);
+  return mblnChanged ? sqlite3_changes64(mobjDatabase) : 0;
+}
+
+EngineRows SqliteSession::Query(const EngineStatement& pobjStatement) {
+  EngineRows rows;
+  RunPrepared(pobjStatement, &rows);
+  return rows;
+}
+
+std::int32_t SqliteSession::Insert(const EngineStatement& pobjStatement) {
+  RunPrepared(pobjStatement, nullptr);
+  const std::int64_t newId = sqlite3_last_insert_rowid(mobjDatabase);
+  if (newId > std::numeric_limits<std::int32_t>::max()) throw Error(vntErrOverflow);
+  return static_cast<std::int32_t>(newId);
+}
+
+void SqliteSession::RunPrepared(const EngineStatement& pobjStatement, EngineRows* pobjRows) {
+  if (!IsOpen()) throw Error(vntErrObjectClosed);
+  int result = SQLITE_OK;
+  if (pobjStatement.IsReusable) {
+    SqliteStatement* const statement = mStatements.Find(mobjDatabase, pobjStatement.Text, result);
+    Check(result);
+    RunIn(*statement, pobjStatement, pobjRows);
+  } else {
+    SqliteStatement statement(mobjDatabase, pobjStatement.Text, false, result);
+    Check(result);
+    RunIn(statement, pobjStatement, pobjRows);
+  }
+}
+
+void SqliteSession::RunIn(SqliteStatement& pobjStatement, const EngineStatement& pobjValues, EngineRows* pobjRows) {
+  mblnChanged = !pobjStatement.IsReadOnly();
+  if (mblnReadsOnly && mblnChanged) throw Error(vntErrStatement, "Nothing can be changed in a transaction that only reads.");
+  Check(pobjStatement.Run(pobjValues.Parameters, pobjRows));
+}
+
+void SqliteSession::RunScript(const std::string& pstrScript) {
+  const bool isOutermost = !IsInTransaction();
+  if (isOutermost) Begin(Transaction::Write);
+  try {
+    RunText(pstrScript.c_str());
+    if (isOutermost) Commit();
+  } catch (...) {
+    if (isOutermost) Rollback();
+    throw;
+  }
+}
+
+void SqliteSession::RunText(const char* pstrText) { Check(sqlite3_exec(mobjDatabase, pstrText, nullptr, nullptr, nullptr)); }
+
+void SqliteSession::Begin(Transaction pTransaction) {
+  if (!IsOpen()) throw Error(vntErrObjectClosed);
+  if (pTransaction == Transaction::Write) return RunText("BEGIN IMMEDIATE");
+  RunText("BEGIN");
+  try {
+    RunText("SELECT COUNT(*) FROM sqlite_schema");  // from here on the state is the same one
+  } catch (...) {
+    Rollback();
+    throw;
+  }
+  mblnReadsOnly = true;
+}
+
+void SqliteSession::Commit() {
+  mblnReadsOnly = false;
+  RunText("COMMIT");
+}
+
+void SqliteSession::Rollback() noexcept {
+  mblnReadsOnly = false;
+  if (IsInTransaction()) sqlite3_exec(mobjDatabase, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+bool SqliteSession::IsInTransaction() const { return mobjDatabase != nullptr && sqlite3_get_autocommit(mobjDatabase) == 0; }
+
+void SqliteSession::Check(int plngResult) {
+  if (plngResult != SQLITE_OK) throw SqliteError(mobjDatabase, plngResult, mstrPath);
+}
+
+}  // namespace vantrel

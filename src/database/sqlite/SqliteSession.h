@@ -1,0 +1,60 @@
+// The adapter of SQLite.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include <sqlite3.h>
+
+#include "database/Session.h"
+#include "database/SqliteDialect.h"
+#include "database/sqlite/Sqlite.h"
+#include "database/sqlite/SqliteStatementCache.h"
+
+namespace vantrel {
+
+/// The address is the file's path. Write-ahead log, so that readers and a writer do not wait for each other; every commit is on
+/// the disk when it returns.
+class SqliteSession final : public Session {
+ public:
+  explicit SqliteSession(SqliteOptions pOptions) : mOptions(pOptions) {}
+  ~SqliteSession() override { Close(); }
+
+  const vantrel::Dialect& Dialect() const override { return mDialect; }
+  void Open(const std::string& pstrAddress) override;
+  /// Like Open; makes the file where there is none.
+  void OpenOrMake(const std::string& pstrAddress);
+  void Close() noexcept override;
+  bool IsOpen() const override { return mobjDatabase != nullptr; }
+
+  std::int64_t Run(const EngineStatement& pobjStatement) override;
+  EngineRows Query(const EngineStatement& pobjStatement) override;
+  std::int32_t Insert(const EngineStatement& pobjStatement) override;
+  void RunScript(const std::string& pstrScript) override;
+
+  void Begin(Transaction pTransaction) override;
+  void Commit() override;
+  void Rollback() noexcept override;
+  bool IsInTransaction() const override;
+
+ private:
+  void OpenFile(const std::string& pstrName, int plngFlags);
+  void OpenToRead();
+  void Configure();
+  void UseWriteAheadLog();
+  /// Values are taken out of the text by the dialect, so this is for statements of this class alone.
+  void RunText(const char* pstrText);
+  void RunPrepared(const EngineStatement& pobjStatement, EngineRows* pobjRows);
+  void RunIn(SqliteStatement& pobjStatement, const EngineStatement& pobjValues, EngineRows* pobjRows);
+  void Check(int plngResult);
+
+  SqliteDialect mDialect;
+  SqliteOptions mOptions;
+  std::string mstrPath;
+  sqlite3* mobjDatabase = nullptr;
+  SqliteStatementCache mStatements;
+  bool mblnReadsOnly = false;  // in a transaction that only reads
+  bool mblnChanged = false;    // the last statement was one that changes something
+};
+
+}  // namespace vantrel

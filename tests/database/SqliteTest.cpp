@@ -1,0 +1,228 @@
+#include "database/sqlite/Sqlite.h"
+
+#include <atomic>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include "database/ConnectionContract.h"
+#include "database/EngineConnection.h"
+#include "database/sqlite/SqliteSession.h"
+#include "util/Error.h"
+
+namespace vantrel::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+std::string Schema() {
+  std::ifstream file(VANTREL_SCHEMA_DIR "/sqlite.sql");
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// A folder of its own, open to every user.
+class Folder {
+ public:
+  Folder() {
+    static std::atomic<int> number = 0;
+    mPath = std::filesystem::temp_directory_path() / ("vantrel-sqlite-" + std::to_string(getpid()) + "-" + std::to_string(++number));
+    std::filesystem::create_directory(mPath);
+    std::filesystem::permissions(mPath, std::filesystem::perms::all);
+  }
+  Folder(const Folder&) = delete;
+  Folder& operator=(const Folder&) = delete;
+  ~Folder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(mPath, ignored);
+  }
+
+  std::string File(const char* pstrName = "net #1%.db") const { return (mPath / pstrName).string(); }
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(mPath)) names.push_back(entry.path().filename().string());
+    return names;
+  }
+  const std::filesystem::path& Path() const { return mPath; }
+
+ private:
+  std::filesystem::path mPath;
+};
+
+class SqliteContractDatabase final : public ContractDatabase {
+ public:
+  SqliteContractDatabase() { CreateSqlite(mFolder.File(), Schema()); }
+  std::shared_ptr<Connection> Connect() override { return OpenSqlite(mFolder.File()); }
+
+ private:
+  Folder mFolder;
+};
+
+INSTANTIATE_TEST_SUITE_P(Sqlite, ConnectionContract,
+                         testing::Values(ContractEngine{"Sqlite", [] { return std::make_unique<SqliteContractDatabase>(); }, ""}),
+                         testing::PrintToStringParamName());
+
+// Permissions do not bind the superuser: for its life the process is somebody else.
+class OrdinaryUser {
+ public:
+  OrdinaryUser() : mblnChanged(geteuid() == 0 && seteuid(65534) == 0) {}
+  OrdinaryUser(const OrdinaryUser&) = delete;
+  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+  ~OrdinaryUser() {
+    if (mblnChanged && seteuid(0) != 0) std::abort();
+  }
+
+ private:
+  const bool mblnChanged;
+};
+
+// SQLite itself, for what other programs do to a file.
+void RunRaw(const std::string& pstrFile, const char* pstrSql, const std::function<void()>& pobjMeanwhile = {}) {
+  sqlite3* database = nullptr;
+  ASSERT_EQ(sqlite3_open(pstrFile.c_str(), &database), SQLITE_OK);
+  EXPECT_EQ(sqlite3_exec(database, pstrSql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(database);
+  if (pobjMeanwhile) pobjMeanwhile();
+  sqlite3_close(database);
+}
+
+void AddCase(Connection& pobjConnection, int plngId) {
+  pobjConnection.Execute("INSERT INTO Workcase(Id, OrderItemId ) VALUES(" + std::to_string(plngId) + ", 0)");
+}
+
+struct Sqlite : testing::Test {
+  void Create() { CreateSqlite(Home.File(), Schema()); }
+  std::vector<std::string> Cases() { return Column(*OpenSqlite(Home.File()), "SELECT Id FROM Workcase ORDER BY Id", "Id"); }
+
+  Folder Home;
+};
+
+// One clear message that names the file.
+void ExpectProblem(const std::function<void()>& pobjAction, const std::string& pstrFile, const char* pstrWhat) {
+  std::string why;
+  EXPECT_EQ(ErrorOf(pobjAction, &why), vntErrDatabase) << pstrWhat;
+  EXPECT_THAT(why, testing::AllOf(HasSubstr("\"" + pstrFile + "\""), HasSubstr(pstrWhat)));
+}
+
+TEST_F(Sqlite, FilesThatAreNoDatabaseAreNamedWithTheReason) {
+  std::ofstream(Home.File("text.db")) << std::string(5000, 'x');
+  std::ofstream(Home.File("empty.db")).close();
+  const std::pair<std::string, const char*> cases[] = {{Home.File("none.db"), "no such file"},
+                                                       {Home.File("none/none.db"), "no folder"},
+                                                       {Home.Path().string(), "folder"},
+                                                       {"", "cannot be opened"},
+                                                       {Home.File("text.db"), "is not a database"},
+                                                       {Home.File("empty.db"), "is not a database"}};
+  for (const auto& [file, what] : cases) ExpectProblem([&name = file] { OpenSqlite(name); }, file, what);
+  ExpectProblem([&] { CreateSqlite(Home.File("text.db"), Schema()); }, Home.File("text.db"), "is not a database");
+  EXPECT_THAT(Home.Names(), testing::UnorderedElementsAre("text.db", "empty.db"));
+}
+
+TEST_F(Sqlite, DamageIsReportedAndNotRead) {
+  Create();
+  {
+    std::fstream file(Home.File(), std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(4096);
+    file << std::string(std::filesystem::file_size(Home.File()) - 4096, '\x5A');
+  }
+  ExpectProblem([&] { AddCase(*OpenSqlite(Home.File()), 1); }, Home.File(), "is damaged");
+}
+
+TEST_F(Sqlite, CreatingIsAllOrNothing) {
+  EXPECT_EQ(ErrorOf([&] { CreateSqlite(Home.File(), Schema() + "CREATE NONSENSE;"); }), vntErrStatement);
+  EXPECT_THAT(Home.Names(), IsEmpty());
+  ExpectProblem([&] { CreateSqlite(Home.File("none/none.db"), Schema()); }, Home.File("none/none.db"), "no folder");
+
+  RunRaw(Home.File(), "CREATE TABLE Other (Id INTEGER)");
+  EXPECT_EQ(ErrorOf([&] { CreateSqlite(Home.File(), Schema() + "CREATE NONSENSE;"); }), vntErrStatement);
+  RunRaw(Home.File(), "CREATE TABLE Workcase (Id INTEGER); DROP TABLE Workcase; INSERT INTO Other VALUES (1)");
+  Create();
+  AddCase(*OpenSqlite(Home.File()), 1);
+  ExpectProblem([&] { Create(); }, Home.File(), "has the tables already");
+  EXPECT_THAT(Cases(), ElementsAre("1"));
+}
+
+TEST_F(Sqlite, AWriterThatWaitsTooLongIsToldThatTheFileIsLocked) {
+  Create();
+  RunRaw(Home.File(), "BEGIN IMMEDIATE", [&] {
+    const auto connection = OpenSqlite(Home.File(), {.BusyTimeout = 1});
+    ExpectProblem([&] { connection->BeginTrans(Transaction::Write); }, Home.File(), "is locked");
+    ExpectProblem([&] { AddCase(*connection, 1); }, Home.File(), "is locked");
+    connection->BeginTrans(Transaction::Read);
+    EXPECT_EQ(Opened(*connection, "Workcase")->RecordCount(), 0);
+    connection->CommitTrans();
+  });
+}
+
+TEST_F(Sqlite, AFullDiskIsNamedAndNothingIsSavedByHalves) {
+  Create();
+  auto session = std::make_unique<SqliteSession>(SqliteOptions());
+  session->Open(Home.File());
+  session->RunScript("PRAGMA max_page_count = 60");
+  EngineConnection connection(std::move(session), Home.File());
+  AddCase(connection, 1);
+
+  connection.BeginTrans(Transaction::Write);
+  AddCase(connection, 2);
+  const std::string text(1'000'000, 'x');
+  ExpectProblem([&] { connection.Execute("INSERT INTO Arc (Guard) VALUES ('" + text + "')"); }, Home.File(), "disk is full");
+  const bool isLost = connection.IsTransactionLost();
+  EXPECT_EQ(ErrorOf([&] { AddCase(connection, 3); }), isLost ? vntErrObjectClosed : 0);
+  EXPECT_EQ(ErrorOf([&] { connection.CommitTrans(); }), isLost ? vntErrDatabase : 0);
+  EXPECT_THAT(Cases(), isLost ? std::vector<std::string>{"1"} : std::vector<std::string>({"1", "2", "3"}));
+}
+
+TEST_F(Sqlite, ReadOnlyFilesAndFoldersCanBeRead) {
+  Create();
+  AddCase(*OpenSqlite(Home.File()), 1);
+  std::filesystem::permissions(Home.File(), std::filesystem::perms{0444});
+  for (const bool isFolderReadOnly : {false, true}) {
+    if (isFolderReadOnly) {
+      std::filesystem::remove(Home.File() + "-wal");
+      std::filesystem::remove(Home.File() + "-shm");
+      std::filesystem::permissions(Home.Path(), std::filesystem::perms{0555});
+    }
+    const OrdinaryUser user;
+    const auto connection = OpenSqlite(Home.File());
+    connection->BeginTrans(Transaction::Read);
+    EXPECT_THAT(Column(*connection, "SELECT Id FROM Workcase", "Id"), ElementsAre("1"));
+    connection->CommitTrans();
+    ExpectProblem([&] { AddCase(*connection, 2); }, Home.File(), "is read-only");
+    ExpectProblem(
+        [&] {
+          connection->BeginTrans(Transaction::Write);
+          AddCase(*connection, 2);
+        },
+        Home.File(), "is read-only");
+    connection->RollbackTrans();
+  }
+  std::filesystem::permissions(Home.File(), std::filesystem::perms::none);
+  const OrdinaryUser user;
+  ExpectProblem([&] { OpenSqlite(Home.File()); }, Home.File(), "access is denied");
+}
+
+TEST_F(Sqlite, StatementsAreForgottenBeforeTheyPileUp) {
+  Create();
+  const auto connection = OpenSqlite(Home.File());
+  for (int i = 0; i < 500; ++i) {
+    const std::string alias = "a" + std::to_string(i);
+    EXPECT_TRUE(Opened(*connection, "SELECT MAX(Id) AS " + alias + " FROM Arc")->Fields(alias).Value.IsNull());
+  }
+}
+
+TEST_F(Sqlite, TablesThatChangeUnderAPreparedStatementAreSeen) {
+  Create();
+  const auto connection = OpenSqlite(Home.File());
+  AddCase(*connection, 1);
+  EXPECT_THAT(Column(*connection, "SELECT * FROM Workcase", "Id"), ElementsAre("1"));
+  RunRaw(Home.File(), "ALTER TABLE Workcase ADD COLUMN Extra BOOLEAN DEFAULT 1");
+  EXPECT_EQ(Opened(*connection, "SELECT * FROM Workcase")->Fields("Extra").Value, Variant(true));
+}
+
+}  // namespace
+}  // namespace vantrel::test
