@@ -15,6 +15,8 @@
 
 namespace vantrel {
 
+class Recordset;
+
 /// Joins one place and one transition; carries a weight (shown, not used by the game) and a guard (the label that users
 /// choose among when a vntSelect transition fires). Drawn as a chain of segments (Vector) joined at bend points (Elbow),
 /// which the workflow owns; the arc finds its own without looking through the workflow. Twips throughout.
@@ -100,6 +102,10 @@ class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
   /// ends' InArcs and OutArcs is the caller's task.
   std::shared_ptr<Arc> Clone(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow, const std::shared_ptr<vantrel::Place>& pobjPlace,
                              const std::shared_ptr<vantrel::Transition>& pobjTransition) const;
+
+  /// Copies the current row of the Arc table; place and transition are the caller's task, StdPath is not read. Throws Error for
+  /// columns that cannot be read.
+  void AssignValues(const Recordset& pobjRow);
 
   std::shared_ptr<PropertyCollection> GetProperties() override;
   /// Leaves the arc clean.

@@ -15,12 +15,16 @@
 
 namespace vantrel {
 
+class WorkflowReader;
+
 /// The model's view of the designer control, reached as gobjVantrel. What stands here is the host that serves while no
 /// control exists: it accepts everything, shows nothing, has no elements to give and answers every question with "cancel".
 class DesignerHost {
  public:
   virtual ~DesignerHost() = default;
 
+  /// What reads the workflows that transitions embed; null without a database.
+  virtual WorkflowReader* VNTRDB() { return nullptr; }
   /// The workflow shown; new places and transitions belong to it.
   virtual Ref<vantrel::Workflow> Workflow() const { return nullptr; }
   /// Where new places and transitions lie, twips.

@@ -23,6 +23,7 @@ DesignerHost& DesignerHostRef::BuiltIn() {
 DesignerHostRef gobjVantrel;
 Ref<Workflow> gobjWorkflow;
 const ImageList* gobjImageList = &OwnImages();
+WorkflowReader* gobjWorkflowReader = nullptr;
 UseModeConstant gintUseMode = vntDesign;
 std::int16_t gintInputPosition = vntLeft;
 std::int16_t gintOutputPosition = vntRight;

@@ -22,11 +22,12 @@ class DesignerHostRef {
   DesignerHost* mobjHost = nullptr;
 };
 
-extern DesignerHostRef gobjVantrel;     ///< the control; whoever sets it takes it back before it dies
-extern Ref<Workflow> gobjWorkflow;      ///< the workflow shown
-extern const ImageList* gobjImageList;  ///< pictures that objects show; never null
-extern UseModeConstant gintUseMode;     ///< vntDesign at first
-extern std::int16_t gintInputPosition;  ///< ConnectorPosition given to new objects; every setting of one changes it
+extern DesignerHostRef gobjVantrel;         ///< the control; whoever sets it takes it back before it dies
+extern Ref<Workflow> gobjWorkflow;          ///< the workflow shown
+extern const ImageList* gobjImageList;      ///< pictures that objects show; never null
+extern WorkflowReader* gobjWorkflowReader;  ///< who is reading a workflow now; null while nobody is
+extern UseModeConstant gintUseMode;         ///< vntDesign at first
+extern std::int16_t gintInputPosition;      ///< ConnectorPosition given to new objects; every setting of one changes it
 extern std::int16_t gintOutputPosition;
 
 /// Puts the state back to what it was at its creation when it goes out of scope.

@@ -39,6 +39,14 @@ void Elbow::Attach(Ref<Vector>& pobjMember, const Ref<Vector>& pobjVector) {
   if (auto* vector = pobjMember.get()) vector->mcolElbows.push_back(this);
 }
 
+Arc& Elbow::OwnArc() const { return *(mobjInVector ? mobjInVector : mobjOutVector)->Arc(); }
+
+std::shared_ptr<PropertyCollection> Elbow::GetProperties() { return OwnArc().GetProperties(); }
+
+void Elbow::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) { OwnArc().SetProperties(pcolProperties); }
+
+void Elbow::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) { OwnArc().SetProperty(pstrPropName, pvarValue); }
+
 float Elbow::HandleWidth() const { return Handle ? Handle->Width() : kHandleSize; }
 
 float Elbow::HandleHeight() const { return Handle ? Handle->Height() : kHandleSize; }

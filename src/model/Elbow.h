@@ -6,14 +6,14 @@
 
 #include "chart/Image.h"
 #include "model/Forward.h"
-#include "util/Object.h"
+#include "model/ModelObject.h"
 #include "util/Ref.h"
 
 namespace vantrel {
 
 /// Joins two consecutive segments of one arc and shows a small square handle at the joint, hidden at first. Owned by the
-/// workflow's Elbows. Twips.
-class Elbow final : public Object, public std::enable_shared_from_this<Elbow> {
+/// workflow's Elbows. Answers the property protocol with its arc's. Twips.
+class Elbow final : public ModelObject, public std::enable_shared_from_this<Elbow> {
  public:
   /// Takes a handle of the control and the next free key of the control's workflow.
   Elbow();
@@ -46,7 +46,13 @@ class Elbow final : public Object, public std::enable_shared_from_this<Elbow> {
   /// True also marks the arc and the segment behind.
   void Dirty(bool pblnDirty);
 
+  /// The arc's; Error 91 without an arc.
+  std::shared_ptr<PropertyCollection> GetProperties() override;
+  void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
+  void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
+
  private:
+  Arc& OwnArc() const;
   void Attach(Ref<Vector>& pobjMember, const Ref<Vector>& pobjVector);
   float HandleWidth() const;
   float HandleHeight() const;

@@ -88,6 +88,13 @@ void Node::Left(float psngLeft) {
   Draw();
 }
 
+void Node::MoveTo(float psngLeft, float psngTop) {
+  mLeft = psngLeft;
+  mTop = psngTop;
+  MarkDirty();
+  Draw();
+}
+
 void Node::InputPosition(std::int16_t pintPosition) {
   mInputPosition = pintPosition;
   gintInputPosition = pintPosition;

@@ -15,6 +15,8 @@
 
 namespace vantrel {
 
+class Recordset;
+
 /// An object of the net with a picture, a caption and two connectors. Owned by its workflow's collection; its chart
 /// elements belong to the chart. Positions and sizes are twips.
 class Node : public ModelObject, public std::enable_shared_from_this<Node> {
@@ -40,6 +42,8 @@ class Node : public ModelObject, public std::enable_shared_from_this<Node> {
   void Top(float psngTop);
   float Left() const { return mLeft; }
   void Left(float psngLeft);
+  /// Both at once, redrawn once.
+  void MoveTo(float psngLeft, float psngTop);
 
   /// Sides of the connectors (ConnectorPosition). Setting one makes it the side of new objects, too, and redraws.
   std::int16_t InputPosition() const { return mInputPosition; }
@@ -84,6 +88,8 @@ class Node : public ModelObject, public std::enable_shared_from_this<Node> {
   /// `psngLeftOutset` is what an output connector on the left side is moved to the right.
   void DrawConnectors(float psngLeftOutset);
   void DrawArcs();
+  /// Position, connector sides, caption box and picture keys out of the current row, straight into the fields.
+  void AssignLook(const Recordset& pobjRow);
   /// Copies what the clones of both kinds share: caption, its size and offsets, image keys, position and tag.
   void CopyLook(const Node& pobjFrom);
 

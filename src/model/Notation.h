@@ -13,6 +13,8 @@
 
 namespace vantrel {
 
+class Recordset;
+
 /// A box of text with its own font, colours, alignment and border. Takes no part in the token game. Shown by one label of
 /// the chart; owned by the workflow's Notations.
 class Notation final : public ModelObject, public std::enable_shared_from_this<Notation> {
@@ -64,6 +66,10 @@ class Notation final : public ModelObject, public std::enable_shared_from_this<N
   void Draw();
   /// A note of the same look, text and position, without key, workflow or label.
   std::shared_ptr<Notation> Clone() const;
+
+  /// Copies the current row of the Notation table straight into the fields; Protected is not read. Throws Error for columns
+  /// that cannot be read.
+  void AssignValues(const Recordset& pobjRow);
 
   std::shared_ptr<PropertyCollection> GetProperties() override;
   /// Redraws, also for a name that it does not know.

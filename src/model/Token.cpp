@@ -19,6 +19,8 @@ const std::shared_ptr<PropertyCollection>& Token::CustomProperties() const {
   return mcolCustomProperties;
 }
 
+bool Token::HasCustomProperties() const { return mcolCustomProperties && !mcolCustomProperties->IsEmpty(); }
+
 void Token::CustomProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
   mblnEmptyProperties = false;
   mcolCustomProperties = pcolProperties;

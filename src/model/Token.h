@@ -48,6 +48,8 @@ class Token final : public ModelObject {
   /// The token's own property values; null until a creator gives it any.
   const std::shared_ptr<PropertyCollection>& CustomProperties() const;
   void CustomProperties(const std::shared_ptr<PropertyCollection>& pcolProperties);
+  /// Whether there is any value; unlike the question for the collection it never makes one.
+  bool HasCustomProperties() const;
   bool CaseEnabled() const { return mblnCaseEnabled; }
   /// True also marks the place that the token lies in; false leaves the place as it is.
   void CaseEnabled(bool pblnOn);

@@ -82,6 +82,11 @@ class Transition final : public Node {
   /// A name that is no property shows a message box; the transition is marked dirty all the same.
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
+  /// Copies the current row of the Transition table straight into the fields, then reads the workflow that SubflowId names: by
+  /// the control's VNTRDB, or by the reader that is reading now. Throws Error for columns that cannot be read, Error 91 when
+  /// nobody can read that workflow, and what reading it throws.
+  void AssignValues(const Recordset& pobjRow);
+
   /// A share in this transition.
   std::shared_ptr<Transition> Share() { return std::static_pointer_cast<Transition>(shared_from_this()); }
   /// A transition of the same look, types, action and embedded object, marked dirty; the caller names and places it.
@@ -96,6 +101,7 @@ class Transition final : public Node {
   friend class SubflowRun;
   friend class TokenGame;
 
+  void ReadSubflow();
   void MarkDirty() override { Dirty = true; }
   void DrawRoles();
   void Store(const std::string& pstrPropName, const Variant& pvarValue);

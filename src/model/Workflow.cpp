@@ -16,6 +16,7 @@ std::shared_ptr<PropertyCollection> CopyByName(const PropertyCollection& pcolDef
   auto properties = std::make_shared<PropertyCollection>();
   for (const auto& record : pcolDefinitions) {
     const auto copy = record->Copy();
+    copy->Id = 0;  // the definition's; a value gets an id of its own when it is stored
     properties->Add(copy, copy->Name);
   }
   return properties;

@@ -1,0 +1,25 @@
+// The steps of a save, one for each kind of thing that is drawn.
+#pragma once
+
+#include <functional>
+
+#include "model/Workflow.h"
+#include "persistence/DatabaseAccess.h"
+
+namespace vantrel {
+
+/// Each writes the rows of one kind and deletes those whose objects are gone. The workflow must have its id. True when the step
+/// completed; a failure is shown and ends the step with false, objects already written keep their new ids. All throw
+/// TransactionLost.
+bool SaveTransitions(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);
+bool SavePlaces(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);
+/// Shows no failure but throws it. False for a workflow without arcs. Arcs that lack an end keep the rows that they have.
+bool SaveArcs(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);
+/// An arc with one segment has no rows.
+bool SaveVectors(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);
+bool SaveNotations(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);
+
+/// Runs a step that shows its failure.
+bool RunStep(DatabaseAccess& pobjAccess, const std::function<void()>& pStep);
+
+}  // namespace vantrel

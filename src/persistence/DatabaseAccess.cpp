@@ -1,0 +1,142 @@
+#include "persistence/DatabaseAccess.h"
+
+#include "util/MsgBox.h"
+
+namespace vantrel {
+
+namespace {
+
+constexpr const char* kNoConnectionText = "A database connection can not be detected.  The save operation has been aborted.";
+
+void Abandon(Connection& pobjConnection, SavedMarks& pobjMarks) {
+  pobjConnection.RollbackTrans();
+  pobjMarks.Restore();
+}
+
+void Commit(Connection& pobjConnection, SavedMarks& pobjMarks) {
+  try {
+    pobjConnection.CommitTrans();
+  } catch (...) {
+    pobjMarks.Restore();
+    throw;
+  }
+}
+
+}  // namespace
+
+vantrel::Connection& DatabaseAccess::Connection() const {
+  if (!mobjConnection) throw Error(vntErrObjectNotSet);
+  return *mobjConnection;
+}
+
+std::int32_t DatabaseAccess::ExecuteSQL(const SqlText& pobjSql) {
+  try {
+    Connection().Execute(pobjSql.Text(), Connection::kOptionsUnspecified);
+    return 0;
+  } catch (const Error& error) {
+    Show(error);
+    if (error.Number == vntErrObjectClosed) {
+      try {
+        Connection().Open("", "", "", Connection::kOptionsUnspecified);
+      } catch (const Error& reason) {
+        throw ReopeningFailed(reason);
+      }
+    }
+    if (IsTransactionLost()) throw TransactionLost(error);
+    return error.Number;
+  }
+}
+
+std::unique_ptr<Recordset> DatabaseAccess::GetRecordset(const std::string& pstrSql, std::int32_t plngCursorType) {
+  mobjUnshown.reset();
+  try {
+    auto rows = Connection().NewRecordset();
+    rows->ActiveConnection = mobjConnection.get();
+    rows->CursorLocation = vntUseClient;
+    rows->CursorType = plngCursorType;
+    rows->LockType = vntLockOptimistic;
+    rows->Open(pstrSql);
+    return rows;
+  } catch (const Error& error) {
+    if (error.Number == vntErrNoConnection) {
+      mobjUnshown = error;
+    } else {
+      Show(error);
+      if (IsTransactionLost()) throw TransactionLost(error);
+    }
+    return nullptr;
+  }
+}
+
+std::unique_ptr<Recordset> DatabaseAccess::Rows(const std::string& pstrSql) {
+  auto rows = GetRecordset(pstrSql);
+  if (rows) return rows;
+  if (mobjUnshown && IsTransactionLost()) throw Error(*mobjUnshown);
+  throw Error(vntErrObjectNotSet);
+}
+
+std::int32_t DatabaseAccess::NextId(const std::string& pstrTableName) {
+  const std::string sql = "SELECT MAX(Id) AS MaxId FROM " + pstrTableName;
+  UseCursor(vntUseServer);
+  const auto rows = Rows(sql);
+  const Variant& largest = rows->Fields("MaxId").Value;
+  if (largest.IsNull()) return 1;
+  const std::int32_t id = largest.ToInt32();
+  if (id == 0x7FFFFFFF) throw Error(vntErrOverflow);
+  return id + 1;
+}
+
+void DatabaseAccess::Write(SavedMarks& pobjMarks, const std::function<void()>& pWork) {
+  Connection();
+  const auto connection = mobjConnection;  // a message box may be answered by code that hands in another one
+  connection->BeginTrans(Transaction::Write);
+  try {
+    pWork();
+  } catch (const Error& error) {
+    if (!connection->IsTransactionLost()) {
+      Commit(*connection, pobjMarks);
+      throw;
+    }
+    Abandon(*connection, pobjMarks);
+    if (dynamic_cast<const TransactionLost*>(&error) || dynamic_cast<const ReopeningFailed*>(&error)) throw;
+    Show(error);
+    throw TransactionLost(error);
+  } catch (...) {
+    Abandon(*connection, pobjMarks);
+    throw;
+  }
+  Commit(*connection, pobjMarks);
+}
+
+void DatabaseAccess::Read(const std::function<bool()>& pWork) {
+  Connection();
+  const auto connection = mobjConnection;
+  connection->BeginTrans(Transaction::Read);
+  bool hasRead = false;
+  // A rollback would undo what a surrounding transaction of the host has written.
+  const auto endQuietly = [&] {
+    try {
+      connection->CommitTrans();
+    } catch (const Error&) {
+      return;  // the failure that matters is on its way, or there was nothing to read
+    }
+  };
+  try {
+    hasRead = pWork();
+  } catch (...) {
+    endQuietly();
+    throw;
+  }
+  hasRead ? connection->CommitTrans() : endQuietly();
+}
+
+void DatabaseAccess::Show(const Error& pobjError) {
+  ++mlngFailures;
+  mstrLastFailure = pobjError.Description;
+  if (!mobjFirstFailure) mobjFirstFailure = pobjError;
+  MsgBox(pobjError.Description);
+}
+
+void DatabaseAccess::ShowNoConnection() { Show(Error(vntErrObjectNotSet, kNoConnectionText)); }
+
+}  // namespace vantrel

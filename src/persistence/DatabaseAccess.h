@@ -1,0 +1,83 @@
+// Statements, row sets, new ids and transactions: what all parts of VNTRDB stand on.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "database/Connection.h"
+#include "persistence/SavedMarks.h"
+#include "persistence/SqlText.h"
+#include "util/Error.h"
+
+namespace vantrel {
+
+/// The transaction in which something failed is gone, and nothing more can be done in it. The failure has been shown.
+class TransactionLost final : public Error {
+ public:
+  explicit TransactionLost(const Error& pobjReason) : Error(pobjReason) {}
+};
+
+/// The connection closed, and it could not be opened again.
+class ReopeningFailed final : public Error {
+ public:
+  explicit ReopeningFailed(const Error& pobjReason) : Error(pobjReason) {}
+};
+
+/// Works on whatever connection its owner has at the time of the call.
+class DatabaseAccess {
+ public:
+  explicit DatabaseAccess(const std::shared_ptr<Connection>& pobjConnection) : mobjConnection(pobjConnection) {}
+  DatabaseAccess(const DatabaseAccess&) = delete;
+  DatabaseAccess& operator=(const DatabaseAccess&) = delete;
+  ~DatabaseAccess() = default;
+
+  bool HasConnection() const { return mobjConnection != nullptr; }
+  /// Error 91 without connection.
+  vantrel::Connection& Connection() const;
+
+  /// 0, or the number of the failure, which was shown. A connection that turns out to be closed is opened again, but the
+  /// statement is not repeated. Throws TransactionLost and ReopeningFailed.
+  std::int32_t ExecuteSQL(const SqlText& pobjSql);
+  /// Null when the rows cannot be had: without a word when the connection cannot be used, else with the failure shown.
+  std::unique_ptr<Recordset> GetRecordset(const std::string& pstrSql, std::int32_t plngCursorType = vntOpenForwardOnly);
+  /// Never null: Error 91 instead, or the reason when the transaction is lost.
+  std::unique_ptr<Recordset> Rows(const std::string& pstrSql);
+  std::unique_ptr<Recordset> Rows(const SqlText& pobjSql) { return Rows(pobjSql.Text()); }
+  std::int32_t NextId(const std::string& pstrTableName);
+  void UseCursor(CursorLocationConstant pintLocation) { Connection().CursorLocation = pintLocation; }
+  bool IsTransactionLost() const { return HasConnection() && mobjConnection->IsTransactionLost(); }
+
+  /// Does the work in one write transaction. When the work throws an Error, what it wrote before stays; when the transaction
+  /// is lost or cannot be committed, everything is undone and the marks are put back. A lost one ends in TransactionLost.
+  void Write(SavedMarks& pobjMarks, const std::function<void()>& pWork);
+  /// Does the work on one state of the database. It returns whether there was anything to read; if so, a lost transaction is
+  /// an Error.
+  void Read(const std::function<bool()>& pWork);
+
+  /// In a message box.
+  void Show(const Error& pobjError);
+  void ShowNoConnection();
+  std::int32_t Failures() const { return mlngFailures; }
+  const std::string& LastFailure() const { return mstrLastFailure; }
+  /// Makes the next failure that is shown the first one.
+  void ForgetFirstFailure() { mobjFirstFailure.reset(); }
+  const std::optional<Error>& FirstFailure() const { return mobjFirstFailure; }
+
+ private:
+  const std::shared_ptr<vantrel::Connection>& mobjConnection;
+  std::optional<Error> mobjFirstFailure;
+  std::optional<Error> mobjUnshown;  // why GetRecordset last gave nothing without a word
+  std::string mstrLastFailure;
+  std::int32_t mlngFailures = 0;
+};
+
+/// Runs `pRow(row)` for every row from the current one on.
+template <class Row>
+void ForEachRow(Recordset& pobjRows, Row&& pRow) {
+  for (; !pobjRows.Eof(); pobjRows.MoveNext()) pRow(pobjRows);
+}
+
+}  // namespace vantrel

@@ -1,0 +1,92 @@
+// The database access object: the only class that knows the tables of the system.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "database/Connection.h"
+#include "model/Workflow.h"
+#include "model/WorkflowReader.h"
+
+namespace vantrel {
+
+class CaseStore;
+class DatabaseAccess;
+
+/// Reads and saves workflows, token property definitions, cases and tokens over a connection that the host opens and hands in.
+/// Tables are the host's affair (data/schema/ has them); this class never creates or changes one. Every operation that writes
+/// runs in one transaction of its own, inside the host's if the host has begun one. For one thread.
+///
+/// Failing statements are shown in message boxes, as each operation says, and counted in Failures.
+class VNTRDB final : public Object, public WorkflowReader {
+ public:
+  /// The result of a save without a connection.
+  static constexpr std::int32_t kNoConnection = 999;
+
+  VNTRDB();
+  ~VNTRDB() override;
+
+  std::shared_ptr<vantrel::Connection> Connection;  ///< open; null until the host hands one in
+
+  std::string Class() const override { return "VNTR.VNTRDB.1"; }
+
+  /// The workflow with everything drawn in it and the workflows embedded in it, not shown yet; null when there is no such id.
+  /// What it reads becomes the process-wide current workflow (gobjWorkflow), also when nothing was found. All of one state of
+  /// the database. Throws Error for columns that cannot be read and Error 5 for a workflow that is embedded in itself; arcs
+  /// that cannot be read are left out.
+  std::shared_ptr<Workflow> ReadWorkflow(std::int32_t plngRecId) override;
+
+  /// Writes the whole chart of the workflow and removes rows whose objects are gone; new objects get their ids. Does not save
+  /// token property definitions (SaveTokenProperties). 0 when the save ran, whatever was refused and shown on the way; 999
+  /// without connection; the failure's number when the connection or the engine gave up the transaction: then nothing was
+  /// saved and ids and dirty marks are what they were, so that the save can be repeated. A failing arc throws and ends the
+  /// save with what was written before it.
+  std::int32_t SaveWorkFlow(const std::shared_ptr<Workflow>& pobjWorkflow);
+  /// Removes the rows of the chart; definitions, cases and tokens stay.
+  void DeleteWorkflow(const Variant& pvarRecId);
+
+  /// The next free id of a table whose ids the system gives: 1 for an empty one. Nobody else gets the same id while a write
+  /// transaction is open; without one the host must see to that.
+  std::int32_t NextId(const std::string& pstrTableName);
+
+  /// The definitions of a place in the order in which they were saved, with their options; never null.
+  std::shared_ptr<PropertyCollection> ReadTokenProperties(std::int32_t plngPlaceRecId);
+  /// The options of a stored definition; never null.
+  std::shared_ptr<Collection<PropertyOption>> ReadPropertyOptions(std::int32_t plngPropertyRecId);
+  /// Replaces the stored definitions of the place. The records keep the ids that they had: read the workflow again before
+  /// saving tokens with values of new definitions.
+  void SaveTokenProperties(const std::shared_ptr<Place>& pobjPlace);
+
+  /// 0 or the failure's number of the statement; 999 without connection; empty when nothing had to be written.
+  Variant SaveWorkcase(const std::shared_ptr<WorkCase>& pobjWorkcase);
+  /// Writes the new and changed tokens of the token's case (or those without case) in the token's workflow, with their values.
+  /// Only the given token is marked clean. 0 or the number of the last statement; empty when nothing had to be written.
+  Variant SaveToken(const std::shared_ptr<Token>& pobjToken);
+  /// Writes the values that differ from their definitions' defaults, and those that have a row already; each remembers its row
+  /// in its Id. Throws Error 5 for a value without definition.
+  void SaveTokenPropertyValues(const std::shared_ptr<Token>& pobjToken);
+
+  /// Puts the stored cases and tokens of a workflow just read back: unconsumed tokens into their places, in the order in which
+  /// they were saved, consumed ones into Workflow::Tokens alone, and so those in the end place, which lets go of its tokens
+  /// unless history is kept. Enabling and firing stack come out as the rules give them for that marking and the workflow's own
+  /// case tracking; nothing fires. The cases that have tokens, in order of their ids; Key and Name are "WorkCase" and the id.
+  /// Throws Error 5 when the workflow has tokens already; after any Error it has none.
+  std::vector<std::shared_ptr<WorkCase>> ReadCases(const std::shared_ptr<Workflow>& pobjWorkflow);
+
+  /// How many failures this object has shown in message boxes so far, and the last one's description.
+  std::int32_t Failures() const;
+  const std::string& LastFailure() const;
+
+ private:
+  friend class WholeSaving;
+  class ReadingScope;
+
+  std::unique_ptr<DatabaseAccess> mobjAccess;
+  std::unique_ptr<CaseStore> mobjCaseStore;
+  std::vector<std::int32_t> mcolReading;       // ids of the workflows that are being read, each embedded in the one before
+  std::shared_ptr<Workflow> mobjNothingFound;  // keeps gobjWorkflow alive after a read that found nothing
+};
+
+}  // namespace vantrel

@@ -1,0 +1,50 @@
+// Rows become a workflow.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+
+#include "model/Workflow.h"
+#include "persistence/DatabaseAccess.h"
+#include "persistence/TokenPropertyStore.h"
+
+namespace vantrel {
+
+/// Fills one new workflow. Takes time in proportion to the rows.
+class WorkflowReading {
+ public:
+  WorkflowReading(DatabaseAccess& pobjAccess, const std::shared_ptr<Workflow>& pobjWorkflow)
+      : mobjAccess(pobjAccess), mobjWorkflow(pobjWorkflow) {}
+
+  /// False when there is no row with that id. Throws Error for a row that cannot be read; from the first arc on, what cannot
+  /// be read is left out.
+  bool Run(std::int32_t plngRecId);
+
+ private:
+  void ReadSettings(const Recordset& pobjRow);
+  void ReadNotations();
+  void ReadTransitions();
+  void ReadPlaces();
+  void ReadPlace(Place& pobjPlace, const Recordset& pobjRow);
+  void ReadName(Place& pobjPlace, const std::string& pstrName);
+  void ReadArcs();
+  void ReadArc(const Recordset& pobjRow);
+  void ReadPath(Arc& pobjArc);
+  void ReadSegment(Vector& pobjVector, const Recordset& pobjRow);
+  std::unique_ptr<Recordset> RowsOf(const char* pstrFrom);
+  /// Runs a step that may fail.
+  template <class Step>
+  void Try(Step&& pStep);
+
+  DatabaseAccess& mobjAccess;
+  std::shared_ptr<Workflow> mobjWorkflow;
+  std::unordered_set<std::string> mcolPlaceNames;
+  // The first object of each id, which is the one that a search from the beginning finds.
+  std::unordered_map<std::int32_t, std::shared_ptr<Place>> mcolPlaces;
+  std::unordered_map<std::int32_t, std::shared_ptr<Transition>> mcolTransitions;
+};
+
+}  // namespace vantrel

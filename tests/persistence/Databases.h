@@ -1,0 +1,96 @@
+// Real databases, one engine a time.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <memory>
+#include <random>
+#include <sstream>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "database/PostgresServer.h"
+#include "database/sqlite/Sqlite.h"
+#include "model/TestHost.h"
+#include "persistence/VNTRDB.h"
+#include "util/MessageRecorder.h"
+
+#ifdef VANTREL_HAS_POSTGRES
+#include "database/postgres/Postgres.h"
+#endif
+
+namespace vantrel::test {
+
+inline std::string SchemaOf(const std::string& pstrEngine) {
+  std::ifstream file(std::string(VANTREL_SCHEMA_DIR) + "/" + pstrEngine + ".sql");
+  std::stringstream text;
+  text << file.rdbuf();
+  return text.str();
+}
+
+/// A new database with the tables, gone with this object.
+class StoredDatabase {
+ public:
+  StoredDatabase() = default;
+  StoredDatabase(const StoredDatabase&) = delete;
+  StoredDatabase& operator=(const StoredDatabase&) = delete;
+  virtual ~StoredDatabase() = default;
+  virtual std::shared_ptr<Connection> Connect() const = 0;
+};
+
+class SqliteStore final : public StoredDatabase {
+ public:
+  SqliteStore() : mFolder(std::filesystem::path(testing::TempDir()) / ("vantrel" + std::to_string(std::random_device()()))) {
+    std::filesystem::create_directories(mFolder);
+    CreateSqlite(File(), SchemaOf("sqlite"));
+  }
+  ~SqliteStore() override { std::filesystem::remove_all(mFolder); }
+  std::shared_ptr<Connection> Connect() const override { return OpenSqlite(File()); }
+
+ private:
+  std::string File() const { return (mFolder / "store.db").string(); }
+  std::filesystem::path mFolder;
+};
+
+#ifdef VANTREL_HAS_POSTGRES
+class PostgresStore final : public StoredDatabase {
+ public:
+  PostgresStore() { CreatePostgres(Database.Address(), SchemaOf("postgres")); }
+  std::shared_ptr<Connection> Connect() const override { return OpenPostgres(Database.Address()); }
+  PostgresDatabase Database;
+};
+#endif
+
+/// Runs on every engine: on PostgreSQL where there is a server.
+class EveryEngine : public testing::TestWithParam<std::string> {
+ protected:
+  void SetUp() override {
+    if (GetParam() == "sqlite") {
+      mobjStore = std::make_unique<SqliteStore>();
+    } else {
+#ifdef VANTREL_HAS_POSTGRES
+      VANTREL_NEEDS_POSTGRES();
+      mobjStore = std::make_unique<PostgresStore>();
+#else
+      GTEST_SKIP() << "built without PostgreSQL";
+#endif
+    }
+    Database.Connection = mobjStore->Connect();
+  }
+
+  DesignerStateScope State;
+  MessageRecorder Messages;
+  VNTRDB Database;
+
+  const StoredDatabase& Store() const { return *mobjStore; }
+
+ private:
+  std::unique_ptr<StoredDatabase> mobjStore;
+};
+
+}  // namespace vantrel::test
+
+#define VANTREL_ON_EVERY_ENGINE(Suite) \
+  INSTANTIATE_TEST_SUITE_P(Engines, Suite, testing::Values("sqlite", "postgres"), [](const auto& engine) { return engine.param; })
