@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "interchange/BendPoints.h"
+#include "interchange/PnmlPixels.h"
 #include "interchange/layout/LayeredLayout.h"
 #include "interchange/layout/LayoutJudge.h"
 
@@ -60,15 +61,16 @@ NetPlacement LayOut(const PnmlNet& pobjNet, const NodeNumbers& pcolNumbers) {
   return {std::move(drawing.TopLeft), std::move(drawing.Bends), true};
 }
 
-std::vector<LayoutPoint> NeededBends(const PnmlArc& pobjArc, const PnmlPoint& pobjFrom, const PnmlPoint& pobjTo) {
+// A net of our own has no needless ones.
+std::vector<LayoutPoint> NeededBends(const PnmlArc& pobjArc, const PnmlPoint& pobjFrom, const PnmlPoint& pobjTo, bool pblnOwn) {
   if (pobjArc.Bends.empty()) return {};
   std::vector<PlanePoint> line = {pobjFrom};
   line.insert(line.end(), pobjArc.Bends.begin(), pobjArc.Bends.end());
   line.push_back(pobjTo);
-  line = SimplifyLine(line, kStraight);
+  if (!pblnOwn) line = SimplifyLine(line, kStraight);
   std::vector<LayoutPoint> bends;
   for (std::size_t i = 1; i + 1 < line.size(); ++i) {
-    bends.push_back({static_cast<float>(line[i].X) * kFilePixel, static_cast<float>(line[i].Y) * kFilePixel});
+    bends.push_back({TwipsOfPixels(line[i].X, kOfPoint), TwipsOfPixels(line[i].Y, kOfPoint)});
   }
   return bends;
 }
@@ -76,12 +78,11 @@ std::vector<LayoutPoint> NeededBends(const PnmlArc& pobjArc, const PnmlPoint& po
 NetPlacement Keep(const PnmlNet& pobjNet, const NodeNumbers& pcolNumbers) {
   NetPlacement placement;
   for (const PnmlNode& node : pobjNet.Nodes) {
-    placement.TopLeft.push_back({static_cast<float>(node.Position->X) * kFilePixel - kNodeSize / 2,
-                                 static_cast<float>(node.Position->Y) * kFilePixel - kNodeSize / 2});
+    placement.TopLeft.push_back({TwipsOfPixels(node.Position->X, kOfCentre), TwipsOfPixels(node.Position->Y, kOfCentre)});
   }
   const auto positionOf = [&](const std::string& id) { return *pobjNet.Nodes[static_cast<std::size_t>(pcolNumbers.at(id))].Position; };
   for (const PnmlArc& arc : pobjNet.Arcs) {
-    placement.Bends.push_back(NeededBends(arc, positionOf(arc.Source), positionOf(arc.Target)));
+    placement.Bends.push_back(NeededBends(arc, positionOf(arc.Source), positionOf(arc.Target), pobjNet.Section != nullptr));
   }
   return placement;
 }
@@ -96,6 +97,8 @@ NodeNumbers NumberNodes(const PnmlNet& pobjNet) {
 }
 
 NetPlacement PlaceNet(const PnmlNet& pobjNet, const NodeNumbers& pcolNumbers) {
+  const auto isPlaced = [](const PnmlNode& node) { return node.Position.has_value(); };
+  if (pobjNet.Section && std::all_of(pobjNet.Nodes.begin(), pobjNet.Nodes.end(), isPlaced)) return Keep(pobjNet, pcolNumbers);
   std::vector<std::optional<LayoutPoint>> positions;
   for (const PnmlNode& node : pobjNet.Nodes) {
     positions.push_back(node.Position

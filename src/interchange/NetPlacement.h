@@ -23,7 +23,4 @@ NodeNumbers NumberNodes(const PnmlNet& pobjNet);
 
 NetPlacement PlaceNet(const PnmlNet& pobjNet, const NodeNumbers& pcolNumbers);
 
-constexpr float kFilePixel = 15;  ///< twips: files count pixels of 96 to the inch
-constexpr float kNodeSize = 32 * kFilePixel;
-
 }  // namespace vantrel

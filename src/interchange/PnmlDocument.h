@@ -8,7 +8,16 @@
 
 #include "interchange/PlanePoint.h"
 
+namespace pugi {
+struct xml_node_struct;
+}
+
 namespace vantrel {
+
+class PnmlXml;
+
+/// The section of the tool "Vantrel" in an element of a file, as the handle of an XML node; good while PnmlNet::Source lives.
+using PnmlSection = pugi::xml_node_struct*;
 
 /// In the units of the file: pixels.
 using PnmlPoint = PlanePoint;
@@ -31,6 +40,7 @@ struct PnmlNode {
   std::int32_t InitialMarking = 0;      ///< tokens of a place, never negative
   PnmlBorder Border = PnmlBorder::None;
   std::unique_ptr<PnmlNet> Subnet;  ///< the sub-process of a transition, or nothing
+  PnmlSection Section = nullptr;
 };
 
 /// An arc; a place is at one end and a transition at the other.
@@ -39,6 +49,7 @@ struct PnmlArc {
   std::string Source, Target;    ///< ids of nodes of the same net, never those of reference nodes
   std::string Weight = "1";      ///< a positive integer
   std::vector<PnmlPoint> Bends;  ///< from source to target, without the ends
+  PnmlSection Section = nullptr;
 };
 
 /// One place/transition net: every page of it taken together.
@@ -48,6 +59,9 @@ struct PnmlNet {
   std::vector<PnmlArc> Arcs;    ///< in the order of the file
   /// One line for every arc left out because place/transition nets have none of its kind; see PnmlOptions::SkipUnsupported.
   std::vector<std::string> Skipped;
+  PnmlSection Section = nullptr;          ///< of a net that this system wrote
+  std::vector<PnmlNet> Embedded;          ///< nets in the section of the outermost one, each under its own id
+  std::shared_ptr<const PnmlXml> Source;  ///< what the sections lie in; of the outermost net
 };
 
 }  // namespace vantrel

@@ -14,8 +14,8 @@ struct TextPosition {
   std::size_t Column = 1;
 };
 
-/// A net that cannot be read: Error 321. Its description is one line: `FILE: what (line L, column C)`, without the bracket where no place
-/// is known.
+/// A net that cannot be read, or a file that cannot be written: Error 321. Its description is one line: `FILE: what (line L, column C)`,
+/// without the bracket where no place is known.
 class PnmlError : public Error {
  public:
   PnmlError(const std::string& pstrFile, const std::string& pstrWhat);

@@ -2,8 +2,12 @@
 
 #include <utility>
 
+#include "interchange/EmbeddedNets.h"
 #include "interchange/NetPlacement.h"
+#include "interchange/PnmlPixels.h"
 #include "interchange/UniqueNames.h"
+#include "interchange/section/ArcPathText.h"
+#include "interchange/section/VantrelSectionReader.h"
 #include "model/DesignerState.h"
 #include "util/Lookup.h"
 
@@ -11,10 +15,21 @@ namespace vantrel {
 
 namespace {
 
-std::vector<std::string> NamesOf(const PnmlNet& pobjNet, PnmlKind pKind) {
-  std::vector<std::string> names;
+/// What the builders of one file share.
+struct Assembly {
+  const PnmlXml* Source = nullptr;  // there where any element has a section
+  EmbeddedNets Embedded;
+};
+
+GivenName NameOf(const PnmlNode& pobjNode, const Assembly& pobjAssembly) {
+  if (!HasSectionValue(pobjNode.Section, "name")) return {pobjNode.Name};
+  return {SectionText(*pobjAssembly.Source, pobjNode.Section, "name"), true};
+}
+
+std::vector<GivenName> NamesOf(const PnmlNet& pobjNet, PnmlKind pKind, const Assembly& pobjAssembly) {
+  std::vector<GivenName> names;
   for (const PnmlNode& node : pobjNet.Nodes) {
-    if (node.Kind == pKind) names.push_back(node.Name);
+    if (node.Kind == pKind) names.push_back(NameOf(node, pobjAssembly));
   }
   return names;
 }
@@ -22,12 +37,13 @@ std::vector<std::string> NamesOf(const PnmlNet& pobjNet, PnmlKind pKind) {
 /// Builds one workflow; one object a net.
 class WorkflowBuilder {
  public:
-  explicit WorkflowBuilder(const PnmlNet& pobjNet)
+  WorkflowBuilder(const PnmlNet& pobjNet, Assembly& pobjAssembly)
       : mNet(pobjNet),
+        mAssembly(pobjAssembly),
         mNumbers(NumberNodes(pobjNet)),
         mPlacement(PlaceNet(pobjNet, mNumbers)),
-        mPlaceNames("Place", NamesOf(pobjNet, PnmlKind::Place)),
-        mTransitionNames("Transition", NamesOf(pobjNet, PnmlKind::Transition)) {}
+        mPlaceNames("Place", NamesOf(pobjNet, PnmlKind::Place, pobjAssembly)),
+        mTransitionNames("Transition", NamesOf(pobjNet, PnmlKind::Transition, pobjAssembly)) {}
 
   ImportedNet Build();
 
@@ -35,12 +51,15 @@ class WorkflowBuilder {
   void AddNode(std::size_t plngNumber);
   void AddPlace(const PnmlNode& pobjNode);
   void AddTransition(const PnmlNode& pobjNode);
-  void Describe(Node& pobjObject, std::size_t plngNumber) const;
+  /// Of the object added last.
+  void Describe(Node& pobjObject, const PnmlNode& pobjNode) const;
   void AddArc(std::size_t plngNumber);
   void Bend(Arc& pobjArc, const std::vector<LayoutPoint>& pcolBends) const;
   void FindEnds();
+  std::shared_ptr<Place> PlaceOfSection(const char* pstrSetting) const;
 
   const PnmlNet& mNet;
+  Assembly& mAssembly;
   NodeNumbers mNumbers;
   NetPlacement mPlacement;
   UniqueNames mPlaceNames, mTransitionNames;
@@ -56,17 +75,20 @@ ImportedNet WorkflowBuilder::Build() {
   for (std::size_t i = 0; i < mNet.Nodes.size(); ++i) AddNode(i);
   for (std::size_t i = 0; i < mNet.Arcs.size(); ++i) AddArc(i);
   FindEnds();
+  if (mNet.Section) ReadSection(*mAssembly.Source, mNet.Section, *mResult.Workflow);
   return std::move(mResult);
 }
 
 void WorkflowBuilder::AddNode(std::size_t plngNumber) {
+  // The sides that the drawing is made for; those that an object is given become the next one's.
+  gintInputPosition = vntLeft;
+  gintOutputPosition = vntRight;
   const PnmlNode& node = mNet.Nodes[plngNumber];
   if (node.Kind == PnmlKind::Place) {
     AddPlace(node);
   } else {
     AddTransition(node);
   }
-  Describe(*mObjects.back(), plngNumber);
 }
 
 void WorkflowBuilder::AddPlace(const PnmlNode& pobjNode) {
@@ -79,6 +101,8 @@ void WorkflowBuilder::AddPlace(const PnmlNode& pobjNode) {
   if (pobjNode.Border == PnmlBorder::Start) workflow.StartPlace = place;
   if (pobjNode.Border == PnmlBorder::End) workflow.EndPlace(place);
   mObjects.push_back(place);
+  Describe(*place, pobjNode);
+  if (pobjNode.Section) ReadSection(*mAssembly.Source, pobjNode, !mPlacement.IsLaidOut, *place);
 }
 
 void WorkflowBuilder::AddTransition(const PnmlNode& pobjNode) {
@@ -88,25 +112,30 @@ void WorkflowBuilder::AddTransition(const PnmlNode& pobjNode) {
   transition->AssignName(mTransitionNames.Next());
   workflow.Transitions.Add(transition, transition->Key);
   if (pobjNode.Subnet) {
-    const ImportedNet inner = WorkflowBuilder(*pobjNode.Subnet).Build();
+    const ImportedNet inner = WorkflowBuilder(*pobjNode.Subnet, mAssembly).Build();
     mResult.Skipped.insert(mResult.Skipped.end(), inner.Skipped.begin(), inner.Skipped.end());
     transition->Object(inner.Workflow);
     transition->ObjectClassName = inner.Workflow->Class();
     transition->ObjectName = inner.Name;
   }
   mObjects.push_back(transition);
+  Describe(*transition, pobjNode);
+  if (!pobjNode.Section) return;
+  ReadSection(*mAssembly.Source, pobjNode, !mPlacement.IsLaidOut, *transition);
+  const std::string embedded = SectionText(*mAssembly.Source, pobjNode.Section, "embeds");
+  if (!embedded.empty()) mAssembly.Embedded.AddTransition(transition, embedded, pobjNode.Section);
 }
 
-void WorkflowBuilder::Describe(Node& pobjObject, std::size_t plngNumber) const {
-  const PnmlNode& node = mNet.Nodes[plngNumber];
+void WorkflowBuilder::Describe(Node& pobjObject, const PnmlNode& pobjNode) const {
+  const LayoutPoint& corner = mPlacement.TopLeft[mObjects.size() - 1];
   pobjObject.Workflow = mResult.Workflow;
-  pobjObject.HiddenTag = node.Id;
-  pobjObject.Caption(node.Name);
-  pobjObject.Left(mPlacement.TopLeft[plngNumber].X);
-  pobjObject.Top(mPlacement.TopLeft[plngNumber].Y);
-  if (!node.NameOffset || mPlacement.IsLaidOut) return;
-  pobjObject.CaptionOffsetLeft(static_cast<float>(node.NameOffset->X) * kFilePixel + kNodeSize / 2);
-  pobjObject.CaptionOffsetTop(static_cast<float>(node.NameOffset->Y) * kFilePixel + kNodeSize / 2);
+  pobjObject.HiddenTag = pobjNode.Id;
+  pobjObject.Caption(pobjNode.Name);
+  pobjObject.Left(corner.X);
+  pobjObject.Top(corner.Y);
+  if (!pobjNode.NameOffset || mPlacement.IsLaidOut) return;
+  pobjObject.CaptionOffsetLeft(TwipsOfPixels(pobjNode.NameOffset->X, kOfCaption));
+  pobjObject.CaptionOffsetTop(TwipsOfPixels(pobjNode.NameOffset->Y, kOfCaption));
 }
 
 void WorkflowBuilder::AddArc(std::size_t plngNumber) {
@@ -121,9 +150,11 @@ void WorkflowBuilder::AddArc(std::size_t plngNumber) {
   arc->HiddenTag = from.Id;
   arc->Weight(from.Weight);
   Vector* const first = arc->Segments().front();
-  first->Start(source->Left() + kNodeSize, source->Top() + kNodeSize / 2);
-  first->End(target->Left(), target->Top() + kNodeSize / 2);
+  const PathSegment run = UsualRun(*source, *target);
+  first->Start(run.X1, run.Y1);
+  first->End(run.X2, run.Y2);
   Bend(*arc, mPlacement.Bends[plngNumber]);
+  if (from.Section) ReadSection(*mAssembly.Source, from, !mPlacement.IsLaidOut, *arc);
 }
 
 // Every bend splits the last segment of the chain, which then ends at the target.
@@ -164,8 +195,19 @@ void WorkflowBuilder::FindEnds() {
       sink = place;
     }
   }
+  if (mNet.Section) {
+    workflow.StartPlace = PlaceOfSection("start");
+    workflow.EndPlace(PlaceOfSection("end"));
+    return;
+  }
   if (!workflow.StartPlace && mResult.SourcePlaces == 1) workflow.StartPlace = source;
   if (!workflow.EndPlace() && mResult.SinkPlaces == 1) workflow.EndPlace(sink);
+}
+
+/// Nothing also for a place that the file no longer has.
+std::shared_ptr<Place> WorkflowBuilder::PlaceOfSection(const char* pstrSetting) const {
+  const auto found = mNumbers.find(SectionText(*mAssembly.Source, mNet.Section, pstrSetting));
+  return found == mNumbers.end() ? nullptr : std::dynamic_pointer_cast<Place>(mObjects[static_cast<std::size_t>(found->second)]);
 }
 
 }  // namespace
@@ -175,13 +217,21 @@ ImportedNet ImportPnml(const std::string& pstrPath, const PnmlOptions& pobjOptio
 }
 
 ImportedNet BuildWorkflow(const PnmlNet& pobjNet) {
-  // What is built here is not on any chart yet: a control that shows another workflow must not lend it elements, and the
-  // sides of its connectors are those that the drawing is made for.
+  // What is built here is not on any chart yet: a control that shows another workflow must not lend it elements.
   const DesignerStateScope scope;
   gobjVantrel = nullptr;
-  gintInputPosition = vntLeft;
-  gintOutputPosition = vntRight;
-  return WorkflowBuilder(pobjNet).Build();
+  Assembly assembly;
+  assembly.Source = pobjNet.Source.get();
+  ImportedNet result = WorkflowBuilder(pobjNet, assembly).Build();
+  for (const PnmlNet& embedded : pobjNet.Embedded) {
+    const ImportedNet inner = WorkflowBuilder(embedded, assembly).Build();
+    result.Skipped.insert(result.Skipped.end(), inner.Skipped.begin(), inner.Skipped.end());
+    assembly.Embedded.AddWorkflow(inner.Id, inner.Workflow);
+  }
+  assembly.Embedded.AddWorkflow(result.Id, result.Workflow);
+  // Without the net's own section, which another tool may have dropped, nothing is embedded.
+  if (pobjNet.Section) assembly.Embedded.Link(*assembly.Source);
+  return result;
 }
 
 }  // namespace vantrel

@@ -6,16 +6,11 @@
 #include <string>
 #include <vector>
 
+#include "interchange/InitialTokens.h"
 #include "interchange/PnmlReader.h"
 #include "model/Workflow.h"
 
 namespace vantrel {
-
-/// Tokens that a file puts into a place before anything fires.
-struct InitialTokens {
-  std::shared_ptr<Place> Where;
-  std::int32_t Count = 0;
-};
 
 /// A workflow that came from a file, with what the file says of it besides.
 struct ImportedNet {
@@ -29,8 +24,8 @@ struct ImportedNet {
 };
 
 /// Reads a net and builds its workflow: keys in document order, the file's ids in HiddenTag, names unique per kind, pixels
-/// of the file as twips (15 each), a layout where the file has none that is of use. Throws PnmlError and leaves nothing
-/// behind.
+/// of the file as twips (15 each), a layout where the file has none that is of use. Of a file that ExportPnml wrote it makes
+/// the workflow that was written. Throws PnmlError and leaves nothing behind.
 ImportedNet ImportPnml(const std::string& pstrPath, const PnmlOptions& pobjOptions = {});
 
 /// Builds the workflow of a net that has been read; sub-process nets become embedded workflows of their transitions.

@@ -7,6 +7,7 @@
 #include "interchange/PnmlGeometry.h"
 #include "interchange/PnmlNumbers.h"
 #include "interchange/PnmlSubprocess.h"
+#include "interchange/section/VantrelSectionReader.h"
 
 namespace vantrel {
 
@@ -29,7 +30,8 @@ PnmlNet PnmlNetReader::Read(const pugi::xml_node& pobjNet) {
   ReadContents(pobjNet);
   mIds.Resolve();
   for (const pugi::xml_node& arc : mArcs) ReadArc(arc);
-  RelateNameOffsets(mNet);
+  mNet.Section = FindSection(pobjNet).internal_object();
+  if (!mNet.Section) RelateNameOffsets(mNet);
   ReadSubnets();
   return std::move(mNet);
 }
@@ -74,6 +76,7 @@ void PnmlNetReader::ReadNode(const pugi::xml_node& pobjElement, PnmlKind plngKin
   node.Position = ReadPosition(mXml, pobjElement);
   node.NameOffset = ReadNameOffset(mXml, pobjElement);
   if (plngKind == PnmlKind::Place) node.InitialMarking = ReadMarking(pobjElement);
+  node.Section = FindSection(pobjElement).internal_object();
   mNet.Nodes.push_back(std::move(node));
 }
 
@@ -106,7 +109,8 @@ void PnmlNetReader::ReadArc(const pugi::xml_node& pobjElement) {
     const char* kinds = source.Kind == PnmlKind::Place ? " joins two places" : " joins two transitions";
     mXml.Fail("the " + Called("arc", pobjElement) + kinds, pobjElement);
   }
-  mNet.Arcs.push_back({pobjElement.attribute("id").value(), source.Id, target.Id, ReadWeight(pobjElement), ReadBends(mXml, pobjElement)});
+  mNet.Arcs.push_back({pobjElement.attribute("id").value(), source.Id, target.Id, ReadWeight(pobjElement), ReadBends(mXml, pobjElement),
+                       FindSection(pobjElement).internal_object()});
 }
 
 const PnmlNode& PnmlNetReader::ArcEnd(const pugi::xml_node& pobjArc, const char* pstrAttribute) const {

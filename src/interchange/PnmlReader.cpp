@@ -1,5 +1,7 @@
 #include "interchange/PnmlReader.h"
 
+#include <memory>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -45,6 +47,17 @@ pugi::xml_node NetWanted(const PnmlXml& pobjXml, const std::string& pstrId) {
   pobjXml.Fail("there is no net " + QuotedForMessage(pstrId) + "; the nets of the file are " + IdsOf(nets));
 }
 
+/// The nets that the section of a net holds for its transitions.
+void ReadEmbedded(const PnmlXml& pobjXml, bool pblnSkipUnsupported, PnmlNet& pobjNet) {
+  std::set<std::string> ids{pobjNet.Id};
+  for (const pugi::xml_node& child : ChildNamed(pugi::xml_node(pobjNet.Section), "embedded").children()) {
+    if (LocalName(child) != "net") continue;
+    pobjNet.Embedded.push_back(PnmlNetReader(pobjXml, pblnSkipUnsupported).Read(child));
+    const std::string& id = pobjNet.Embedded.back().Id;
+    if (!ids.insert(id).second) pobjXml.Fail("a second net " + QuotedForMessage(id), child);
+  }
+}
+
 }  // namespace
 
 PnmlReader::PnmlReader(PnmlOptions pobjOptions) : mOptions(std::move(pobjOptions)) {}
@@ -52,8 +65,11 @@ PnmlReader::PnmlReader(PnmlOptions pobjOptions) : mOptions(std::move(pobjOptions
 PnmlNet PnmlReader::ReadFile(const std::string& pstrPath) const { return ReadBytes(ReadPnmlFile(pstrPath, mOptions.SizeLimit), pstrPath); }
 
 PnmlNet PnmlReader::ReadBytes(std::string_view pstrBytes, const std::string& pstrName) const {
-  const PnmlXml xml(pstrName, pstrBytes);
-  return PnmlNetReader(xml, mOptions.SkipUnsupported).Read(NetWanted(xml, mOptions.NetId));
+  const auto xml = std::make_shared<const PnmlXml>(pstrName, pstrBytes);
+  PnmlNet net = PnmlNetReader(*xml, mOptions.SkipUnsupported).Read(NetWanted(*xml, mOptions.NetId));
+  ReadEmbedded(*xml, mOptions.SkipUnsupported, net);
+  net.Source = xml;
+  return net;
 }
 
 }  // namespace vantrel

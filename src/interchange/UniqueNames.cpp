@@ -2,9 +2,14 @@
 
 namespace vantrel {
 
-UniqueNames::UniqueNames(const std::string& pstrWord, const std::vector<std::string>& pcolGiven) : mcolNames(pcolGiven) {
+UniqueNames::UniqueNames(const std::string& pstrWord, const std::vector<GivenName>& pcolGiven) {
+  for (const GivenName& given : pcolGiven) {
+    mcolNames.push_back(given.Text);
+    if (given.IsFinal) mcolTaken.insert(given.Text);
+  }
   std::vector<std::size_t> nameless;
   for (std::size_t i = 0; i < mcolNames.size(); ++i) {
+    if (pcolGiven[i].IsFinal) continue;
     if (mcolNames[i].empty() || !mcolTaken.insert(mcolNames[i]).second) nameless.push_back(i);
   }
   for (const std::size_t i : nameless) {

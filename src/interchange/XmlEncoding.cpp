@@ -164,6 +164,12 @@ bool IsXmlCharacter(char32_t plngCode) {
   return plngCode < 0xD800 || (plngCode >= 0xE000 && plngCode < 0xFFFE) || (plngCode >= 0x10000 && plngCode < 0x110000);
 }
 
+std::size_t XmlCharacterLength(std::string_view pstrText, std::size_t plngAt) {
+  char32_t code = 0;
+  const std::size_t length = SequenceLength(pstrText, plngAt, code);
+  return IsXmlCharacter(code) ? length : 0;
+}
+
 void DecodeXml(std::string_view pstrBytes, XmlText& pobjText) {
   const Encoding encoding = TakeEncoding(pstrBytes);
   pobjText.Transcoded = encoding != Encoding::Utf8;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,9 @@ struct XmlText {
 
 /// True for a character that a document may hold (XML 1.0, production 2).
 bool IsXmlCharacter(char32_t plngCode);
+
+/// The bytes of the character that stands at an offset of a UTF-8 text; 0 when there is none that a document may hold.
+std::size_t XmlCharacterLength(std::string_view pstrText, std::size_t plngAt);
 
 /// Decodes a file by its byte order mark, the form of its first bytes or the encoding that it declares (XML 1.0, appendix F):
 /// UTF-8, UTF-16, US-ASCII, ISO-8859-1 and windows-1252.

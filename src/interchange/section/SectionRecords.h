@@ -1,0 +1,17 @@
+// Property records in a section: the definitions of a place's token properties, the roles of a transition.
+#pragma once
+
+#include "interchange/PnmlXml.h"
+#include "interchange/XmlWriter.h"
+#include "model/PropertyCollection.h"
+
+namespace vantrel {
+
+/// Writes an element `property` for each record. Values that are objects of the host are left out.
+void WriteRecords(XmlWriter& pobjXml, const PropertyCollection& pcolRecords);
+
+/// Adds a record for each `property` in the element, under its name where that is free. Throws PnmlError for a value that is none and for
+/// an option that is there twice.
+void ReadRecords(const PnmlXml& pobjXml, const pugi::xml_node& pobjElement, PropertyCollection& pcolRecords);
+
+}  // namespace vantrel
