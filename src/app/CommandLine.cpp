@@ -1,6 +1,5 @@
 #include "app/CommandLine.h"
 
-#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <stdexcept>
@@ -9,8 +8,16 @@
 
 #include <CLI/CLI.hpp>
 
+#include "app/Lines.h"
+#include "app/commands/CopyCommand.h"
+#include "app/commands/DbCommand.h"
+#include "app/commands/DeleteCommand.h"
+#include "app/commands/ExportCommand.h"
+#include "app/commands/ImportCommand.h"
+#include "app/commands/ListCommand.h"
 #include "app/commands/PlayCommand.h"
 #include "app/commands/SampleCommand.h"
+#include "app/commands/ShowCommand.h"
 
 namespace vantrel {
 
@@ -21,6 +28,13 @@ using Commands = std::vector<std::unique_ptr<Command>>;
 Commands AllCommands() {
   Commands commands;
   commands.push_back(std::make_unique<PlayCommand>());
+  commands.push_back(std::make_unique<ImportCommand>());
+  commands.push_back(std::make_unique<ListCommand>());
+  commands.push_back(std::make_unique<ShowCommand>());
+  commands.push_back(std::make_unique<ExportCommand>());
+  commands.push_back(std::make_unique<DeleteCommand>());
+  commands.push_back(std::make_unique<CopyCommand>());
+  commands.push_back(std::make_unique<DbCommand>());
   return commands;
 }
 
@@ -31,10 +45,8 @@ int RunChosen(const CLI::App& pobjApp, const Commands& pcolCommands) {
   return SampleCommand().Run();
 }
 
-int Fail(std::string pstrWhat) {
-  std::replace_if(
-      pstrWhat.begin(), pstrWhat.end(), [](unsigned char pstrByte) { return pstrByte < 0x20 || pstrByte == 0x7F; }, ' ');
-  std::cerr << "vantrel: " << pstrWhat << '\n';
+int Fail(const std::string& pstrWhat) {
+  std::cerr << "vantrel: " << OnOneLine(pstrWhat) << '\n';
   return kBadInput;
 }
 

@@ -1,5 +1,7 @@
 #include "app/JsonWriter.h"
 
+#include <charconv>
+#include <cmath>
 #include <cstddef>
 
 namespace vantrel {
@@ -28,6 +30,13 @@ std::string Escaped(char pstrControl) {
   constexpr std::string_view kDigits = "0123456789abcdef";
   const auto code = static_cast<unsigned char>(pstrControl);
   return std::string("\\u00") + kDigits[code >> 4] + kDigits[code & 0xF];
+}
+
+template <class T>
+std::string Shortest(T pNumber) {
+  if (!std::isfinite(pNumber)) return "null";
+  char digits[32];
+  return std::string(digits, std::to_chars(digits, digits + sizeof digits, pNumber).ptr);
 }
 
 }  // namespace
@@ -60,15 +69,19 @@ JsonWriter& JsonWriter::Text(std::string_view pstrText) {
   return *this;
 }
 
-JsonWriter& JsonWriter::Number(std::int64_t plngNumber) {
-  Separate();
-  mText += std::to_string(plngNumber);
-  return *this;
-}
+JsonWriter& JsonWriter::Number(std::int64_t plngNumber) { return Raw(std::to_string(plngNumber)); }
 
-JsonWriter& JsonWriter::Null() {
+JsonWriter& JsonWriter::Decimal(float psngNumber) { return Raw(Shortest(psngNumber)); }
+
+JsonWriter& JsonWriter::Decimal(double pdblNumber) { return Raw(Shortest(pdblNumber)); }
+
+JsonWriter& JsonWriter::Boolean(bool pblnValue) { return Raw(pblnValue ? "true" : "false"); }
+
+JsonWriter& JsonWriter::Null() { return Raw("null"); }
+
+JsonWriter& JsonWriter::Raw(std::string_view pstrToken) {
   Separate();
-  mText += "null";
+  mText += pstrToken;
   return *this;
 }
 

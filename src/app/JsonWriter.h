@@ -15,11 +15,16 @@ class JsonWriter {
   JsonWriter& Key(std::string_view pstrKey);
   JsonWriter& Text(std::string_view pstrText);
   JsonWriter& Number(std::int64_t plngNumber);
+  /// As the shortest decimals that give the same value again; null for what is no number or infinite.
+  JsonWriter& Decimal(float psngNumber);
+  JsonWriter& Decimal(double pdblNumber);
+  JsonWriter& Boolean(bool pblnValue);
   JsonWriter& Null();
 
   const std::string& Written() const { return mText; }
 
  private:
+  JsonWriter& Raw(std::string_view pstrToken);
   void Separate();
   void Quote(std::string_view pstrText);
 

@@ -1,5 +1,7 @@
 #include "app/JsonWriter.h"
 
+#include <limits>
+
 #include <gtest/gtest.h>
 
 namespace vantrel {
@@ -27,6 +29,12 @@ TEST(JsonWriter, NestedAndEmptyPartsAreDividedByCommasOnce) {
   json.Open('{').Key("a").Open('[').Close(']').Key("b").Open('{').Key("c").Number(-1).Close('}');
   json.Key("d").Open('[').Text("x").Null().Close(']').Close('}');
   EXPECT_EQ(json.Written(), R"({"a": [], "b": {"c": -1}, "d": ["x", null]})");
+}
+
+TEST(JsonWriter, DecimalsAreTheShortestThatReadBackTheSame) {
+  JsonWriter json;
+  json.Open('[').Decimal(0.1F).Decimal(0.1).Decimal(1e30F).Decimal(-3.0F).Decimal(std::numeric_limits<double>::infinity()).Close(']');
+  EXPECT_EQ(json.Written(), "[0.1, 0.1, 1e+30, -3, null]");
 }
 
 }  // namespace

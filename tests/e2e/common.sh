@@ -4,6 +4,7 @@
 failures=0
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
+export XDG_DATA_HOME=$scratch/data-home  # never the user's own database
 
 fail() {
   printf 'FAILED: %s\n' "$*" >&2
@@ -12,28 +13,33 @@ fail() {
 
 finish() { exit $((failures > 0)); }
 
-# play STATUS ARGUMENT...: runs `vantrel play`, whose output goes to $scratch/out and $scratch/err, and checks the exit status.
-play() {
+# run STATUS ARGUMENT...: runs the program, whose output goes to $scratch/out and $scratch/err, and checks the exit status.
+run() {
   local wanted=$1 status=0
   shift
-  "$VANTREL" play "$@" >"$scratch/out" 2>"$scratch/err" || status=$?
-  if ((status != wanted)); then fail "play $*: status $status, not $wanted: $(head -n 3 "$scratch/err")"; fi
+  "$VANTREL" "$@" >"$scratch/out" 2>"$scratch/err" || status=$?
+  if ((status != wanted)); then fail "$*: status $status, not $wanted: $(head -n 3 "$scratch/err")"; fi
 }
 
-# refuses ARGUMENT...: status 2, one line on standard error, nothing on standard output.
-refuses() {
-  play 2 "$@"
-  if [[ $(wc -l <"$scratch/err") != 1 || -s $scratch/out ]]; then fail "play $*: not one line: $(cat "$scratch/out" "$scratch/err")"; fi
+# fails ARGUMENT...: status 2, one line on standard error, nothing on standard output.
+fails() {
+  run 2 "$@"
+  if [[ $(wc -l <"$scratch/err") != 1 || -s $scratch/out ]]; then fail "$*: not one line: $(cat "$scratch/out" "$scratch/err")"; fi
 }
 
-# account EXPRESSION: the JSON of the last run, a dictionary `a`, makes the Python expression true.
-account() {
+play() { run "$1" play "${@:2}"; }
+refuses() { fails play "$@"; }
+
+# json EXPRESSION: the JSON of the last run, a dictionary `a`, makes the Python expression true.
+json() {
   python3 - "$1" "$scratch/out" <<'PYTHON' || fail "$1: $(head -c 600 "$scratch/out")"
 import json, sys
 a = json.load(open(sys.argv[2], encoding="utf-8"))
-assert len(a["trace"]) == a["firings"]
 sys.exit(not eval(sys.argv[1]))
 PYTHON
 }
+
+# account EXPRESSION: the same for an account with its trace.
+account() { json "len(a['trace']) == a['firings'] and ($1)"; }
 
 says() { grep -qF -- "$1" "$scratch/err" || fail "standard error lacks '$1': $(cat "$scratch/err")"; }

@@ -1,9 +1,11 @@
 #include "app/commands/PlayCommand.h"
 
+#include <charconv>
+#include <filesystem>
 #include <iostream>
 #include <limits>
-#include <optional>
 #include <stdexcept>
+#include <system_error>
 #include <utility>
 
 #include <CLI/CLI.hpp>
@@ -12,14 +14,17 @@
 #include "app/CommandLine.h"
 #include "app/Interrupt.h"
 #include "app/WholeNumber.h"
+#include "app/database/OpenDatabase.h"
+#include "app/play/DatabaseStore.h"
 #include "app/play/Player.h"
 #include "app/play/Progress.h"
+#include "app/play/StoredNet.h"
 
 namespace vantrel {
 
 namespace {
 
-Account Play(ImportedNet pobjNet, const PlayOptions& pobjOptions) {
+Account Play(ImportedNet pobjNet, const PlayOptions& pobjOptions, PlayStore* pobjStore = nullptr) {
   const Interrupt interrupt;
   std::optional<Progress> progress;
   if (isatty(STDERR_FILENO) == 1) progress.emplace(std::cerr);
@@ -27,7 +32,7 @@ Account Play(ImportedNet pobjNet, const PlayOptions& pobjOptions) {
     if (progress) progress->Show(pobjCounts);
     return !interrupt.Came();
   };
-  return Player(std::move(pobjNet), pobjOptions, watch).Play();
+  return Player(std::move(pobjNet), pobjOptions, watch, pobjStore).Play();
 }
 
 /// "no place is WITHOUT" or "3 places are WITHOUT".
@@ -38,18 +43,24 @@ std::string CountOf(std::int32_t plngPlaces, const std::string& pstrWithout) {
 }  // namespace
 
 void PlayCommand::Declare(CLI::App& pobjApp) {
-  pobjApp.add_option("NET.pnml", mFile, "The file with the net")->required();
+  pobjApp.add_option("NET", mNet, "The file with the net; a whole number that is no file is an id in the database")
+      ->required()
+      ->type_name("");
   DeclareRun(pobjApp);
   DeclareFile(pobjApp);
+  DeclareDatabase(pobjApp);
   DeclareOutput(pobjApp);
   pobjApp.footer(
       "Exit status: 0 when every started case finished and nothing failed, 3 when not, 2 for options and files that cannot be used.\n"
-      "Ctrl-C ends the run with an account of what happened so far.");
+      "Ctrl-C ends the run with an account of what happened so far.\n"
+      "Examples: vantrel play order-handling.pnml --cases 10 --pick random\n"
+      "          vantrel play 3 --db nets.db --cases 1000 --save");
 }
 
 void PlayCommand::DeclareRun(CLI::App& pobjApp) {
   auto* cases = pobjApp.add_option("--cases", mOptions.Cases, "Cases to start before the first firing: a token each in the start place")
                     ->transform(WholeNumber(1, std::numeric_limits<std::int32_t>::max()))
+                    ->each([this](const std::string&) { mblnCasesGiven = true; })
                     ->type_name("N")
                     ->capture_default_str();
   pobjApp.add_flag("--marking", mOptions.FromMarking, "Start with the initial marking of the file instead of cases")->excludes(cases);
@@ -78,19 +89,24 @@ void PlayCommand::DeclareFile(CLI::App& pobjApp) {
                    "Leave out arcs that place/transition nets do not have and name them, instead of refusing the file");
 }
 
+void PlayCommand::DeclareDatabase(CLI::App& pobjApp) {
+  mDatabase.Declare(pobjApp);
+  pobjApp.add_flag("--save", mblnSave, "Store cases and tokens in the database, every thousand firings or cases started and every second");
+  pobjApp.add_flag("--resume", mOptions.Resume,
+                   "Go on from the cases and tokens that are stored, and store on; starts no new cases without --cases");
+}
+
 void PlayCommand::DeclareOutput(CLI::App& pobjApp) {
   pobjApp.add_flag("--trace", mblnTrace, "List every firing");
   pobjApp.add_flag("--json", mblnJson, "Print one JSON object, trace included, and nothing else");
 }
 
 int PlayCommand::Run() {
-  ImportedNet net = ImportPnml(mFile, mFileOptions);
-  for (const std::string& arc : net.Skipped) std::cerr << "vantrel: " << mFile << ": left out: " << arc << '\n';
-  CheckEnds(net);
   mOptions.Pick = mPick == "random" ? Pick::Random : Pick::First;
   mOptions.KeepTrace = mblnTrace || mblnJson;
 
-  const Account account = Play(std::move(net), mOptions);
+  const auto id = StoredId();
+  const Account account = id ? PlayStored(*id) : PlayFile();
   if (mblnJson) {
     std::cout << ToJson(account) << '\n';
   } else {
@@ -99,12 +115,54 @@ int PlayCommand::Run() {
   return account.IsFinished() ? kDone : kNotFinished;
 }
 
+std::optional<std::int32_t> PlayCommand::StoredId() const {
+  std::int32_t id = 0;
+  const char* const end = mNet.data() + mNet.size();
+  const auto [stopped, fault] = std::from_chars(mNet.data(), end, id);
+  std::error_code unknown;
+  if (fault != std::errc() || stopped != end || id < 1 || std::filesystem::exists(mNet, unknown)) return std::nullopt;
+  return id;
+}
+
+void PlayCommand::CheckFileOptions() const {
+  if (mblnSave || mOptions.Resume) throw std::runtime_error(mNet + ": --save and --resume need the id of a stored workflow, not a file");
+  if (mDatabase.IsGiven()) throw std::runtime_error(mNet + ": --db needs the id of a stored workflow, not a file");
+}
+
+void PlayCommand::CheckStoredOptions() const {
+  if (mOptions.FromMarking) throw std::runtime_error("--marking: a database keeps no initial marking; play a file");
+  if (!mFileOptions.NetId.empty() || mFileOptions.SkipUnsupported) {
+    throw std::runtime_error("--net and --skip-unsupported are for files, not for workflow " + mNet);
+  }
+}
+
+Account PlayCommand::PlayFile() {
+  CheckFileOptions();
+  mSource = mNet;
+  ImportedNet net = ImportPnml(mNet, mFileOptions);
+  for (const std::string& arc : net.Skipped) std::cerr << "vantrel: " << mNet << ": left out: " << arc << '\n';
+  CheckEnds(net);
+  return Play(std::move(net), mOptions);
+}
+
+Account PlayCommand::PlayStored(std::int32_t plngId) {
+  CheckStoredOptions();
+  OpenDatabase database(mDatabase.Existing());
+  ImportedNet net = ReadStoredNet(database, plngId);
+  mSource = database.Name() + ": workflow " + net.Id;
+  CheckEnds(net);
+  if (mOptions.Resume && !mblnCasesGiven) mOptions.Cases = 0;
+  if (!mblnSave && !mOptions.Resume) return Play(std::move(net), mOptions);
+  DatabaseStore store(database, net.Workflow);
+  return Play(std::move(net), mOptions, &store);
+}
+
 void PlayCommand::CheckEnds(const ImportedNet& pobjNet) const {
   if (!mOptions.FromMarking && !pobjNet.Workflow->StartPlace) {
-    throw std::runtime_error(mFile + ": the net has no start place: " + CountOf(pobjNet.SourcePlaces, "without arcs that lead in"));
+    throw std::runtime_error(mSource + ": the net has no start place: " + CountOf(pobjNet.SourcePlaces, "without arcs that lead in"));
   }
   if (!mblnJson && !pobjNet.Workflow->EndPlace()) {
-    std::cerr << "vantrel: " << mFile
+    std::cerr << "vantrel: " << mSource
               << ": the net has no end place, so no case can finish: " << CountOf(pobjNet.SinkPlaces, "without arcs that lead out") << '\n';
   }
 }

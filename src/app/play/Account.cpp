@@ -2,6 +2,8 @@
 
 namespace vantrel {
 
-bool Account::IsFinished() const { return Stopped != StopReason::Error && DifferentCasesFinished >= CasesStarted; }
+bool Account::IsFinished() const {
+  return Stopped != StopReason::Error && DifferentCasesFinished >= CasesTakenUp.value_or(0) + CasesStarted;
+}
 
 }  // namespace vantrel

@@ -28,6 +28,7 @@ struct Account {
   std::int32_t Places = 0, Transitions = 0, Arcs = 0;  ///< of the net itself, without embedded workflows
   std::optional<AccountEntry> Start, End;
   std::int64_t CasesStarted = 0, CasesFinished = 0;
+  std::optional<std::int64_t> CasesTakenUp;     ///< of a run that went on from a store: cases that had not finished before
   std::int64_t DifferentCasesFinished = 0;      ///< a case that finished more than once counts once, where tokens know their cases
   std::int64_t Firings = 0, TokensCreated = 0;  ///< embedded workflows included
   std::int64_t Actions = 0;                     ///< actions of transitions that a host would have run
@@ -36,7 +37,7 @@ struct Account {
   std::vector<Holding> Marking;     ///< places with tokens in the order of the net, then those of embedded workflows
   std::vector<AccountEntry> Trace;  ///< in the order in which the firings began; empty unless it was wanted
 
-  /// No failure, and as many cases finished as were started.
+  /// No failure, and as many cases finished as were started or taken up.
   bool IsFinished() const;
 };
 

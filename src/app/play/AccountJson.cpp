@@ -35,6 +35,7 @@ void WriteNet(JsonWriter& pobjJson, const Account& pobjAccount) {
 
 void WriteOutcome(JsonWriter& pobjJson, const Account& pobjAccount) {
   pobjJson.Key("cases").Open('{');
+  if (pobjAccount.CasesTakenUp) pobjJson.Key("taken_up").Number(*pobjAccount.CasesTakenUp);
   pobjJson.Key("started").Number(pobjAccount.CasesStarted);
   pobjJson.Key("finished").Number(pobjAccount.CasesFinished).Close('}');
   pobjJson.Key("firings").Number(pobjAccount.Firings);

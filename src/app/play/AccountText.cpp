@@ -12,6 +12,10 @@ std::string Shown(const AccountEntry& pobjEntry) { return pobjEntry.Key + ' ' + 
 
 std::string Shown(const std::optional<AccountEntry>& pobjEntry) { return pobjEntry ? Shown(*pobjEntry) : "none"; }
 
+std::string TakenUpText(const Account& pobjAccount) {
+  return pobjAccount.CasesTakenUp ? std::to_string(*pobjAccount.CasesTakenUp) + " taken up, " : "";
+}
+
 std::string Reason(const Account& pobjAccount) {
   switch (pobjAccount.Stopped) {
     case StopReason::Limit:
@@ -49,7 +53,8 @@ void WriteText(std::ostream& pobjOut, const Account& pobjAccount) {
   pobjOut << "Net      " << QuotedForMessage(pobjAccount.Net) << " with " << pobjAccount.Places << " places, " << pobjAccount.Transitions
           << " transitions, " << pobjAccount.Arcs << " arcs\n"
           << "Start    " << Shown(pobjAccount.Start) << "\nEnd      " << Shown(pobjAccount.End) << '\n'
-          << "Cases    " << pobjAccount.CasesStarted << " started, " << pobjAccount.CasesFinished << " finished\n"
+          << "Cases    " << TakenUpText(pobjAccount) << pobjAccount.CasesStarted << " started, " << pobjAccount.CasesFinished
+          << " finished\n"
           << "Firings  " << pobjAccount.Firings << "\nTokens   " << pobjAccount.TokensCreated << " created\n";
   if (pobjAccount.Actions > 0) pobjOut << "Actions  " << pobjAccount.Actions << " asked for, none run\n";
   pobjOut << "Stopped  " << Reason(pobjAccount) << '\n';

@@ -20,10 +20,11 @@ std::optional<AccountEntry> EntryOf(const PlayedNet& pobjNet, const Ref<Place>& 
 
 }  // namespace
 
-Player::Player(ImportedNet pobjNet, const PlayOptions& pobjOptions, Watch pWatch)
+Player::Player(ImportedNet pobjNet, const PlayOptions& pobjOptions, Watch pWatch, PlayStore* pobjStore)
     : mNet(std::move(pobjNet)),
       mOptions(pobjOptions),
       mWatch(std::move(pWatch)),
+      mStore(pobjStore),
       mRandom(pobjOptions.Seed),
       mPlayed(PlayedNetsOf(mNet.Workflow)),
       mHost(mNet.Workflow, !pobjOptions.FromMarking) {
@@ -42,8 +43,8 @@ Account Player::Play() {
 
 void Player::Prepare() {
   for (const PlayedNet& net : mPlayed) {
-    net.Workflow->CaseTracking = mOptions.CaseTracking;
-    net.Workflow->KeepHistory = mOptions.KeepHistory;
+    if (mOptions.CaseTracking) net.Workflow->CaseTracking = true;
+    if (mOptions.KeepHistory) net.Workflow->KeepHistory = true;
     if (!mOptions.Automatic) continue;
     for (const auto& transition : net.Workflow->Transitions) transition->TriggerType(vntAutomatic);
   }
@@ -62,6 +63,7 @@ std::vector<Subscription> Player::Listen() {
 
 void Player::Run() {
   try {
+    if (mOptions.Resume) TakeUp();
     if (mOptions.FromMarking) {
       PutMarking();
     } else {
@@ -74,6 +76,15 @@ void Player::Run() {
     mAccount.Stopped = StopReason::Error;
     mAccount.Error = error.Description;
   }
+  // A firing that failed may have moved half of its tokens: what was stored before it stands.
+  if (mStore && mAccount.Stopped != StopReason::Error) mStore->Finish();
+}
+
+void Player::TakeUp() {
+  const TakenUp before = mStore->TakeUp();
+  mAccount.CasesTakenUp = before.CasesUnderWay;
+  mTakenUp.insert(before.CaseKeys.begin(), before.CaseKeys.end());
+  mFinished.insert(before.Finished.begin(), before.Finished.end());
 }
 
 void Player::StartCases() {
@@ -81,12 +92,22 @@ void Player::StartCases() {
   const auto start = mNet.Workflow->StartPlace.Lock();
   while (mAccount.CasesStarted < mOptions.Cases) {
     AskWatch();
+    Pass();
     const auto workCase = std::make_shared<WorkCase>();
-    workCase->Key = "WorkCase" + std::to_string(++mAccount.CasesStarted);
+    workCase->Key = NewCaseKey();
     workCase->Name = workCase->Key;
     workCase->DateCreated = Date::Now();
+    ++mAccount.CasesStarted;
     Add(start, workCase);
   }
+}
+
+std::string Player::NewCaseKey() {
+  std::string key;
+  do {
+    key = "WorkCase" + std::to_string(++mlngLastCase);
+  } while (mTakenUp.count(key) > 0);
+  return key;
 }
 
 // An unsound net finishes a case more than once. Tokens know their case only under case tracking; without it, every end counts.
@@ -119,6 +140,7 @@ void Player::Add(const std::shared_ptr<Place>& pobjPlace, const std::shared_ptr<
 void Player::FireUntilQuiet() {
   std::int64_t calls = 0;  // more than firings where a transition finds its tokens gone
   while (const PlayedNet* ready = FirstReady()) {
+    Pass();
     if (std::max(calls++, mAccount.Firings) >= mOptions.MaxFirings) throw RunEnded();
     if (mOptions.Pick == Pick::First) {
       ready->Workflow->FireNext();
@@ -151,9 +173,18 @@ void Player::Record(const PlayedNet& pobjNet, const Transition& pobjTransition) 
   if (mOptions.KeepTrace) mAccount.Trace.push_back(EntryOf(pobjNet, pobjTransition));
 }
 
-void Player::AskWatch() {
-  if (mWatch && !mWatch({mAccount.Firings, TokensCreated(), mAccount.CasesFinished})) throw RunEnded();
+void Player::Pass() {
+  if (mblnStop) throw RunEnded();
+  if (mStore) mStore->Pass(mAccount.Firings + mAccount.CasesStarted);
 }
+
+void Player::AskWatch() {
+  if (mblnStop || MayGoOn()) return;
+  if (!mStore) throw RunEnded();
+  mblnStop = true;
+}
+
+bool Player::MayGoOn() const { return !mWatch || mWatch({mAccount.Firings, TokensCreated(), mAccount.CasesFinished}); }
 
 std::int64_t Player::TokensCreated() const {
   std::int64_t tokens = 0;

@@ -11,6 +11,7 @@
 #include "app/play/MessageRecorder.h"
 #include "app/play/PlayHost.h"
 #include "app/play/PlayOptions.h"
+#include "app/play/PlayStore.h"
 #include "app/play/PlayedNets.h"
 #include "app/play/RandomIndex.h"
 #include "interchange/PnmlImport.h"
@@ -28,11 +29,12 @@ struct PlayCounts {
 /// lives it is the process's designer and answers its message boxes. The net's workflows are its to change.
 class Player {
  public:
-  /// Hears of every case and every firing before it starts; answering false ends the run there.
+  /// Hears of every case and every firing before it starts; answering false ends the run there. With a store it ends between
+  /// two firings, so that nothing is stored by halves.
   using Watch = std::function<bool(const PlayCounts&)>;
 
-  /// Unless played from its marking, the net must have a start place.
-  explicit Player(ImportedNet pobjNet, const PlayOptions& pobjOptions = {}, Watch pWatch = {});
+  /// Unless played from its marking, the net must have a start place. What the store throws, if it is no Error, leaves Play.
+  explicit Player(ImportedNet pobjNet, const PlayOptions& pobjOptions = {}, Watch pWatch = {}, PlayStore* pobjStore = nullptr);
 
   Account Play();
 
@@ -42,6 +44,7 @@ class Player {
   void Prepare();
   std::vector<Subscription> Listen();
   void Run();
+  void TakeUp();
   void StartCases();
   void PutMarking();
   void CountFinished(const Token& pobjToken);
@@ -50,17 +53,25 @@ class Player {
   const PlayedNet* FirstReady() const;
   std::shared_ptr<Transition> DrawReady();
   void Record(const PlayedNet& pobjNet, const Transition& pobjTransition);
+  // Between two firings.
+  void Pass();
   void AskWatch();
+  bool MayGoOn() const;
+  std::string NewCaseKey();
   std::int64_t TokensCreated() const;
   void Describe();
 
   ImportedNet mNet;
   PlayOptions mOptions;
   Watch mWatch;
+  PlayStore* mStore;
   RandomIndex mRandom;
   std::vector<PlayedNet> mPlayed;
   Account mAccount;
   std::unordered_set<std::string> mFinished;  // keys of cases
+  std::unordered_set<std::string> mTakenUp;   // keys of cases
+  std::int64_t mlngLastCase = 0;              // the number in the last key made
+  bool mblnStop = false;                      // the watch wants the run to end
   PlayHost mHost;
   DesignerStateScope mStateBefore;
   MessageRecorder mMessages;

@@ -1,0 +1,11 @@
+// Text on a terminal.
+#pragma once
+
+#include <string>
+
+namespace vantrel {
+
+/// The text with control characters as blanks, so that it stays on one line and moves no cursor.
+std::string OnOneLine(std::string pstrText);
+
+}  // namespace vantrel

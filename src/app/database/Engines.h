@@ -1,0 +1,16 @@
+// Which engine serves an address.
+#pragma once
+
+#include <memory>
+
+#include "app/database/DatabaseAddress.h"
+#include "database/Connection.h"
+
+namespace vantrel {
+
+/// Both throw Error: what the engine says of the address, or that this program was built without the engine.
+std::shared_ptr<Connection> OpenConnection(const DatabaseAddress& pobjAddress);
+/// Makes the tables, and a file where it is missing. Refuses a database that has them.
+void CreateDatabase(const DatabaseAddress& pobjAddress);
+
+}  // namespace vantrel

@@ -1,0 +1,68 @@
+#include "app/database/NetImport.h"
+
+#include "app/JsonWriter.h"
+#include "interchange/PnmlImport.h"
+#include "persistence/WholeSave.h"
+
+namespace vantrel {
+
+namespace {
+
+std::string Counted(std::int64_t plngCount, const std::string& pstrWhat) {
+  return std::to_string(plngCount) + ' ' + pstrWhat + (plngCount == 1 ? "" : "s");
+}
+
+// A token in the start place is what a case begins with anyway.
+std::string LostMarking(const ImportedNet& pobjNet) {
+  std::int64_t tokens = 0;
+  for (const InitialTokens& initial : pobjNet.Marking) tokens += initial.Count;
+  const bool isStart = tokens == 1 && pobjNet.Workflow->StartPlace == pobjNet.Marking.front().Where;
+  if (tokens == 0 || isStart) return {};
+  return "its initial marking is not stored: " + Counted(tokens, "token") + " in " +
+         Counted(static_cast<std::int64_t>(pobjNet.Marking.size()), "place");
+}
+
+void Store(OpenDatabase& pobjDatabase, const ImportedNet& pobjNet, ImportOutcome& pobjOutcome) {
+  pobjOutcome.NetId = pobjNet.Id;
+  pobjOutcome.NetName = pobjNet.Name;
+  pobjDatabase.Do([&] { SaveWhole(pobjDatabase.Access(), pobjNet.Workflow); });
+  pobjOutcome.Id = pobjNet.Workflow->RecId;
+  for (const std::string& arc : pobjNet.Skipped) pobjOutcome.Notes.push_back("left out: " + arc);
+  if (auto lost = LostMarking(pobjNet); !lost.empty()) pobjOutcome.Notes.push_back(std::move(lost));
+}
+
+void WriteOutcome(JsonWriter& pobjJson, const ImportOutcome& pobjOutcome) {
+  const bool stored = pobjOutcome.Id != 0;
+  pobjJson.Open('{').Key("file").Text(pobjOutcome.File).Key("id");
+  stored ? pobjJson.Number(pobjOutcome.Id) : pobjJson.Null();
+  pobjJson.Key("net").Text(pobjOutcome.NetId).Key("name").Text(pobjOutcome.NetName).Key("notes").Open('[');
+  for (const std::string& note : pobjOutcome.Notes) pobjJson.Text(note);
+  pobjJson.Close(']').Key("error");
+  stored ? pobjJson.Null() : pobjJson.Text(pobjOutcome.Failure);
+  pobjJson.Close('}');
+}
+
+}  // namespace
+
+ImportOutcome ImportNet(OpenDatabase& pobjDatabase, const std::string& pstrFile, const PnmlOptions& pobjOptions) {
+  ImportOutcome outcome;
+  outcome.File = pstrFile;
+  try {
+    Store(pobjDatabase, ImportPnml(pstrFile, pobjOptions), outcome);
+  } catch (const Error& error) {
+    outcome.Failure = error.Description;
+  } catch (const DatabaseFailure& failure) {
+    outcome.Failure = failure.what();
+  }
+  return outcome;
+}
+
+std::string ImportJson(const std::vector<ImportOutcome>& pcolOutcomes) {
+  JsonWriter json;
+  json.Open('{').Key("imported").Open('[');
+  for (const ImportOutcome& outcome : pcolOutcomes) WriteOutcome(json, outcome);
+  json.Close(']').Close('}');
+  return json.Written();
+}
+
+}  // namespace vantrel

@@ -1,0 +1,60 @@
+// A database that a command works with.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "app/database/DatabaseAddress.h"
+#include "model/DesignerState.h"
+#include "persistence/VNTRDB.h"
+#include "util/MsgBox.h"
+
+namespace vantrel {
+
+/// What came of work over a database; its text begins with the database's name.
+class DatabaseFailure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// An open connection to a database that has the system's tables, with what reads and saves objects over it. While it lives,
+/// message boxes are answered with OK and become lines on standard error, or the text of a DatabaseFailure.
+class OpenDatabase {
+ public:
+  /// Throws DatabaseFailure, which says how to make a database that is not there.
+  explicit OpenDatabase(const DatabaseAddress& pobjAddress);
+  ~OpenDatabase();
+  OpenDatabase(const OpenDatabase&) = delete;
+  OpenDatabase& operator=(const OpenDatabase&) = delete;
+
+  const std::string& Name() const { return mstrName; }
+  vantrel::Connection& Connection() { return *mAccess.Connection; }
+  VNTRDB& Access() { return mAccess; }
+
+  /// Does the work. An Error that leaves it, and a failure that was only shown, come out as a DatabaseFailure. Other messages
+  /// go to standard error.
+  void Do(const std::function<void()>& pWork);
+
+  /// Throws DatabaseFailure when there is none with that id.
+  std::shared_ptr<Workflow> ReadWorkflow(std::int32_t plngId);
+  DatabaseFailure NoSuchWorkflow(std::int32_t plngId) const;
+
+ private:
+  void Connect(const DatabaseAddress& pobjAddress);
+  void CheckTables();
+  DatabaseFailure Failure(const std::string& pstrWhat) const;
+  // In the words of the engine, which names the database in most of its texts.
+  DatabaseFailure EngineFailure(const std::string& pstrDescription) const;
+
+  std::string mstrName;
+  std::vector<std::string> mMessages;  // of the work under way
+  MsgBoxPresenter mBefore;
+  DesignerStateScope mStateBefore;  // reading makes what it reads the current workflow
+  VNTRDB mAccess;
+};
+
+}  // namespace vantrel

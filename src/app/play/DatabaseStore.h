@@ -1,0 +1,45 @@
+// Cases and tokens of a run in the database that its workflow came from.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "app/database/OpenDatabase.h"
+#include "app/play/PlayStore.h"
+
+namespace vantrel {
+
+/// Writes what changed in one transaction for every thousand firings or cases started, every second at the latest. Throws DatabaseFailure;
+/// what was written before stands then. The tokens of embedded workflows are not stored: a subflow under way starts again, for what its
+/// transition takes is consumed only when it delivers.
+class DatabaseStore final : public PlayStore {
+ public:
+  /// The database must outlive the store.
+  DatabaseStore(OpenDatabase& pobjDatabase, std::shared_ptr<Workflow> pobjWorkflow);
+
+  TakenUp TakeUp() override;
+  void Pass(std::int64_t plngSteps) override;
+  void Finish() override { Save(); }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+  using Group = std::vector<std::shared_ptr<Token>>;  // of one case, or of none
+
+  void Save();
+  void GatherNew();
+  // In the order of their first tokens: ids then follow the order in which tokens arose as far as cases allow.
+  std::vector<Group> TakeTouched();
+  bool HasLeft(Token& pobjToken) const;
+  void Write(const std::vector<Group>& pcolTouched);
+
+  OpenDatabase& mDatabase;
+  std::shared_ptr<Workflow> mobjWorkflow;
+  Collection<Token>::Cursor mNew;                  // behind the tokens that mcolLiving has or had
+  std::vector<std::shared_ptr<Token>> mcolLiving;  // tokens that can still change
+  std::int64_t mlngSavedAt = 0;                    // steps
+  Clock::time_point mDue;
+};
+
+}  // namespace vantrel

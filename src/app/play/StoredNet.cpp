@@ -1,0 +1,19 @@
+#include "app/play/StoredNet.h"
+
+#include <string>
+
+namespace vantrel {
+
+ImportedNet ReadStoredNet(OpenDatabase& pobjDatabase, std::int32_t plngId) {
+  ImportedNet net;
+  net.Workflow = pobjDatabase.ReadWorkflow(plngId);
+  net.Id = std::to_string(plngId);
+  net.Name = "workflow " + net.Id;
+  for (const auto& place : net.Workflow->Places) {
+    if (place->InArcs.IsEmpty()) ++net.SourcePlaces;
+    if (place->OutArcs.IsEmpty()) ++net.SinkPlaces;
+  }
+  return net;
+}
+
+}  // namespace vantrel

@@ -1,0 +1,14 @@
+// A net to play, out of a database.
+#pragma once
+
+#include <cstdint>
+
+#include "app/database/OpenDatabase.h"
+#include "interchange/PnmlImport.h"
+
+namespace vantrel {
+
+/// The workflow of that id as a net without initial marking, named "workflow" and its id. Throws DatabaseFailure.
+ImportedNet ReadStoredNet(OpenDatabase& pobjDatabase, std::int32_t plngId);
+
+}  // namespace vantrel
