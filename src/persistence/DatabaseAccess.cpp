@@ -13,15 +13,6 @@ void Abandon(Connection& pobjConnection, SavedMarks& pobjMarks) {
   pobjMarks.Restore();
 }
 
-void Commit(Connection& pobjConnection, SavedMarks& pobjMarks) {
-  try {
-    pobjConnection.CommitTrans();
-  } catch (...) {
-    pobjMarks.Restore();
-    throw;
-  }
-}
-
 }  // namespace
 
 vantrel::Connection& DatabaseAccess::Connection() const {
@@ -49,8 +40,12 @@ std::int32_t DatabaseAccess::ExecuteSQL(const SqlText& pobjSql) {
 
 std::unique_ptr<Recordset> DatabaseAccess::GetRecordset(const std::string& pstrSql, std::int32_t plngCursorType) {
   mobjUnshown.reset();
+  if (!mobjConnection) {
+    mobjUnshown = Error(vntErrNoConnection);
+    return nullptr;
+  }
   try {
-    auto rows = Connection().NewRecordset();
+    auto rows = mobjConnection->NewRecordset();
     rows->ActiveConnection = mobjConnection.get();
     rows->CursorLocation = vntUseClient;
     rows->CursorType = plngCursorType;
@@ -89,7 +84,7 @@ std::int32_t DatabaseAccess::NextId(const std::string& pstrTableName) {
 void DatabaseAccess::Write(SavedMarks& pobjMarks, const std::function<void()>& pWork) {
   Connection();
   const auto connection = mobjConnection;  // a message box may be answered by code that hands in another one
-  connection->BeginTrans(Transaction::Write);
+  ShowLoss([&] { connection->BeginTrans(Transaction::Write); });
   try {
     pWork();
   } catch (const Error& error) {
@@ -108,10 +103,30 @@ void DatabaseAccess::Write(SavedMarks& pobjMarks, const std::function<void()>& p
   Commit(*connection, pobjMarks);
 }
 
+void DatabaseAccess::Commit(vantrel::Connection& pobjConnection, SavedMarks& pobjMarks) {
+  try {
+    ShowLoss([&] { pobjConnection.CommitTrans(); });
+  } catch (...) {
+    pobjMarks.Restore();
+    throw;
+  }
+}
+
+void DatabaseAccess::ShowLoss(const std::function<void()>& pStep) {
+  try {
+    pStep();
+  } catch (const Error& error) {
+    Show(error);
+    throw TransactionLost(error);
+  }
+}
+
 void DatabaseAccess::Read(const std::function<bool()>& pWork) {
-  Connection();
   const auto connection = mobjConnection;
-  connection->BeginTrans(Transaction::Read);
+  if (!BeginReading(connection.get())) {
+    pWork();
+    return;
+  }
   bool hasRead = false;
   // A rollback would undo what a surrounding transaction of the host has written.
   const auto endQuietly = [&] {
@@ -128,6 +143,17 @@ void DatabaseAccess::Read(const std::function<bool()>& pWork) {
     throw;
   }
   hasRead ? connection->CommitTrans() : endQuietly();
+}
+
+// Where no transaction can be had, the row sets will find out why, and each reader knows what that means for it.
+bool DatabaseAccess::BeginReading(vantrel::Connection* pobjConnection) {
+  if (!pobjConnection) return false;
+  try {
+    pobjConnection->BeginTrans(Transaction::Read);
+    return true;
+  } catch (const Error&) {
+    return false;
+  }
 }
 
 void DatabaseAccess::Show(const Error& pobjError) {

@@ -51,10 +51,10 @@ class DatabaseAccess {
   bool IsTransactionLost() const { return HasConnection() && mobjConnection->IsTransactionLost(); }
 
   /// Does the work in one write transaction. When the work throws an Error, what it wrote before stays; when the transaction
-  /// is lost or cannot be committed, everything is undone and the marks are put back. A lost one ends in TransactionLost.
+  /// cannot begin, is lost or cannot be committed, everything is undone, the marks are put back, and TransactionLost is thrown.
   void Write(SavedMarks& pobjMarks, const std::function<void()>& pWork);
-  /// Does the work on one state of the database. It returns whether there was anything to read; if so, a lost transaction is
-  /// an Error.
+  /// Does the work on one state of the database; without a connection that can be used, it finds no rows. It returns whether there was
+  /// anything to read; if so, a lost transaction is an Error.
   void Read(const std::function<bool()>& pWork);
 
   /// In a message box.
@@ -67,6 +67,11 @@ class DatabaseAccess {
   const std::optional<Error>& FirstFailure() const { return mobjFirstFailure; }
 
  private:
+  void Commit(vantrel::Connection& pobjConnection, SavedMarks& pobjMarks);
+  /// Runs a step of the transaction itself, which is lost when the step fails.
+  void ShowLoss(const std::function<void()>& pStep);
+  static bool BeginReading(vantrel::Connection* pobjConnection);
+
   const std::shared_ptr<vantrel::Connection>& mobjConnection;
   std::optional<Error> mobjFirstFailure;
   std::optional<Error> mobjUnshown;  // why GetRecordset last gave nothing without a word

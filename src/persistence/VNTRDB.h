@@ -32,7 +32,8 @@ class VNTRDB final : public Object, public WorkflowReader {
 
   std::string Class() const override { return "VNTR.VNTRDB.1"; }
 
-  /// The workflow with everything drawn in it and the workflows embedded in it, not shown yet; null when there is no such id.
+  /// The workflow with everything drawn in it and the workflows embedded in it, not shown yet; null when there is no such id, or no
+  /// connection that can be used.
   /// What it reads becomes the process-wide current workflow (gobjWorkflow), also when nothing was found. All of one state of
   /// the database. Throws Error for columns that cannot be read and Error 5 for a workflow that is embedded in itself; arcs
   /// that cannot be read are left out.
@@ -40,9 +41,9 @@ class VNTRDB final : public Object, public WorkflowReader {
 
   /// Writes the whole chart of the workflow and removes rows whose objects are gone; new objects get their ids. Does not save
   /// token property definitions (SaveTokenProperties). 0 when the save ran, whatever was refused and shown on the way; 999
-  /// without connection; the failure's number when the connection or the engine gave up the transaction: then nothing was
-  /// saved and ids and dirty marks are what they were, so that the save can be repeated. A failing arc throws and ends the
-  /// save with what was written before it.
+  /// without connection; the failure's number, which was shown, when the transaction could not begin, was given up or could not
+  /// be committed: then nothing was saved and ids and dirty marks are what they were, so that the save can be repeated. A failing arc
+  /// throws and ends the save with what was written before it.
   std::int32_t SaveWorkFlow(const std::shared_ptr<Workflow>& pobjWorkflow);
   /// Removes the rows of the chart; definitions, cases and tokens stay.
   void DeleteWorkflow(const Variant& pvarRecId);

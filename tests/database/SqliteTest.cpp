@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <thread>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -145,6 +146,40 @@ TEST_F(Sqlite, CreatingIsAllOrNothing) {
   AddCase(*OpenSqlite(Home.File()), 1);
   ExpectProblem([&] { Create(); }, Home.File(), "has the tables already");
   EXPECT_THAT(Cases(), ElementsAre("1"));
+}
+
+TEST_F(Sqlite, NamesThatTheEngineTakesSpeciallyAreFiles) {
+  const auto before = std::filesystem::current_path();
+  std::filesystem::current_path(Home.Path());
+  for (const char* name : {":memory:", "file:net.db", "file:net.db?mode=memory"}) {
+    SCOPED_TRACE(name);
+    CreateSqlite(name, Schema());
+    EXPECT_TRUE(std::filesystem::exists(Home.Path() / name));
+    OpenSqlite(name)->Execute("INSERT INTO Workcase (Id, OrderItemId) VALUES (1, 1)");
+  }
+  EXPECT_FALSE(std::filesystem::exists(Home.File("net.db")));
+  std::filesystem::current_path(before);
+}
+
+TEST_F(Sqlite, OfSeveralWhoMakeTheSameFileOneSucceedsAndNothingStoredIsLost) {
+  for (int round = 0; round < 20; ++round) {
+    const std::string path = Home.File(("race" + std::to_string(round) + ".db").c_str());
+    std::atomic<int> made = 0;
+    std::vector<std::thread> makers;
+    for (int i = 0; i < 4; ++i) {
+      makers.emplace_back([&] {
+        try {
+          CreateSqlite(path, Schema());
+          ++made;
+        } catch (const Error& error) {
+          EXPECT_THAT(error.Description, HasSubstr("has the tables already"));
+        }
+        OpenSqlite(path)->Execute("DELETE * FROM Workcase WHERE Id = 1");
+      });
+    }
+    for (auto& maker : makers) maker.join();
+    EXPECT_EQ(made, 1);
+  }
 }
 
 TEST_F(Sqlite, AWriterThatWaitsTooLongIsToldThatTheFileIsLocked) {

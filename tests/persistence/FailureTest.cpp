@@ -93,11 +93,16 @@ TEST_F(SaveFailure, LostTransactionPutsIdsAndMarksBack) {
   EXPECT_EQ(mDatabase.SaveWorkFlow(mobjNet), 0) << "the save can be repeated";
 }
 
-TEST_F(SaveFailure, OfTheCommitPassesAndPutsMarksBack) {
-  mobjConnection->WhyNotCommitted = "disk full";
-  EXPECT_EQ(ErrorOf([&] { mDatabase.SaveWorkFlow(mobjNet); }), vntErrDatabase);
-  EXPECT_EQ(mobjTransition->RecId, 0);
-  EXPECT_TRUE(mobjNet->Dirty());
+TEST_F(SaveFailure, OfBeginOrCommitIsShownAndPutsMarksBack) {
+  for (auto* const why : {&mobjConnection->WhyNotBegun, &mobjConnection->WhyNotCommitted}) {
+    *why = "disk full";
+    mMessages.Texts.clear();
+    EXPECT_EQ(mDatabase.SaveWorkFlow(mobjNet), vntErrDatabase);
+    EXPECT_EQ(mMessages.Texts, std::vector<std::string>{"disk full"});
+    EXPECT_EQ(mobjTransition->RecId, 0);
+    EXPECT_TRUE(mobjNet->Dirty());
+    why->clear();
+  }
 }
 
 TEST_F(SaveFailure, ClosedConnectionIsOpenedAgainAndNothingRepeated) {
@@ -167,6 +172,14 @@ TEST_F(SaveFailure, ReadingShowsNothingForAConnectionThatCannotBeUsed) {
   EXPECT_EQ(gobjWorkflow->RecId, 0) << "an empty workflow is the current one";
   EXPECT_EQ(ErrorOf([&] { mDatabase.NextId("Token"); }), vntErrObjectNotSet);
 
+  mobjConnection->WhyNotBegun = "server gone";
+  EXPECT_EQ(mDatabase.ReadWorkflow(1), nullptr);
+  mDatabase.Connection = nullptr;
+  EXPECT_EQ(mDatabase.ReadWorkflow(1), nullptr);
+  EXPECT_TRUE(mMessages.Texts.empty());
+
+  mDatabase.Connection = mobjConnection;
+  mobjConnection->WhyNotBegun.clear();
   mobjConnection->Failures = {{"SELECT", vntErrStatement, "refused", false, 0}};
   EXPECT_EQ(mDatabase.ReadWorkflow(1), nullptr);
   EXPECT_EQ(mMessages.Texts, std::vector<std::string>{"refused"});

@@ -108,6 +108,7 @@ void RecordingConnection::Open(const std::string& pstrAddress, const std::string
 std::unique_ptr<Recordset> RecordingConnection::NewRecordset() { return std::make_unique<RecordedRows>(*this); }
 
 void RecordingConnection::BeginTrans(Transaction /*pTransaction*/) {
+  if (!WhyNotBegun.empty()) throw Error(vntErrDatabase, WhyNotBegun);
   ++Transactions;
   ++mlngDepth;
 }

@@ -31,7 +31,7 @@ class RecordingConnection final : public Connection {
     int Passes = 0;  // so many are let through before
   };
   std::vector<Failure> Failures;
-  std::string WhyNotReopened, WhyNotCommitted;  ///< empty: it works
+  std::string WhyNotBegun, WhyNotReopened, WhyNotCommitted;  ///< empty: it works
   int Transactions = 0, Commits = 0, Rollbacks = 0;
 
   void Execute(const std::string& pstrSql, std::int32_t plngOptions) override;

@@ -1,7 +1,8 @@
 #include "database/sqlite/Sqlite.h"
 
-#include <cstdio>
 #include <filesystem>
+#include <random>
+#include <string>
 
 #include "database/EngineConnection.h"
 #include "database/sqlite/SqliteSession.h"
@@ -11,24 +12,69 @@ namespace vantrel {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 bool HasTables(SqliteSession& pobjSession) {
   const EngineStatement question{"SELECT name FROM sqlite_schema WHERE type = 'table' AND lower(name) = 'workflow'", {}, false};
   return !pobjSession.Query(question).Values.empty();
 }
 
+Error HasThemAlready(const std::string& pstrPath) { return {vntErrDatabase, "The database \"" + pstrPath + "\" has the tables already."}; }
+
 void MakeTables(SqliteSession& pobjSession, const std::string& pstrPath, const std::string& pstrSchema) {
   pobjSession.OpenOrMake(pstrPath);
   pobjSession.Begin(Transaction::Write);
-  if (HasTables(pobjSession)) throw Error(vntErrDatabase, "The database \"" + pstrPath + "\" has the tables already.");
+  if (HasTables(pobjSession)) throw HasThemAlready(pstrPath);
   pobjSession.RunScript(pstrSchema);
   pobjSession.Commit();
 }
 
-// True for the one who made the file: nobody else may take it away again.
-bool MakeFile(const std::string& pstrPath) {
-  std::FILE* const file = std::fopen(pstrPath.c_str(), "wx");
-  if (file != nullptr) std::fclose(file);
-  return file != nullptr;
+/// A file beside the one that is to be made, gone with this object.
+class FileBeside {
+ public:
+  explicit FileBeside(const std::string& pstrPath) : mstrPath(pstrPath + "." + std::to_string(std::random_device()()) + ".new") {}
+  ~FileBeside() {
+    std::error_code ignored;
+    for (const char* tail : {"", "-wal", "-shm"}) fs::remove(mstrPath + tail, ignored);
+  }
+  FileBeside(const FileBeside&) = delete;
+  FileBeside& operator=(const FileBeside&) = delete;
+  const std::string& Path() const { return mstrPath; }
+
+ private:
+  std::string mstrPath;
+};
+
+// Gives the file its name, which only the first of several who try at the same moment gets.
+void Rename(const std::string& pstrFrom, const std::string& pstrTo) {
+  std::error_code problem;
+  fs::create_hard_link(pstrFrom, pstrTo, problem);
+  if (!problem) return;
+  if (fs::exists(pstrTo)) throw HasThemAlready(pstrTo);
+  fs::rename(pstrFrom, pstrTo);  // a file system without links
+}
+
+std::string WithName(std::string pstrText, const std::string& pstrName, const std::string& pstrOther) {
+  const auto at = pstrText.find(pstrName);
+  return at == std::string::npos ? pstrText : pstrText.replace(at, pstrName.size(), pstrOther);
+}
+
+// Nobody sees the file before it is whole, so that nobody can lose in it what he stored.
+void MakeFile(const std::string& pstrPath, const std::string& pstrSchema) {
+  const FileBeside file(pstrPath);
+  {
+    SqliteSession session({});
+    try {
+      MakeTables(session, file.Path(), pstrSchema);
+    } catch (const Error& error) {
+      throw Error(error.Number, WithName(error.Description, file.Path(), pstrPath));
+    }
+  }
+  try {
+    Rename(file.Path(), pstrPath);
+  } catch (const fs::filesystem_error& error) {
+    throw Error(vntErrDatabase, "The database \"" + pstrPath + "\" cannot be made: " + error.code().message() + ".");
+  }
 }
 
 }  // namespace
@@ -40,15 +86,12 @@ std::shared_ptr<Connection> OpenSqlite(const std::string& pstrPath, SqliteOption
 }
 
 void CreateSqlite(const std::string& pstrPath, const std::string& pstrSchema) {
-  const bool isNew = MakeFile(pstrPath);
+  if (!pstrPath.empty() && !fs::exists(pstrPath)) return MakeFile(pstrPath, pstrSchema);
   SqliteSession session({});
   try {
     MakeTables(session, pstrPath, pstrSchema);
   } catch (...) {
     session.Rollback();
-    session.Close();
-    std::error_code ignored;
-    if (isNew) std::filesystem::remove(pstrPath, ignored);
     throw;
   }
 }

@@ -12,7 +12,7 @@ std::string WhyItCannotBeOpened(const std::string& pstrPath) {
   if (std::filesystem::is_directory(status)) return "it is a folder";
   const auto folder = std::filesystem::absolute(pstrPath, ignored).parent_path();
   if (!std::filesystem::exists(folder, ignored)) return "there is no folder \"" + folder.string() + "\"";
-  if (status.type() == std::filesystem::file_type::not_found) return "there is no such file";
+  if (status.type() == std::filesystem::file_type::not_found) return "there is no such file, or its folder cannot be written";
   return "access is denied";
 }
 

@@ -1,5 +1,6 @@
 #include "database/sqlite/SqliteSession.h"
 
+#include <cstdio>
 #include <filesystem>
 #include <limits>
 #include <optional>
@@ -11,13 +12,23 @@ namespace vantrel {
 
 namespace {
 
+constexpr const char* kReadSomething = "SELECT COUNT(*) FROM sqlite_schema";
 constexpr int kFlags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
+
+// SQLite gives names such as ":memory:" and "file:..." a meaning of their own, but no absolute path.
+std::string NameOf(const std::string& pstrPath) { return std::filesystem::absolute(pstrPath).string(); }
+
+bool CanWrite(const std::string& pstrPath) {
+  std::FILE* const file = std::fopen(pstrPath.c_str(), "r+b");
+  if (file != nullptr) std::fclose(file);
+  return file != nullptr;
+}
 
 // A path as the URI that SQLite takes.
 std::string UriOf(const std::string& pstrPath) {
   constexpr std::string_view kHexDigits = "0123456789ABCDEF";
   std::string uri = "file:";
-  for (const char c : std::filesystem::absolute(pstrPath).string()) {
+  for (const char c : NameOf(pstrPath)) {
     if (c == '%' || c == '?' || c == '#') {
       const auto byte = static_cast<unsigned char>(c);
       uri.append({'%', kHexDigits[byte >> 4], kHexDigits[byte & 15]});
@@ -40,7 +51,7 @@ void SqliteSession::Open(const std::string& pstrAddress) {
   }
   if (mstrPath.empty()) throw SqliteError(nullptr, SQLITE_CANTOPEN, mstrPath);
   try {
-    OpenFile(mstrPath, SQLITE_OPEN_READWRITE);
+    OpenFile(NameOf(mstrPath), SQLITE_OPEN_READWRITE);
     OpenToRead();
   } catch (...) {
     Close();
@@ -51,7 +62,7 @@ void SqliteSession::Open(const std::string& pstrAddress) {
 void SqliteSession::OpenOrMake(const std::string& pstrAddress) {
   Close();
   mstrPath = pstrAddress;
-  OpenFile(mstrPath, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+  OpenFile(NameOf(mstrPath), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
   UseWriteAheadLog();
 }
 
@@ -76,21 +87,29 @@ void SqliteSession::Configure() {
 
 // Reads something, which shows whether the file is a database at all.
 void SqliteSession::OpenToRead() {
+  if (!HasLog() && !CanWrite(mstrPath)) return OpenAsItLies();
   try {
     UseWriteAheadLog();
-    RunText("SELECT COUNT(*) FROM sqlite_schema");
+    RunText(kReadSomething);
   } catch (const Error&) {
-    // Where neither the file nor its folder can be written there is no place for the log's index. Where the log is
-    // missing or empty the file is complete, and can be read as it lies there.
     const int problem = sqlite3_errcode(mobjDatabase) & 0xFF;
-    std::error_code ignored;
-    const auto logSize = std::filesystem::file_size(mstrPath + "-wal", ignored);
-    const bool hasLog = logSize != static_cast<std::uintmax_t>(-1) && logSize > 0;
-    if (hasLog || (problem != SQLITE_CANTOPEN && problem != SQLITE_READONLY)) throw;
-    Close();
-    OpenFile(UriOf(mstrPath) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
-    RunText("SELECT COUNT(*) FROM sqlite_schema");
+    if (HasLog() || (problem != SQLITE_CANTOPEN && problem != SQLITE_READONLY)) throw;
+    OpenAsItLies();
   }
+}
+
+bool SqliteSession::HasLog() const {
+  std::error_code none;
+  const auto size = std::filesystem::file_size(mstrPath + "-wal", none);
+  return !none && size > 0;
+}
+
+// Without a log the file is complete. The log's index and an empty log, which SQLite would make to read it, would belong to whoever
+// reads, and lock out the owner of the file.
+void SqliteSession::OpenAsItLies() {
+  Close();
+  OpenFile(UriOf(mstrPath) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
+  RunText(kReadSomething);
 }
 
 // A file that somebody made without the log works too, only slower: it is not worth waiting for.
@@ -166,7 +185,7 @@ void SqliteSession::Begin(Transaction pTransaction) {
   if (pTransaction == Transaction::Write) return RunText("BEGIN IMMEDIATE");
   RunText("BEGIN");
   try {
-    RunText("SELECT COUNT(*) FROM sqlite_schema");  // from here on the state is the same one
+    RunText(kReadSomething);  // from here on the state is the same one
   } catch (...) {
     Rollback();
     throw;

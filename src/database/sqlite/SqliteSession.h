@@ -40,6 +40,8 @@ class SqliteSession final : public Session {
  private:
   void OpenFile(const std::string& pstrName, int plngFlags);
   void OpenToRead();
+  bool HasLog() const;
+  void OpenAsItLies();
   void Configure();
   void UseWriteAheadLog();
   /// Values are taken out of the text by the dialect, so this is for statements of this class alone.
