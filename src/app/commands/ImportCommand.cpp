@@ -11,7 +11,6 @@
 #include "app/Interrupt.h"
 #include "app/Lines.h"
 #include "app/ProgressLine.h"
-#include "app/commands/NetFiles.h"
 #include "interchange/PnmlError.h"
 
 namespace vantrel {
@@ -51,19 +50,24 @@ int ImportCommand::Run() {
   return outcomes.size() == files.size() ? kDone : kNotFinished;
 }
 
-std::vector<ImportOutcome> ImportCommand::ImportAll(OpenDatabase& pobjDatabase, const std::vector<std::string>& pcolFiles) const {
+std::vector<ImportOutcome> ImportCommand::ImportAll(OpenDatabase& pobjDatabase, const std::vector<NetFile>& pcolFiles) const {
   const Interrupt interrupt;
   std::optional<ProgressLine> progress;  // where the lines of the nets themselves do not show it
   if (isatty(STDERR_FILENO) == 1 && isatty(STDOUT_FILENO) != 1) progress.emplace(std::cerr);
   std::vector<ImportOutcome> outcomes;
-  for (const std::string& file : pcolFiles) {
+  for (const NetFile& file : pcolFiles) {
     const std::string done = std::to_string(outcomes.size()) + " of " + std::to_string(pcolFiles.size()) + " files";
     if (interrupt.Came()) {
       std::cerr << "vantrel: interrupted after " << done << '\n';
       break;
     }
     if (progress && progress->IsDue()) progress->Show(done);
-    outcomes.push_back(ImportNet(pobjDatabase, file, mFileOptions));
+    if (file.Failure.empty()) {
+      outcomes.push_back(ImportNet(pobjDatabase, file.Path, mFileOptions));
+    } else {
+      outcomes.emplace_back().File = file.Path;
+      outcomes.back().Failure = file.Failure;
+    }
     Tell(outcomes.back());
   }
   return outcomes;

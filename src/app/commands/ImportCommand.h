@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "app/commands/Command.h"
+#include "app/commands/NetFiles.h"
 #include "app/database/DatabaseOption.h"
 #include "app/database/NetImport.h"
 
@@ -19,7 +20,7 @@ class ImportCommand final : public Command {
 
  private:
   void DeclareFiles(CLI::App& pobjApp);
-  std::vector<ImportOutcome> ImportAll(OpenDatabase& pobjDatabase, const std::vector<std::string>& pcolFiles) const;
+  std::vector<ImportOutcome> ImportAll(OpenDatabase& pobjDatabase, const std::vector<NetFile>& pcolFiles) const;
   void Tell(const ImportOutcome& pobjOutcome) const;
 
   DatabaseOption mDatabase;

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <stdexcept>
 #include <system_error>
+#include <utility>
 
 namespace vantrel {
 
@@ -11,27 +11,30 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::vector<std::string> FilesIn(const std::string& pstrFolder) {
+std::vector<NetFile> FilesIn(const std::string& pstrFolder) {
   std::error_code fault;
-  std::vector<std::string> files;
+  std::vector<std::string> paths;
   for (fs::directory_iterator entry(pstrFolder, fault), end; !fault && entry != end; entry.increment(fault)) {
     std::error_code unknown;
-    if (entry->path().extension() == ".pnml" && !entry->is_directory(unknown)) files.push_back(entry->path().string());
+    // A pipe of that name would wait for ever for somebody who writes.
+    if (entry->path().extension() == ".pnml" && entry->is_regular_file(unknown)) paths.push_back(entry->path().string());
   }
-  if (fault) throw std::runtime_error(pstrFolder + ": cannot read the folder: " + fault.message());
-  if (files.empty()) throw std::runtime_error(pstrFolder + ": no file NAME.pnml in this folder");
-  std::sort(files.begin(), files.end());
+  if (fault) return {{pstrFolder, "cannot read the folder: " + fault.message()}};
+  if (paths.empty()) return {{pstrFolder, "no file NAME.pnml in this folder"}};
+  std::sort(paths.begin(), paths.end());
+  std::vector<NetFile> files;
+  for (std::string& path : paths) files.push_back({std::move(path), {}});
   return files;
 }
 
 }  // namespace
 
-std::vector<std::string> NetFilesOf(const std::vector<std::string>& pcolPaths) {
-  std::vector<std::string> files;
+std::vector<NetFile> NetFilesOf(const std::vector<std::string>& pcolPaths) {
+  std::vector<NetFile> files;
   for (const std::string& path : pcolPaths) {
     std::error_code unknown;
     if (!fs::is_directory(path, unknown)) {
-      files.push_back(path);
+      files.push_back({path, {}});
       continue;
     }
     const auto inside = FilesIn(path);

@@ -10,6 +10,17 @@
 
 namespace vantrel {
 
+namespace {
+
+std::string QuotedForShell(const std::string& pstrText) {
+  if (pstrText.find_first_of(" \t\n'\"\\$`*?[]<>|&;()#~!{}") == std::string::npos) return pstrText;
+  std::string quoted = "'";
+  for (const char c : pstrText) quoted += c == '\'' ? std::string("'\\''") : std::string(1, c);
+  return quoted + "'";
+}
+
+}  // namespace
+
 OpenDatabase::OpenDatabase(const DatabaseAddress& pobjAddress)
     : mstrName(pobjAddress.Shown()), mBefore(InstallMsgBoxPresenter([this](const std::string& pstrText, MsgBoxButtons, const std::string&) {
         mMessages.push_back(pstrText);
@@ -28,7 +39,9 @@ OpenDatabase::~OpenDatabase() { InstallMsgBoxPresenter(std::move(mBefore)); }
 
 void OpenDatabase::Connect(const DatabaseAddress& pobjAddress) {
   if (!pobjAddress.IsServer() && !std::filesystem::exists(pobjAddress.Text())) {
-    throw Failure("no such database; `vantrel db create --db " + mstrName + "` makes it");
+    if (mstrName.find("://") != std::string::npos)
+      throw Failure("not an address of a database: that is a file, or postgresql://USER@HOST/NAME");
+    throw Failure("no such database; `vantrel db create --db " + QuotedForShell(mstrName) + "` makes it");
   }
   try {
     mAccess.Connection = OpenConnection(pobjAddress);
@@ -43,7 +56,7 @@ void OpenDatabase::CheckTables() {
     rows->Open("SELECT Id FROM Workflow WHERE Id = 0");
   } catch (const Error& error) {
     if (error.Number != vntErrStatement) throw EngineFailure(error.Description);
-    throw Failure("a database without the tables of this system; `vantrel db create --db " + mstrName + "` makes them");
+    throw Failure("a database without the tables of this system; `vantrel db create --db " + QuotedForShell(mstrName) + "` makes them");
   }
 }
 

@@ -24,6 +24,8 @@ DatabaseStore::DatabaseStore(OpenDatabase& pobjDatabase, std::shared_ptr<Workflo
 TakenUp DatabaseStore::TakeUp() {
   std::vector<std::shared_ptr<WorkCase>> cases;
   mDatabase.Do([&] { cases = mDatabase.Access().ReadCases(mobjWorkflow); });
+  mlngLargestTokenId = 0;
+  for (const auto& token : mobjWorkflow->Tokens) mlngLargestTokenId = std::max(mlngLargestTokenId, token->RecId);
   TakenUp result;
   for (const auto& workCase : cases) result.CaseKeys.push_back(workCase->Key);
 
@@ -50,7 +52,12 @@ void DatabaseStore::Pass(std::int64_t plngSteps) {
 void DatabaseStore::Save() {
   GatherNew();
   const auto touched = TakeTouched();
-  if (!touched.empty()) mDatabase.Do([&] { Write(touched); });
+  try {
+    if (!touched.empty()) mDatabase.Do([&] { Write(touched); });
+  } catch (const DatabaseFailure& failure) {
+    throw DatabaseFailure(failure.what() + (" What was stored until then stands; `vantrel play " + std::to_string(mobjWorkflow->RecId)) +
+                          " --resume` goes on from there.");
+  }
   mDue = Clock::now() + kPause;
 }
 
@@ -87,13 +94,32 @@ bool DatabaseStore::HasLeft(Token& pobjToken) const {
 void DatabaseStore::Write(const std::vector<Group>& pcolTouched) {
   VNTRDB& access = mDatabase.Access();
   TransactionScope transaction(mDatabase.Connection(), Transaction::Write);
+  CheckStillOurs();
   for (const Group& tokens : pcolTouched) {
     if (tokens.front()->WorkCase) access.SaveWorkcase(tokens.front()->WorkCase);
     access.SaveToken(tokens.front());
     if (access.Failures() > 0) return;
     for (const auto& token : tokens) token->Dirty = false;
   }
+  if (mlngLargestTokenId >= 0) mlngLargestTokenId = LargestTokenId();
   transaction.Commit();
+}
+
+void DatabaseStore::CheckStillOurs() {
+  const std::string id = std::to_string(mobjWorkflow->RecId);
+  const auto row = mDatabase.Connection().NewRecordset();
+  row->Open("SELECT Id FROM Workflow WHERE Id = " + id);
+  if (row->Eof()) throw Error(vntErrDatabase, "workflow " + id + " was deleted while it was played.");
+  if (mlngLargestTokenId < 0 || LargestTokenId() == mlngLargestTokenId) return;
+  throw Error(vntErrDatabase, "another run stores tokens of workflow " + id + ", with which this one went on.");
+}
+
+std::int32_t DatabaseStore::LargestTokenId() {
+  const auto row = mDatabase.Connection().NewRecordset();
+  row->Open("SELECT MAX(Id) AS MaxId FROM Token WHERE PlaceId IN (SELECT Id FROM Place WHERE WorkflowId = " +
+            std::to_string(mobjWorkflow->RecId) + ")");
+  const Variant& largest = row->Fields("MaxId").Value;
+  return largest.IsNull() ? 0 : largest.ToInt32();
 }
 
 }  // namespace vantrel

@@ -33,12 +33,16 @@ class DatabaseStore final : public PlayStore {
   std::vector<Group> TakeTouched();
   bool HasLeft(Token& pobjToken) const;
   void Write(const std::vector<Group>& pcolTouched);
+  // Throws when the workflow is gone, or when another run goes on with the same tokens.
+  void CheckStillOurs();
+  std::int32_t LargestTokenId();
 
   OpenDatabase& mDatabase;
   std::shared_ptr<Workflow> mobjWorkflow;
   Collection<Token>::Cursor mNew;                  // behind the tokens that mcolLiving has or had
   std::vector<std::shared_ptr<Token>> mcolLiving;  // tokens that can still change
   std::int64_t mlngSavedAt = 0;                    // steps
+  std::int32_t mlngLargestTokenId = -1;            // that we know of; -1 when we go on with nothing that others could
   Clock::time_point mDue;
 };
 
