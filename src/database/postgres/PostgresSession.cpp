@@ -72,7 +72,7 @@ PostgresFlight PostgresSession::Try(const EngineStatement& pobjStatement) {
   }
   auto flight = link.Fly();
   mStatements.Landed(flight.Done);
-  mHasWritten = !flight.Refusal && !OnlyReads(pobjStatement.Text);
+  mHasWritten = !flight.Refusal && !OnlyReads(pobjStatement.Text) && std::strcmp(PQcmdTuples(flight.Last.get()), "0") != 0;
   return flight;
 }
 

@@ -1,0 +1,17 @@
+// A workflow with a chart of a given size, to save and to read.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include "model/Workflow.h"
+
+namespace vantrel::bench {
+
+/// So many places and transitions each, three arcs a place, every arc of three segments; texts and positions of usual length.
+std::shared_ptr<Workflow> MakeChart(std::int32_t plngPlaces);
+
+/// Rows that saving it writes: the workflow, its nodes, its arcs and their segments.
+std::int64_t RowsOf(const Workflow& pobjWorkflow);
+
+}  // namespace vantrel::bench
