@@ -4,13 +4,14 @@
 set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON)
 
 # vantrel_add_library(<folder> SOURCES <file>... HEADERS <file>... [LINKS <target>...]
-#                     [PACKAGES <package>... PRIVATE_LINKS <target>...] [INTERNAL])
+#                     [PACKAGES <package>... PRIVATE_LINKS <target>...] [PRECOMPILE <header>...] [INTERNAL])
 #
 # Makes the library vantrel_<folder>, alias vantrel::<folder>; a slash in the folder's name becomes an underscore. Headers are
 # included with the folder in front: "model/Place.h". LINKS are what the headers need, PRIVATE_LINKS what the sources alone need.
-# PACKAGES are found with find_package, also by the projects that use the installed library. INTERNAL: neither installed nor exported.
+# PRECOMPILE: heavy headers that most sources include, read once where this tree is built for itself; each source includes what it needs
+# all the same. PACKAGES are found with find_package, also by the projects that use the installed library. INTERNAL: neither installed nor exported.
 function(vantrel_add_library folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "INTERNAL" "" "SOURCES;HEADERS;LINKS;PACKAGES;PRIVATE_LINKS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "INTERNAL" "" "SOURCES;HEADERS;LINKS;PACKAGES;PRIVATE_LINKS;PRECOMPILE")
   vantrel_refuse_unknown("${arg_UNPARSED_ARGUMENTS}")
   foreach(package IN LISTS arg_PACKAGES)
     find_package(${package} REQUIRED)
@@ -32,6 +33,9 @@ function(vantrel_add_library folder)
   target_link_libraries(${target} ${scope} ${arg_LINKS})
   target_compile_features(${target} ${scope} cxx_std_20)
   set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
+  if(arg_PRECOMPILE AND PROJECT_IS_TOP_LEVEL)
+    target_precompile_headers(${target} PRIVATE ${arg_PRECOMPILE})
+  endif()
 
   if(NOT arg_INTERNAL)
     install(TARGETS ${target} EXPORT VantrelTargets

@@ -21,6 +21,16 @@ function(vantrel_add_test folder)
   set_target_properties(${target} PROPERTIES OUTPUT_NAME test_${name})
   target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${target} PRIVATE vantrel::warnings ${arg_LINKS} GTest::gmock GTest::gtest_main)
+  # A test runs once for each time it is compiled: optimising it costs more than it gives. And half of what is left is the test library,
+  # which is read once for all of them.
+  target_compile_options(${target} PRIVATE -O0)
+  get_property(first GLOBAL PROPERTY VANTREL_FIRST_TEST)
+  if(first)
+    target_precompile_headers(${target} REUSE_FROM ${first})
+  else()
+    target_precompile_headers(${target} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <memory> <string> <vector>)
+    set_property(GLOBAL PROPERTY VANTREL_FIRST_TEST ${target})
+  endif()
 
   set(properties LABELS ${name} TIMEOUT 120)
   if(vantrel_nets)
