@@ -1,0 +1,29 @@
+// Shows a workflow.
+#pragma once
+
+#include <memory>
+
+#include "designer/Vantrel.h"
+
+namespace vantrel {
+
+/// Builds and empties the chart.
+class ChartBuilder {
+ public:
+  explicit ChartBuilder(Vantrel& pobjControl) : mobjControl(pobjControl) {}
+
+  /// Takes the workflow shown off the chart and shows another one, or none. What a listener shows instead while the marks are
+  /// set stays.
+  void Show(const std::shared_ptr<Workflow>& pobjWorkflow);
+  void Clear();
+
+ private:
+  void LetGo();
+  void Take(const std::shared_ptr<Workflow>& pobjWorkflow);
+  void Build();
+  void BindAll();
+
+  Vantrel& mobjControl;
+};
+
+}  // namespace vantrel

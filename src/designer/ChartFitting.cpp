@@ -1,0 +1,65 @@
+#include "designer/ChartFitting.h"
+
+#include <algorithm>
+
+#include "designer/ChartObjects.h"
+
+namespace vantrel {
+
+namespace {
+
+template <class E>
+void Extend(Rect& pobjExtent, const ElementFamily<E>& pobjFamily) {
+  for (std::int32_t index = 1; index <= pobjFamily.UpperBound(); ++index) {
+    if (const auto element = pobjFamily.At(index)) pobjExtent = pobjExtent.United(element->Bounds());
+  }
+}
+
+template <class T>
+void MoveEach(const Collection<T>& pcolObjects, float psngX, float psngY) {
+  for (typename Collection<T>::Cursor cursor(pcolObjects); T* object = cursor.Next();) {
+    MoveTo(*object, static_cast<float>(object->Left()) + psngX, static_cast<float>(object->Top()) + psngY);
+  }
+}
+
+void Widen(ScrollBar& pobjBar, float psngMin, float psngMax) {
+  if (psngMin < pobjBar.Min()) pobjBar.Min(psngMin);
+  if (psngMax > pobjBar.Max()) pobjBar.Max(psngMax);
+}
+
+}  // namespace
+
+Rect ChartFitting::Extent() const {
+  const auto& surface = mobjControl.ChartArea;
+  Rect extent;
+  Extend(extent, surface.ctlImage);
+  Extend(extent, surface.ctlLabel);
+  Extend(extent, surface.lblCount);
+  Extend(extent, surface.ctlHandle);
+  return extent;
+}
+
+// Bend points first: the arcs draw themselves when their ends move.
+void ChartFitting::MoveAll(float psngX, float psngY) {
+  const Workflow& workflow = *mobjControl.Workflow();
+  MoveEach(workflow.Elbows, psngX, psngY);
+  MoveEach(workflow.Transitions, psngX, psngY);
+  MoveEach(workflow.Places, psngX, psngY);
+  MoveEach(workflow.Notations, psngX, psngY);
+}
+
+void ChartFitting::Fit() {
+  const Rect extent = Extent();
+  const float x = -extent.Left, y = -extent.Top;
+  if (mobjControl.Workflow() && (x > 0 || y > 0)) MoveAll(x, y);
+  Widen(mobjControl.HScroll, mobjControl.HScroll.Min(), extent.Right + x);
+  Widen(mobjControl.VScroll, mobjControl.VScroll.Min(), extent.Bottom + y);
+}
+
+void ChartFitting::ExtendScrollRange() {
+  const Rect extent = Extent();
+  Widen(mobjControl.HScroll, extent.Left, extent.Right);
+  Widen(mobjControl.VScroll, extent.Top, extent.Bottom);
+}
+
+}  // namespace vantrel

@@ -1,0 +1,109 @@
+#include "designer/ChartInput.h"
+
+#include <functional>
+#include <utility>
+
+#include "designer/ControlState.h"
+#include "designer/Vantrel.h"
+#include "designer/gestures/DoubleClicks.h"
+#include "designer/gestures/Drops.h"
+#include "designer/gestures/Gesture.h"
+#include "designer/gestures/Hover.h"
+#include "designer/gestures/Keys.h"
+#include "designer/gestures/LabelPlace.h"
+#include "designer/gestures/Presses.h"
+#include "util/MsgBox.h"
+
+namespace vantrel {
+
+namespace {
+
+// Does what an event asks for and shows the user what goes wrong. False when the control is gone by then, and its input with it.
+bool Serve(Vantrel& pobjControl, const std::function<void()>& pServe) {
+  const Ref<Vantrel> control(&pobjControl);
+  const ControlScope scope(pobjControl);
+  try {
+    pServe();
+  } catch (const Error& error) {
+    MsgBox(error.Description);
+  }
+  return static_cast<bool>(control);
+}
+
+void Resized(Vantrel& pobjControl, float psngHeight, float psngWidth) {
+  const auto label = std::dynamic_pointer_cast<Label>(pobjControl.FocusFrame.SelectedControl().Lock());
+  if (label) StoreLabelSize(pobjControl, *label, psngHeight, psngWidth);
+}
+
+bool IsHandled(const PointerInput& pobjInput) { return pobjInput.Button == vntLeftButton || pobjInput.Button == vntRightButton; }
+
+}  // namespace
+
+ChartInput::ChartInput(Vantrel& pobjControl)
+    : mobjControl(pobjControl),
+      mobjResized(
+          pobjControl.FocusFrame.OnResized.Connect([&pobjControl](float height, float width) { Resized(pobjControl, height, width); })) {}
+
+ChartInput::~ChartInput() = default;
+
+void ChartInput::Press(const PointerInput& pobjInput) {
+  if (!IsHandled(pobjInput)) return;
+  if (mobjGesture) {
+    // Another button while one is held means nothing; the same one means that its release was lost.
+    if (pobjInput.Button != vntLeftButton) return;
+    Abandon();
+  }
+  std::shared_ptr<Gesture> gesture;
+  const bool lives = Serve(mobjControl, [&] {
+    mobjControl.FocusFrame.CancelEdit();
+    gesture = PressAt(mobjControl, pobjInput);
+  });
+  if (lives) mobjGesture = gesture;
+}
+
+void ChartInput::Move(const PointerInput& pobjInput) {
+  const auto gesture = mobjGesture;
+  Serve(mobjControl, [&] {
+    if (gesture) {
+      gesture->Move(pobjInput);
+    } else {
+      Hover(mobjControl, pobjInput);
+    }
+  });
+}
+
+void ChartInput::Release(const PointerInput& pobjInput) {
+  if (!mobjGesture || pobjInput.Button != vntLeftButton) return;
+  const auto gesture = std::exchange(mobjGesture, nullptr);
+  Serve(mobjControl, [&] { gesture->Release(pobjInput); });
+}
+
+void ChartInput::DoubleClick(const PointerInput& pobjInput) {
+  if (pobjInput.Button != vntLeftButton) return;
+  Serve(mobjControl, [&] { DoubleClickAt(mobjControl, pobjInput); });
+}
+
+bool ChartInput::Key(std::int16_t pintCode, std::int16_t pintShift) {
+  FocusFrame& frame = mobjControl.FocusFrame;
+  bool isUsed = true;
+  if (frame.IsEditing()) {
+    if (pintCode == kEscapeKey) frame.CancelEdit();
+    return pintCode == kEscapeKey;
+  }
+  if (pintCode == kEscapeKey) Abandon();
+  Serve(mobjControl, [&] { isUsed = (frame.HasFocus() && frame.Key(pintCode)) || PressKey(mobjControl, pintCode, pintShift); });
+  return isUsed;
+}
+
+bool ChartInput::Drop(const PointerInput& pobjInput) {
+  bool isTaken = false;
+  Serve(mobjControl, [&] { isTaken = DropAt(mobjControl, pobjInput); });
+  return isTaken;
+}
+
+void ChartInput::Abandon() {
+  const auto gesture = std::exchange(mobjGesture, nullptr);
+  if (gesture) Serve(mobjControl, [&] { gesture->Cancel(); });
+}
+
+}  // namespace vantrel

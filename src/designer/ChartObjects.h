@@ -1,0 +1,25 @@
+// What selecting, copying and aligning do with objects of any class.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "chart/Geometry.h"
+#include "model/ModelObject.h"
+#include "model/Workflow.h"
+
+namespace vantrel {
+
+/// The key in the workflow's collection; empty for what lies on no chart.
+std::string KeyOf(const ModelObject& pobjObject);
+/// True when the workflow's collection has this very object.
+bool IsPartOf(const ModelObject& pobjObject, const Workflow& pobjWorkflow);
+bool IsSelected(const ModelObject& pobjObject);
+/// Marks it; nothing when the mark is there already.
+void Select(ModelObject& pobjObject, bool pblnOn);
+/// The picture of a place or transition, the box of a note, the handle of a bend point, twips; nothing for other objects.
+std::optional<Rect> BoundsOf(const ModelObject& pobjObject);
+/// Moves the top-left corner; nothing for objects that have none.
+void MoveTo(ModelObject& pobjObject, float psngLeft, float psngTop);
+
+}  // namespace vantrel

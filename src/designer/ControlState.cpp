@@ -1,0 +1,101 @@
+#include "designer/ControlState.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "designer/ControlHost.h"
+#include "designer/Vantrel.h"
+
+namespace vantrel {
+
+namespace {
+
+std::vector<ControlState*>& Controls() {
+  static std::vector<ControlState*> controls;  // oldest first
+  return controls;
+}
+
+const ImageList& OwnImages() {
+  static const ImageList images = ImageList::VantrelImages();
+  return images;
+}
+
+}  // namespace
+
+ControlState::ControlState(Vantrel& pobjControl) : mobjControl(pobjControl) {
+  if (auto* active = Active()) active->Store();
+  mobjControl.ImageList = &OwnImages();
+  Controls().push_back(this);
+  Load();
+}
+
+ControlState::~ControlState() {
+  const bool wasActive = IsActive();
+  std::erase(Controls(), this);
+  if (!wasActive) return;
+  if (Controls().empty()) {
+    Detach();
+  } else {
+    Controls().back()->Load();
+  }
+}
+
+ControlState* ControlState::Active() {
+  const auto& controls = Controls();
+  const auto found = std::find_if(controls.begin(), controls.end(), [](const ControlState* state) { return state->IsActive(); });
+  return found == controls.end() ? nullptr : *found;
+}
+
+bool ControlState::IsActive() const { return gobjVantrel == mobjControl.mobjHost.get(); }
+
+void ControlState::Load() {
+  gobjVantrel = mobjControl.mobjHost.get();
+  gintUseMode = mintUseMode;
+  gintInputPosition = mintInputPosition;
+  gintOutputPosition = mintOutputPosition;
+  LoadChart();
+}
+
+void ControlState::LoadChart() {
+  gobjWorkflow = mobjControl.mWorkflow;
+  gobjImageList = mobjControl.ImageList;
+}
+
+void ControlState::Store() {
+  mintUseMode = gintUseMode;
+  mintInputPosition = gintInputPosition;
+  mintOutputPosition = gintOutputPosition;
+}
+
+void ControlState::Detach() {
+  gobjVantrel = nullptr;
+  gobjWorkflow = nullptr;
+  gobjImageList = &OwnImages();
+  gintUseMode = vntDesign;
+  gintInputPosition = vntLeft;
+  gintOutputPosition = vntRight;
+}
+
+ControlScope::ControlScope(const Vantrel& pobjControl) {
+  ControlState& own = *pobjControl.mobjState;
+  if (own.IsActive()) {
+    own.LoadChart();
+    return;
+  }
+  mobjOwn = &own;
+  if (auto* before = ControlState::Active()) {
+    mobjBefore = before;
+    before->Store();
+  } else {
+    mobjForeign.emplace();
+  }
+  own.Load();
+}
+
+ControlScope::~ControlScope() {
+  if (!mobjOwn.IsSet()) return;
+  if (mobjOwn && mobjOwn->IsActive()) mobjOwn->Store();
+  if (mobjBefore) mobjBefore->Load();
+}
+
+}  // namespace vantrel

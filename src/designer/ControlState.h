@@ -1,0 +1,57 @@
+// A control's share of the process-wide state.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "model/DesignerState.h"
+#include "model/Enumerations.h"
+#include "util/Ref.h"
+
+namespace vantrel {
+
+class Vantrel;
+
+/// Keeps use mode and connector sides of a control while another one's are the process-wide ones. A new control's state is
+/// the process-wide one; when the control whose state that is goes, the next younger one's follows.
+class ControlState : public Referable {
+ public:
+  explicit ControlState(Vantrel& pobjControl);
+  ~ControlState();
+  ControlState(const ControlState&) = delete;
+  ControlState& operator=(const ControlState&) = delete;
+
+  /// The control whose state is the process-wide one, or null.
+  static ControlState* Active();
+  bool IsActive() const;
+  UseModeConstant UseMode() const { return IsActive() ? gintUseMode : mintUseMode; }
+
+  /// Makes it the process-wide one.
+  void Load();
+  /// Keeps what the process-wide one has become.
+  void Store();
+  /// Workflow and pictures, which others may have changed since, are this control's again.
+  void LoadChart();
+  static void Detach();
+
+ private:
+  Vantrel& mobjControl;
+  UseModeConstant mintUseMode = vntDesign;
+  std::int16_t mintInputPosition = vntLeft, mintOutputPosition = vntRight;
+};
+
+/// Stands in every public operation of a control: its state is the process-wide one until the scope ends, then that which was
+/// before. The control may go meanwhile.
+class ControlScope {
+ public:
+  explicit ControlScope(const Vantrel& pobjControl);
+  ~ControlScope();
+  ControlScope(const ControlScope&) = delete;
+  ControlScope& operator=(const ControlScope&) = delete;
+
+ private:
+  std::optional<DesignerStateScope> mobjForeign;  // no control's state was there before
+  Ref<ControlState> mobjOwn, mobjBefore;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,13 @@
+// What "New" shows.
+#pragma once
+
+#include <memory>
+
+#include "model/Workflow.h"
+
+namespace vantrel {
+
+/// A start place, a transition behind it, and an end place that no arc leads to yet. `psngTop` is where they lie, twips.
+std::shared_ptr<Workflow> MakeDefaultWorkflow(float psngTop);
+
+}  // namespace vantrel

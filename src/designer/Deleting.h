@@ -1,0 +1,26 @@
+// Takes objects off the chart, with everything that hangs on them.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "designer/Vantrel.h"
+
+namespace vantrel {
+
+/// Nothing of what is deleted stays in the workflow, on the chart, in the selection or waiting to fire. Copies on the clipboard
+/// can still be pasted.
+class Deleting {
+ public:
+  explicit Deleting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
+
+  /// The selection, or the object of the current element. What a listener has deleted meanwhile is passed over.
+  void DeleteSelection();
+  /// Error 5 when the workflow does not have the object.
+  void DeleteObject(const std::shared_ptr<ModelObject>& pobjObject);
+
+ private:
+  Vantrel& mobjControl;
+};
+
+}  // namespace vantrel

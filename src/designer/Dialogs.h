@@ -1,0 +1,39 @@
+// The windows that the control opens.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/Forward.h"
+
+namespace vantrel {
+
+class ModelObject;
+class Vantrel;
+
+/// What stands here opens nothing: every question is answered with "cancel".
+class Dialogs {
+ public:
+  Dialogs() = default;
+  Dialogs(const Dialogs&) = delete;
+  Dialogs& operator=(const Dialogs&) = delete;
+  virtual ~Dialogs() = default;
+
+  /// The properties of an object, or of the control itself.
+  virtual void ShowProperties(Vantrel& /*pobjControl*/, ModelObject& /*pobjObject*/) {}
+  /// The tokens of a place.
+  virtual void ShowTokens(Vantrel& /*pobjControl*/, Place& /*pobjPlace*/) {}
+  /// See DesignerHost.
+  virtual std::optional<std::string> SelectOption(const std::string& /*pstrPrompt*/, const std::vector<std::string>& /*pcolOptions*/) {
+    return std::nullopt;
+  }
+  virtual void SelectTokens(Workflow& /*pobjWorkflow*/, Transition& /*pobjTransition*/) {}
+  /// The picture at a transition that its roles unfold from.
+  virtual void LoadRolesImage(Vantrel& /*pobjControl*/, Transition& /*pobjTransition*/) {}
+  virtual void DeleteRole(Vantrel& /*pobjControl*/) {}
+  /// The control goes: so do its windows.
+  virtual void CloseAll() {}
+};
+
+}  // namespace vantrel

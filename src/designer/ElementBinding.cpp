@@ -1,0 +1,163 @@
+#include "designer/ElementBinding.h"
+
+#include <algorithm>
+
+#include "designer/ChartObjects.h"
+#include "model/ArcChain.h"
+#include "model/VNTRGlobal.h"
+#include "util/Lookup.h"
+
+namespace vantrel {
+
+namespace {
+
+constexpr std::int16_t kCentred = 2;
+
+// A label that was never fitted, as of a net that was made without a chart, takes the size of its text.
+void SizeLabel(Label& pobjLabel, float& psngWidth, float& psngHeight) {
+  if (psngWidth <= 0 || psngHeight <= 0) {
+    FitLabel(pobjLabel);
+    psngWidth = pobjLabel.Width();
+    psngHeight = pobjLabel.Height();
+  }
+  pobjLabel.Resize(psngWidth, psngHeight);
+}
+
+void EnsureSegment(Arc& pobjArc) {
+  Workflow& workflow = *pobjArc.Workflow;
+  const auto vector = std::make_shared<Vector>();
+  vector->Key = NextKey(workflow.Vectors, "Vector");
+  vector->Arc(&pobjArc);
+  workflow.Vectors.Add(vector, vector->Key);
+}
+
+void Link(const std::vector<Vector*>& pcolChain) {
+  for (std::size_t i = 1; i < pcolChain.size(); ++i) {
+    pcolChain[i - 1]->OutVector = pcolChain[i];
+    pcolChain[i]->InVector = pcolChain[i - 1];
+  }
+  pcolChain.front()->InVector = nullptr;
+  pcolChain.back()->OutVector = nullptr;
+}
+
+Elbow* BendPointBetween(const Workflow& pobjWorkflow, const Vector& pobjBefore, const Vector& pobjBehind) {
+  for (Elbow* elbow : pobjBefore.Elbows()) {
+    if (elbow->OutVector() == &pobjBehind && IsPartOf(*elbow, pobjWorkflow)) return elbow;
+  }
+  return nullptr;
+}
+
+Elbow& NewBendPoint(Workflow& pobjWorkflow, Vector& pobjBefore, Vector& pobjBehind) {
+  const auto elbow = std::make_shared<Elbow>();
+  elbow->Key = NextKey(pobjWorkflow.Elbows, "Elbow");
+  elbow->InVector(&pobjBefore);
+  elbow->OutVector(&pobjBehind);
+  pobjWorkflow.Elbows.Add(elbow, elbow->Key);
+  return *elbow;
+}
+
+}  // namespace
+
+template <class E>
+E& ElementBinding::Renew(ElementFamily<E>& pobjFamily, Ref<E>& pobjMember, const std::string& pstrKey) {
+  if (pobjMember && pobjMember->Surface() == &mobjSurface) pobjMember->Unload();
+  const auto element = pobjFamily.New();
+  element->Tag(pstrKey);
+  pobjMember = element;
+  return *element;
+}
+
+Image& ElementBinding::NewImage(Ref<Image>& pobjMember, const std::string& pstrKey, const PicturePtr& pobjPicture) {
+  Image& image = Renew(mobjSurface.ctlImage, pobjMember, pstrKey);
+  image.Picture(pobjPicture);
+  return image;
+}
+
+Label& ElementBinding::NewLabel(ElementFamily<Label>& pobjFamily, Ref<Label>& pobjMember, const std::string& pstrKey,
+                                const std::string& pstrCaption) {
+  Label& label = Renew(pobjFamily, pobjMember, pstrKey);
+  label.Caption(pstrCaption);
+  label.Alignment(kCentred);
+  return label;
+}
+
+void ElementBinding::BindNode(Node& pobjNode, const PicturePtr& pobjPicture) {
+  Select(pobjNode, false);
+  Image& image = NewImage(pobjNode.Image, pobjNode.Key, pobjPicture);
+  image.MoveTo(pobjNode.Left(), pobjNode.Top());
+  image.Visible(true);
+  NewImage(pobjNode.InConnector, pobjNode.Key, mobjControl.ImageList->Find("InputLeft"));
+  NewImage(pobjNode.OutConnector, pobjNode.Key, mobjControl.ImageList->Find("OutputHorizontal"));
+  Label& caption = NewLabel(mobjSurface.ctlLabel, pobjNode.CaptionLabel, pobjNode.Key, pobjNode.Caption());
+  SizeLabel(caption, pobjNode.CaptionWidth, pobjNode.CaptionHeight);
+}
+
+void ElementBinding::Bind(Place& pobjPlace) {
+  const auto picture = mobjControl.ImageList->Find(pobjPlace.DisabledImageKey);
+  if (!picture) throw Error(vntErrElementNotFound);
+  BindNode(pobjPlace, picture);
+  NewLabel(mobjSurface.lblCount, pobjPlace.CountLabel, pobjPlace.Key, "");
+  pobjPlace.Image->BringToFront();
+}
+
+void ElementBinding::Bind(Transition& pobjTransition) {
+  auto picture = mobjControl.ImageList->Find(pobjTransition.DisabledImageKey);
+  if (!picture) {
+    pobjTransition.DisabledImageKey = "Transition";
+    pobjTransition.EnabledImageKey = "TransitionEnabled";
+    picture = mobjControl.ImageList->Find(pobjTransition.DisabledImageKey);
+    if (!picture) throw Error(vntErrElementNotFound);
+  }
+  BindNode(pobjTransition, picture);
+  pobjTransition.Image->BringToFront();
+}
+
+void ElementBinding::BindLabels(Arc& pobjArc) {
+  const std::string guard = pobjArc.Guard().empty() ? std::string() : "[" + pobjArc.Guard() + "]";
+  Label& caption = NewLabel(mobjSurface.ctlLabel, pobjArc.CaptionLabel, pobjArc.Key, guard);
+  caption.Resize(pobjArc.CaptionWidth(), pobjArc.CaptionHeight());
+  Label& weight = NewLabel(mobjSurface.ctlLabel, pobjArc.WeightLabel, pobjArc.Key, pobjArc.Weight());
+  float width = pobjArc.WeightWidth(), height = pobjArc.WeightHeight();
+  SizeLabel(weight, width, height);
+}
+
+void ElementBinding::BindSegments(const std::vector<Vector*>& pcolChain) {
+  for (Vector* segment : pcolChain) {
+    Line& line = Renew(mobjSurface.ctlLine, segment->LineControl, segment->Key);
+    line.BorderWidth(segment->LineWidth());
+    segment->Draw();
+  }
+}
+
+void ElementBinding::BindBendPoint(Arc& pobjArc, Vector& pobjBefore, Vector& pobjBehind) {
+  Workflow& workflow = *pobjArc.Workflow;
+  Elbow* elbow = BendPointBetween(workflow, pobjBefore, pobjBehind);
+  if (!elbow) elbow = &NewBendPoint(workflow, pobjBefore, pobjBehind);
+  elbow->Selected(false);
+  Image& handle = Renew(mobjSurface.ctlHandle, elbow->Handle, elbow->Key);
+  elbow->CentreHandle(pobjBefore.X2(), pobjBefore.Y2());
+  elbow->Visible(false);
+  handle.BringToFront();
+}
+
+void ElementBinding::Bind(Arc& pobjArc) {
+  Select(pobjArc, false);
+  BindLabels(pobjArc);
+  auto chain = ChainOf(pobjArc);
+  if (chain.empty()) {
+    EnsureSegment(pobjArc);
+    chain = ChainOf(pobjArc);
+  }
+  Link(chain);
+  BindSegments(chain);
+  for (std::size_t i = 1; i < chain.size(); ++i) BindBendPoint(pobjArc, *chain[i - 1], *chain[i]);
+}
+
+void ElementBinding::Bind(Notation& pobjNotation) {
+  Label& label = Renew(mobjSurface.ctlLabel, pobjNotation.TextControl, pobjNotation.Key);
+  Select(pobjNotation, false);
+  pobjNotation.Draw();
+  label.Visible(true);
+}
+
+}  // namespace vantrel

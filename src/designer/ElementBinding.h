@@ -1,0 +1,41 @@
+// Gives the objects of a workflow their elements on the chart.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "designer/Vantrel.h"
+
+namespace vantrel {
+
+/// Costs in proportion to the object alone. Elements that the object already has on this chart go.
+class ElementBinding {
+ public:
+  explicit ElementBinding(Vantrel& pobjControl) : mobjControl(pobjControl), mobjSurface(pobjControl.ChartArea) {}
+
+  /// Error 35601, with nothing bound, when the image list lacks the place's picture.
+  void Bind(Place& pobjPlace);
+  /// A transition with an unknown picture takes the usual ones.
+  void Bind(Transition& pobjTransition);
+  /// Also links the segments of an arc that was stored, and gives it its bend points.
+  void Bind(Arc& pobjArc);
+  void Bind(Notation& pobjNotation);
+
+ private:
+  using PicturePtr = std::shared_ptr<const Picture>;
+
+  void BindNode(Node& pobjNode, const PicturePtr& pobjPicture);
+  void BindLabels(Arc& pobjArc);
+  void BindSegments(const std::vector<Vector*>& pcolChain);
+  void BindBendPoint(Arc& pobjArc, Vector& pobjBefore, Vector& pobjBehind);
+  Image& NewImage(Ref<Image>& pobjMember, const std::string& pstrKey, const PicturePtr& pobjPicture);
+  Label& NewLabel(ElementFamily<Label>& pobjFamily, Ref<Label>& pobjMember, const std::string& pstrKey, const std::string& pstrCaption);
+  template <class E>
+  E& Renew(ElementFamily<E>& pobjFamily, Ref<E>& pobjMember, const std::string& pstrKey);
+
+  Vantrel& mobjControl;
+  ChartSurface& mobjSurface;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,39 @@
+// Names for many new objects of one collection.
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <unordered_set>
+
+#include "util/Lookup.h"
+
+namespace vantrel {
+
+/// Answers like IsNameFree and NextName for the collection as it was, with the names taken since, and looks through it once.
+class FreeNames {
+ public:
+  template <class T>
+  explicit FreeNames(const Collection<T>& pcolItems) : mPrefix(pcolItems.KeyWord()) {
+    for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) Note(item->Name());
+  }
+
+  /// The name itself when it is free, else the next one behind the class word.
+  std::string Take(const std::string& pstrName) {
+    if (!mTaken.contains(pstrName)) return Note(pstrName);
+    if (mLargest == 0x7FFFFFFF) throw Error(vntErrOverflow);
+    return Note(mLargest < 0 ? mPrefix : mPrefix + std::to_string(mLargest + 1));
+  }
+
+ private:
+  std::string Note(const std::string& pstrName) {
+    mTaken.insert(pstrName);
+    mLargest = std::max(mLargest, NameNumber(mPrefix, pstrName));
+    return pstrName;
+  }
+
+  std::string mPrefix;
+  std::unordered_set<std::string> mTaken;
+  std::int32_t mLargest = -1;
+};
+
+}  // namespace vantrel

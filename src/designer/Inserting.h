@@ -1,0 +1,34 @@
+// Inserts places, transitions, notes and bend points.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "designer/Vantrel.h"
+
+namespace vantrel {
+
+/// All at the control's current position; Error 91 without a workflow.
+class Inserting {
+ public:
+  explicit Inserting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
+
+  std::shared_ptr<Place> InsertPlace(const std::string& pstrCaption);
+  std::shared_ptr<Transition> InsertTransition(const std::string& pstrCaption);
+  std::shared_ptr<Notation> AddNotation();
+  /// Splits the segment that is the current element; nothing when none is.
+  void InsertElbow();
+  /// Removes it; nothing when it is the arc's only one.
+  void RemoveElbow();
+
+ private:
+  /// The shown workflow.
+  Workflow& Chart() const;
+  template <class N>
+  std::shared_ptr<N> InsertNode(Collection<N>& pcolNodes, const std::string& pstrCaption);
+  std::shared_ptr<Vector> CurrentSegment() const;
+
+  Vantrel& mobjControl;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,36 @@
+// The selection.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "designer/Vantrel.h"
+
+namespace vantrel {
+
+/// Keeps the marks of the objects in step with the collection. A selection that is the clipboard, too, is left alone when
+/// objects leave the selection: another collection takes its place.
+class Selecting {
+ public:
+  explicit Selecting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
+
+  /// Null clears every mark of the workflow. Nothing without a workflow.
+  void Set(const std::shared_ptr<ObjectCollection>& pcolObjects);
+  void Add(const std::shared_ptr<ModelObject>& pobjObject);
+  void SelectOnly(const std::shared_ptr<ModelObject>& pobjObject);
+  /// Objects leave the workflow.
+  void Forget(const std::vector<std::shared_ptr<ModelObject>>& pcolObjects);
+
+  /// Both empty without a workflow.
+  static std::shared_ptr<ObjectCollection> All(const Workflow* pobjWorkflow);
+  static std::shared_ptr<ObjectCollection> InRectangle(const Workflow* pobjWorkflow, const Rect& pobjArea);
+  /// Adds under the object's key, or under none when that is taken.
+  static void AddTo(ObjectCollection& pcolObjects, const std::shared_ptr<ModelObject>& pobjObject);
+
+ private:
+  void ClearMarks() const;
+
+  Vantrel& mobjControl;
+};
+
+}  // namespace vantrel

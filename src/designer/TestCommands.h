@@ -1,0 +1,28 @@
+// What the control does while a workflow is tested.
+#pragma once
+
+#include "model/Forward.h"
+
+namespace vantrel {
+
+class Vantrel;
+
+/// The commands of the test pop-up, and the running of actions. What stands here does nothing.
+class TestCommands {
+ public:
+  TestCommands() = default;
+  TestCommands(const TestCommands&) = delete;
+  TestCommands& operator=(const TestCommands&) = delete;
+  virtual ~TestCommands() = default;
+
+  virtual void StartTest(Vantrel& /*pobjControl*/) {}
+  virtual void StopTest(Vantrel& /*pobjControl*/) {}
+  virtual void StartTestCase(Vantrel& /*pobjControl*/) {}
+  virtual void AddToken(Vantrel& /*pobjControl*/) {}
+  virtual void RemoveToken(Vantrel& /*pobjControl*/) {}
+  virtual void RunAction(Vantrel& /*pobjControl*/, Transition& /*pobjTransition*/) {}
+  /// A test ended: its cases go.
+  virtual void ForgetCases() {}
+};
+
+}  // namespace vantrel

@@ -1,0 +1,200 @@
+// The designer control: shows one workflow as a chart, lets the user edit and test it, and tells its host what happens.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "chart/ChartSurface.h"
+#include "designer/ChartInput.h"
+#include "designer/Dialogs.h"
+#include "designer/FocusFrame.h"
+#include "designer/ScrollBar.h"
+#include "designer/SelectionRectangle.h"
+#include "designer/TestCommands.h"
+#include "model/DesignerState.h"
+#include "model/Workflow.h"
+#include "persistence/VNTRDB.h"
+#include "toolkit/Toolkit.h"
+
+namespace vantrel {
+
+class ControlHost;
+class ControlState;
+class CopiedArcs;
+class PopupMenus;
+
+/// What a control's selection and clipboard hold: model objects under their keys.
+using ObjectCollection = Collection<ModelObject>;
+
+/// A control is a plain object; a view (the Qt widget, or a test) shows its parts and feeds Input. Several may live in one
+/// process: each keeps its own state, and makes it the process-wide one while it is called. For one thread.
+///
+/// Fields may be read and written by the host without side effects. Operations throw Error as they say; what users do by mouse
+/// and keyboard never throws: its errors are shown in message boxes.
+class Vantrel final : public ModelObject {
+ public:
+  /// The toolkit must outlive the control. The newest control's state is the process-wide one until another is entered.
+  explicit Vantrel(Toolkit& pobjToolkit);
+  ~Vantrel() override;
+
+  const vantrel::ImageList* ImageList;  ///< VantrelImages at first; never null
+  const vantrel::ImageList* RolesImageList = nullptr;
+  ChartSurface ChartArea;
+  vantrel::FocusFrame FocusFrame;
+  vantrel::SelectionRectangle MultiSelect;  ///< the rubber band
+  ScrollBar HScroll, VScroll;
+  ChartInput Input;
+  bool MultiSelectOn = false;               ///< a selection made with the rubber band is still current
+  float CurrentX = 200, CurrentY = 200;     ///< where the next object goes, twips
+  bool RefreshOn = true;                    ///< false while the chart is being built
+  bool mblnDirty = false;                   ///< what Dirty reads; writing it raises no event
+  std::shared_ptr<vantrel::VNTRDB> VNTRDB;  ///< offered to the host; reads embedded workflows
+  bool CaseTestingEnabled = false;          ///< GetProperties offers KeepHistory and CaseTracking, too
+  bool EnablePopups = false, PropertyPopupEnabled = false;
+  std::shared_ptr<vantrel::Object> DragObject;          ///< what the host drags over the chart
+  std::shared_ptr<ObjectCollection> Clipboard;          ///< never null unless a host makes it so; outlives workflow changes
+  std::shared_ptr<vantrel::Dialogs> Dialogs;            ///< never null; does nothing at first
+  std::shared_ptr<vantrel::TestCommands> TestCommands;  ///< never null; does nothing at first
+
+  std::string Class() const override { return "VNTR.Vantrel.1"; }
+  std::string NameText() const override { return "Vantrel"; }
+  std::string Name() const { return "Vantrel"; }
+
+  /// Shows a workflow, or none: the only way in which a chart is built. The control shares it with the host.
+  const std::shared_ptr<vantrel::Workflow>& Workflow() const { return mWorkflow; }
+  void Workflow(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow);
+  UseModeConstant UseMode() const;
+  void UseMode(UseModeConstant pintMode);
+  static std::string UseModeName(std::int32_t plngMode);
+  bool Dirty() const { return mblnDirty; }
+  /// Raises OnDirtyChange, also when unchanged.
+  void Dirty(bool pblnDirty);
+  /// The workflow's; false without one. Setting needs a workflow (Error 91).
+  bool ShowWeights() const;
+  void ShowWeights(bool pblnOn);
+  bool ShowGuards() const;
+  void ShowGuards(bool pblnOn);
+  Color BackColor() const { return mBackColor; }
+  void BackColor(Color plngColor);
+  RunStyleConstant RunStyle() const { return mRunStyle; }
+  void RunStyle(RunStyleConstant pStyle);
+  bool LockControls() const { return mblnLockControls; }
+  void LockControls(bool pblnOn);
+  bool ContentsEnabled() const { return mblnContentsEnabled; }
+  void ContentsEnabled(bool pblnOn) { mblnContentsEnabled = pblnOn; }
+  bool RestrictTesting() const { return mblnRestrictTesting; }
+  void RestrictTesting(bool pblnOn);
+  const std::shared_ptr<vantrel::Object>& CurrentObject() const { return mobjCurrentObject; }
+  void CurrentObject(const std::shared_ptr<vantrel::Object>& pobjObject) { mobjCurrentObject = pobjObject; }
+  /// The element that the user clicked last: making it current selects its object and frames it.
+  const Ref<Element>& CurrentControl() const { return mobjCurrentControl; }
+  void CurrentControl(const Ref<Element>& pobjElement);
+  /// Never null. Setting null clears every mark.
+  const std::shared_ptr<ObjectCollection>& Selection() const { return mcolSelection; }
+  void Selection(const std::shared_ptr<ObjectCollection>& pcolObjects);
+
+  /// The model object that a key leads to, or null for an unknown class word. Error 5 for a key that is not there.
+  std::shared_ptr<ModelObject> GetVNTRObject(const std::string& pstrKey) const;
+  std::shared_ptr<PropertyCollection> GetProperties() override;
+  void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
+
+  /// Makes and shows the default workflow: a start place, a transition behind it, an end place.
+  std::shared_ptr<vantrel::Workflow> NewWorkflow();
+  void Clear();
+  /// Redraws everything; nothing in run mode. Errors end it quietly.
+  void Refresh();
+  void Reset();
+  /// Lets the user choose the background colour.
+  void SetBackcolor();
+  /// Moves everything to where no coordinate is negative, and fits the scroll bars.
+  void FitChart();
+  /// Widens the scroll bars to objects that were moved.
+  void ExtendScrollRange();
+  /// Gives an object of the workflow its elements.
+  void BindPlace(Place& pobjPlace);
+  void BindTransition(Transition& pobjTransition);
+  void BindArc(Arc& pobjArc);
+  void BindNotation(Notation& pobjNotation);
+
+  std::shared_ptr<Place> InsertPlace(const std::string& pstrCaption = {});
+  std::shared_ptr<Transition> InsertTransition(const std::string& pstrCaption = {});
+  /// Null, with a message, when the rules forbid it.
+  std::shared_ptr<Arc> InsertArc(const std::shared_ptr<ModelObject>& pobjFrom, const std::shared_ptr<ModelObject>& pobjTo);
+  void StartArcInsert();
+  std::shared_ptr<Notation> AddNotation();
+  void InsertElbow();
+  void RemoveElbow();
+  void Delete();
+  void DeleteObject(const std::shared_ptr<ModelObject>& pobjObject);
+
+  /// The objects wholly inside the rubber band.
+  std::shared_ptr<ObjectCollection> GetSelections() const;
+  std::shared_ptr<ObjectCollection> SelectAll();
+  bool InSelections(const std::shared_ptr<ModelObject>& pobjObject) const;
+  void Copy();
+  void Paste();
+  void AlignSelection(const std::string& pstrDirection);
+
+  /// While true, the next press on an object image completes an arc.
+  bool IsInsertingArc() const { return mblnInsertingArc; }
+  /// Ends the arc gesture: flag, rubber-band line and pointer.
+  void EndArcInsert();
+  /// The design pop-up, with its entries enabled for the situation: for pop-ups as well as for a menu bar.
+  MenuItem& DesignMenu();
+  MenuItem& TestMenu();
+  MenuItem& RoleMenu();
+  void ShowDesignMenu();
+  void ShowTestMenu();
+  /// Opens the properties dialog, when PropertyPopupEnabled.
+  void ShowObjectProperties();
+  /// The control was given this size, twips: lays out chart and scroll bars.
+  void Resize(float psngWidth, float psngHeight);
+  Toolkit& Tools() const { return mobjToolkit; }
+
+  Event<const std::string&, const std::shared_ptr<Transition>&> OnRunCommand;  ///< an action for the host to run
+  Event<const std::shared_ptr<vantrel::Object>&, std::int16_t, std::int16_t, float, float>
+      OnObjectDragDrop;                 ///< pobjDragObject, Button, Shift, X, y: let go over the background
+  Event<const std::string&> OnMessage;  ///< never raised
+  Event<const std::shared_ptr<Transition>&> OnTransitionDblClick;
+  Event<const std::shared_ptr<Place>&, const std::shared_ptr<Token>&> OnTokenAdded;
+  Event<const std::shared_ptr<vantrel::Object>&, const std::shared_ptr<vantrel::Object>&> OnObjectDropped;  ///< target, source
+  Event<const std::shared_ptr<Transition>&, const std::string&> OnContentsClick;
+  /// The object selected or right-clicked; the control itself for the background.
+  Event<ModelObject&> OnSelected, OnRightClick;
+  Event<const std::shared_ptr<ObjectCollection>&> OnPasted;
+  Event<const std::shared_ptr<Arc>&> OnArcInserted;
+  Event<UseModeConstant> OnUseModeChange;
+  Event<bool> OnDirtyChange;
+
+ private:
+  friend class ArcInserting;
+  friend class ChartBuilder;
+  friend class ControlHost;
+  friend class ControlProperties;
+  friend class ControlScope;
+  friend class ControlState;
+  friend class Copying;
+  friend class CurrentElement;
+  friend class Pasting;
+  friend class Selecting;
+
+  Toolkit& mobjToolkit;
+  std::unique_ptr<ControlHost> mobjHost;    // what the model reaches as gobjVantrel
+  std::unique_ptr<ControlState> mobjState;  // this control's share of the process-wide state
+  std::shared_ptr<PopupMenus> mobjMenus;    // shared: an entry of a menu that is open may end the control
+  std::unique_ptr<CopiedArcs> mobjCopied;
+  std::shared_ptr<vantrel::Workflow> mWorkflow;
+  Subscription mTokenAdded;
+  std::shared_ptr<ObjectCollection> mcolSelection;
+  Ref<Element> mobjCurrentControl;
+  std::shared_ptr<vantrel::Object> mobjCurrentObject;
+  Color mBackColor = kWhite;
+  RunStyleConstant mRunStyle = vntSilent;
+  bool mblnLockControls = false;
+  bool mblnContentsEnabled = false;
+  bool mblnRestrictTesting = false;
+  bool mblnInsertingArc = false;
+};
+
+}  // namespace vantrel

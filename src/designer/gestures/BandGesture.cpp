@@ -1,0 +1,33 @@
+#include "designer/gestures/BandGesture.h"
+
+#include <algorithm>
+
+#include "designer/Vantrel.h"
+#include "designer/gestures/Hover.h"
+
+namespace vantrel {
+
+BandGesture::BandGesture(Vantrel& pobjControl, const PointerInput& pobjPress)
+    : mobjControl(&pobjControl), msngX(pobjPress.X), msngY(pobjPress.Y) {}
+
+void BandGesture::Move(const PointerInput& pobjInput) {
+  if (!mobjControl) return;
+  ShowChartPointer(*mobjControl);
+  if (mobjControl->IsInsertingArc() || !mobjControl->Selection()->IsEmpty()) return;
+  mobjControl->MultiSelect.Area(
+      {std::min(msngX, pobjInput.X), std::min(msngY, pobjInput.Y), std::max(msngX, pobjInput.X), std::max(msngY, pobjInput.Y)});
+  mobjControl->MultiSelect.Visible(true);
+}
+
+void BandGesture::Release(const PointerInput&) {
+  if (!mobjControl || !mobjControl->MultiSelect.Visible()) return;
+  if (mobjControl->Workflow()) mobjControl->Selection(mobjControl->GetSelections());
+  Cancel();
+  if (mobjControl) mobjControl->MultiSelectOn = !mobjControl->Selection()->IsEmpty();
+}
+
+void BandGesture::Cancel() {
+  if (mobjControl) mobjControl->MultiSelect.Visible(false);
+}
+
+}  // namespace vantrel

@@ -1,0 +1,25 @@
+// Drawing a rectangle round objects to select them.
+#pragma once
+
+#include "designer/gestures/Gesture.h"
+#include "util/Ref.h"
+
+namespace vantrel {
+
+class Vantrel;
+
+/// From a left press on the background. Does nothing while something is selected, such as the arc that the press took.
+class BandGesture final : public Gesture {
+ public:
+  BandGesture(Vantrel& pobjControl, const PointerInput& pobjPress);
+
+  void Move(const PointerInput& pobjInput) override;
+  void Release(const PointerInput& pobjInput) override;
+  void Cancel() override;
+
+ private:
+  Ref<Vantrel> mobjControl;
+  float msngX, msngY;  // of the press
+};
+
+}  // namespace vantrel

@@ -1,0 +1,40 @@
+// Dragging a connector to another side of its object.
+#pragma once
+
+#include <cstdint>
+
+#include "chart/Image.h"
+#include "designer/gestures/Gesture.h"
+#include "model/Node.h"
+#include "util/Ref.h"
+
+namespace vantrel {
+
+class Vantrel;
+
+/// The side of an image (ConnectorPosition) that a point is near enough to for a connector to be dropped there; 0 for none.
+std::int16_t SideAt(const Image& pobjImage, float psngX, float psngY);
+
+/// From a left press on a connector. The connector follows the mouse, whose pointer is a hand where it can be dropped; then it
+/// snaps to its side, the new one or the old one.
+class ConnectorGesture final : public Gesture {
+ public:
+  ConnectorGesture(Vantrel& pobjControl, const std::shared_ptr<Node>& pobjNode, Image& pobjConnector, const PointerInput& pobjPress);
+
+  void Move(const PointerInput& pobjInput) override;
+  void Release(const PointerInput& pobjInput) override;
+  void Cancel() override;
+
+ private:
+  bool IsAlive() const;
+  void Drop(Node& pobjNode, std::int16_t pintSide) const;
+  void Snap() const;
+
+  Ref<Vantrel> mobjControl;
+  Ref<Node> mobjNode;
+  Ref<Image> mobjConnector;
+  float msngX, msngY;  // of the press, inside the connector
+  bool mblnMoved = false;
+};
+
+}  // namespace vantrel

@@ -1,0 +1,42 @@
+#include "designer/gestures/DoubleClicks.h"
+
+#include "designer/Dialogs.h"
+#include "designer/Vantrel.h"
+#include "designer/gestures/ElementUnder.h"
+#include "designer/gestures/Hover.h"
+
+namespace vantrel {
+
+namespace {
+
+void OpenObject(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjObject) {
+  if (const auto transition = std::dynamic_pointer_cast<Transition>(pobjObject)) {
+    pobjControl.OnTransitionDblClick.Raise(transition);
+  } else if (const auto place = std::dynamic_pointer_cast<Place>(pobjObject); place && IsTesting(pobjControl)) {
+    const auto dialogs = pobjControl.Dialogs;
+    dialogs->ShowTokens(pobjControl, *place);
+  }
+}
+
+void EditLabel(Vantrel& pobjControl, Element& pobjLabel) {
+  if (pobjControl.LockControls()) return;
+  FocusFrame& frame = pobjControl.FocusFrame;
+  if (!(frame.SelectedControl() == &pobjLabel)) frame.SelectedControl(&pobjLabel);
+  frame.Visible(true);
+  frame.Edit();
+}
+
+}  // namespace
+
+void DoubleClickAt(Vantrel& pobjControl, const PointerInput& pobjInput) {
+  if (pobjControl.FocusFrame.HandleAt(pobjInput.X, pobjInput.Y) >= 0) return;
+  Element* const element = ElementUnder(pobjControl, pobjInput.X, pobjInput.Y);
+  if (!element || element->Family() == ctlHandleFamily) return;
+  if (element->Family() == ctlLabelFamily && pobjControl.UseMode() == vntDesign) {
+    EditLabel(pobjControl, *element);
+  } else {
+    OpenObject(pobjControl, ObjectOf(pobjControl, *element));
+  }
+}
+
+}  // namespace vantrel

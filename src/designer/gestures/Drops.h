@@ -1,0 +1,14 @@
+// What the host drags is let go over the chart.
+#pragma once
+
+#include "designer/PointerInput.h"
+
+namespace vantrel {
+
+class Vantrel;
+
+/// On the background ObjectDragDrop is raised; on a transition, where ContentsEnabled lets images take objects, ObjectDropped.
+/// False when nothing takes the control's DragObject. The control may be gone behind it.
+bool DropAt(Vantrel& pobjControl, const PointerInput& pobjInput);
+
+}  // namespace vantrel

@@ -1,0 +1,26 @@
+// Which element a mouse event belongs to.
+#pragma once
+
+#include <memory>
+
+#include "chart/Element.h"
+#include "model/ModelObject.h"
+
+namespace vantrel {
+
+class Vantrel;
+
+/// The object image, label or bend-point handle nearest to the front under a point (twips), or null: the background. Token
+/// counts and lines let the pointer through.
+Element* ElementUnder(const Vantrel& pobjControl, float psngX, float psngY);
+
+/// The model object that an element shows, or null when the workflow has no such object.
+std::shared_ptr<ModelObject> ObjectOf(const Vantrel& pobjControl, const Element& pobjElement);
+
+/// False for none, and for one that was taken off its chart.
+template <class E>
+bool IsOnChart(const Ref<E>& pobjElement) {
+  return pobjElement && pobjElement->Surface();
+}
+
+}  // namespace vantrel

@@ -1,0 +1,22 @@
+#include "designer/gestures/Moving.h"
+
+#include "designer/ChartObjects.h"
+
+namespace vantrel {
+
+void MovingGroup::Add(const std::shared_ptr<ModelObject>& pobjObject) {
+  if (const auto bounds = BoundsOf(*pobjObject)) mcolMembers.push_back({pobjObject, bounds->Left, bounds->Top});
+}
+
+bool MovingGroup::MoveTo(const Workflow& pobjWorkflow, float psngX, float psngY) const {
+  bool moves = false;
+  for (const Member& member : mcolMembers) {
+    const auto object = member.Item.lock();
+    if (!object || !IsPartOf(*object, pobjWorkflow)) continue;
+    vantrel::MoveTo(*object, member.Left + psngX, member.Top + psngY);
+    moves = true;
+  }
+  return moves;
+}
+
+}  // namespace vantrel

@@ -1,0 +1,45 @@
+#include "qt/LabelPainter.h"
+
+#include <QColor>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+#include "chart/Label.h"
+#include "qt/Conversions.h"
+
+namespace vantrel {
+
+namespace {
+
+// Two sides of a frame, each as a filled strip: no pen can straddle the box's edge.
+void PaintCorner(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth, const QColor& pobjColor, bool pblnTopLeft) {
+  const double x = pblnTopLeft ? pobjBox.left() : pobjBox.right() - pdblWidth;
+  const double y = pblnTopLeft ? pobjBox.top() : pobjBox.bottom() - pdblWidth;
+  pobjPainter.fillRect(QRectF(pobjBox.left(), y, pobjBox.width(), pdblWidth), pobjColor);
+  pobjPainter.fillRect(QRectF(x, pobjBox.top(), pdblWidth, pobjBox.height()), pobjColor);
+}
+
+// Half transparent black and white make an edge on any background.
+void PaintBevel(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth, bool pblnSunken) {
+  const QColor shade(0, 0, 0, 110), light(255, 255, 255, 200);
+  PaintCorner(pobjPainter, pobjBox, pdblWidth, pblnSunken ? light : shade, false);
+  PaintCorner(pobjPainter, pobjBox, pdblWidth, pblnSunken ? shade : light, true);
+}
+
+}  // namespace
+
+void PaintLabelBox(QPainter& pobjPainter, const Label& pobjLabel, const QRectF& pobjBox, double pdblScale) {
+  const bool hasBorder = pobjLabel.BorderStyle() != 0, isRaised = pobjLabel.Appearance() == 1;
+  if (pobjLabel.BackStyle() == 1) pobjPainter.fillRect(pobjBox, ToQColor(pobjLabel.BackColor()));
+  const double line = std::max(1.0, std::round(pdblScale));
+  if (isRaised) {
+    PaintBevel(pobjPainter, pobjBox, std::max(line, std::round(1.5 * pdblScale)), hasBorder);
+  } else if (hasBorder) {
+    const QColor color = ToQColor(pobjLabel.ForeColor());
+    PaintCorner(pobjPainter, pobjBox, line, color, false);
+    PaintCorner(pobjPainter, pobjBox, line, color, true);
+  }
+}
+
+}  // namespace vantrel

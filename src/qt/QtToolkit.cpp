@@ -1,0 +1,84 @@
+#include "qt/QtToolkit.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QCursor>
+#include <QEventLoop>
+#include <QFontDatabase>
+#include <QMenu>
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "qt/Conversions.h"
+#include "qt/PopupMenu.h"
+
+namespace vantrel {
+
+namespace {
+
+constexpr qint64 kProcessInterval = 20;  // milliseconds; whoever asks in a loop over a whole chart must not stop for each object
+
+// A dialog belongs to its owner as well, which may die while the dialog is open.
+template <class Widget>
+class OwnedWidget {
+ public:
+  explicit OwnedWidget(Widget* pobjWidget) : mobjWidget(pobjWidget) {}
+  ~OwnedWidget() { delete mobjWidget.data(); }
+  OwnedWidget(const OwnedWidget&) = delete;
+  OwnedWidget& operator=(const OwnedWidget&) = delete;
+  Widget* operator->() const { return mobjWidget.data(); }
+  explicit operator bool() const { return !mobjWidget.isNull(); }
+  Widget& operator*() const { return *mobjWidget; }
+
+ private:
+  QPointer<Widget> mobjWidget;
+};
+
+}  // namespace
+
+QtToolkit::QtToolkit(QWidget* pobjOwner) : mobjOwner(pobjOwner) {
+  static const auto before = InstallMsgBoxPresenter(ShowMessageBox);
+  mobjProcessed.start();
+}
+
+QtToolkit::~QtToolkit() { Pointer(vntPointerDefault); }
+
+void QtToolkit::ShowPopup(MenuItem& pobjMenu) {
+  const OwnedWidget<QMenu> menu(new QMenu(mobjOwner));
+  FillMenu(*menu, pobjMenu);
+  QAction* const chosen = menu->exec(std::exchange(PopupPosition, std::nullopt).value_or(QCursor::pos()));
+  if (!chosen || !menu || !chosen->data().isValid()) return;
+  static_cast<MenuItem*>(chosen->data().value<void*>())->OnClick.Raise();
+}
+
+void QtToolkit::Pointer(PointerShape pShape) {
+  const bool wanted = pShape == vntPointerHourglass;
+  if (wanted != std::exchange(mblnHourglass, wanted)) {
+    if (wanted) QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (!wanted) QApplication::restoreOverrideCursor();
+  }
+  if (!wanted && OnPointer) OnPointer(pShape);
+}
+
+Color QtToolkit::SelectColor(Color plngColor) {
+  const OwnedWidget<QColorDialog> dialog(new QColorDialog(ToQColor(plngColor), mobjOwner));
+  const bool isAccepted = dialog->exec() == QDialog::Accepted;
+  return isAccepted && dialog ? ToColor(dialog->selectedColor()) : plngColor;
+}
+
+void QtToolkit::ProcessEvents() {
+  if (mobjProcessed.elapsed() < kProcessInterval) return;
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  mobjProcessed.start();
+}
+
+std::vector<std::string> QtToolkit::FontNames() const {
+  const QStringList families = QFontDatabase::families();
+  std::vector<std::string> names;
+  names.reserve(static_cast<std::size_t>(families.size()));
+  for (const QString& family : families) names.push_back(family.toStdString());
+  return names;
+}
+
+}  // namespace vantrel

@@ -1,0 +1,51 @@
+#include "qt/ScrollLink.h"
+
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "designer/ScrollBar.h"
+
+namespace vantrel {
+
+namespace {
+
+constexpr float kKept = 0.1F;      // of the view, between its edge and the contents' at the ends of the range
+constexpr float kSteps = 20;       // of the arrows, to a view
+constexpr float kFarthest = 1e9F;  // what the window's bar can hold
+
+int Twips(float psngTwips) { return static_cast<int>(std::lround(std::clamp(psngTwips, -kFarthest, kFarthest))); }
+
+}  // namespace
+
+ScrollLink::ScrollLink(ScrollBar& pobjBar, QScrollBar& pobjWindowBar, std::function<void()> pOnMoved)
+    : mobjBar(pobjBar), mobjWindowBar(pobjWindowBar), mOnMoved(std::move(pOnMoved)) {
+  mobjRange = mobjBar.OnRange.Connect([this] { Show(); });
+  mobjChange = mobjBar.OnChange.Connect([this] {
+    Show();
+    mOnMoved();
+  });
+  QObject::connect(&mobjWindowBar, &QScrollBar::valueChanged, &mobjWindowBar,
+                   [this](int value) { mobjBar.Value(static_cast<float>(value)); });
+}
+
+void ScrollLink::Range(float psngLow, float psngHigh, float psngInView) {
+  msngLow = psngLow;
+  msngHigh = psngHigh;
+  msngInView = psngInView;
+  Show();
+}
+
+void ScrollLink::Show() {
+  const QSignalBlocker blocker(mobjWindowBar);
+  const float low = std::min({msngLow, mobjBar.Min()}) - msngInView * (1 - kKept),
+              high = std::max({msngHigh, mobjBar.Max()}) - msngInView * kKept;
+  mobjWindowBar.setRange(Twips(std::min(low, mobjBar.Value())), Twips(std::max(high, mobjBar.Value())));
+  mobjWindowBar.setPageStep(std::max(1, Twips(msngInView)));
+  mobjWindowBar.setSingleStep(std::max(1, Twips(msngInView / kSteps)));
+  mobjWindowBar.setValue(Twips(mobjBar.Value()));
+}
+
+}  // namespace vantrel

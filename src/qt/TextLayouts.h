@@ -1,0 +1,64 @@
+// Texts of labels, laid out once.
+#pragma once
+
+#include <QFont>
+#include <QPointF>
+#include <QStaticText>
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+#include "chart/Font.h"
+#include "chart/Label.h"
+
+namespace vantrel {
+
+/// A text laid out for a label's box, in chart pixels.
+struct TextLayout {
+  QStaticText Text;
+  QFont Font;
+  QPointF Inset;                            ///< of the text from the box's corner
+  Qt::Alignment Alignment = Qt::AlignLeft;  ///< for painters that lay the text out themselves
+  bool IsClipped = false;                   ///< reaches beyond the box
+  bool IsDecorated = false;                 ///< underlined or struck out: QStaticText draws that at wrong places when scaled
+};
+
+/// Lays out the texts of labels and remembers them: drawing text costs more than anything else on a chart. Labels alike in
+/// text, font and size share one layout; those not asked for any more are forgotten after a while.
+class TextLayouts {
+ public:
+  /// Valid until the next call.
+  const TextLayout& Of(const Label& pobjLabel);
+
+ private:
+  static constexpr std::size_t kMost = 20000;  // of a generation; there are two
+
+  struct KeyView {
+    std::string_view Caption;
+    const Font& Face;
+    float Width, Height;
+    std::int16_t Alignment;
+  };
+  struct Key {
+    std::string Caption;
+    Font Face;
+    float Width, Height;
+    std::int16_t Alignment;
+    operator KeyView() const { return {Caption, Face, Width, Height, Alignment}; }  // NOLINT(google-explicit-constructor)
+  };
+  struct Hash {
+    using is_transparent = void;
+    std::size_t operator()(const KeyView& pobjKey) const;
+  };
+  struct Same {
+    using is_transparent = void;
+    bool operator()(const KeyView& pobjA, const KeyView& pobjB) const;
+  };
+  using Generation = std::unordered_map<Key, TextLayout, Hash, Same>;
+
+  Generation mYoung, mOld;
+};
+
+}  // namespace vantrel
