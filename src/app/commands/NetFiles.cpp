@@ -23,6 +23,7 @@ std::vector<NetFile> FilesIn(const std::string& pstrFolder) {
   if (paths.empty()) return {{pstrFolder, "no file NAME.pnml in this folder"}};
   std::sort(paths.begin(), paths.end());
   std::vector<NetFile> files;
+  files.reserve(paths.size());
   for (std::string& path : paths) files.push_back({std::move(path), {}});
   return files;
 }

@@ -69,9 +69,9 @@ void SqliteSession::OpenOrMake(const std::string& pstrAddress) {
 void SqliteSession::OpenFile(const std::string& pstrName, int plngFlags) {
   const int result = sqlite3_open_v2(pstrName.c_str(), &mobjDatabase, plngFlags | kFlags, nullptr);
   if (result != SQLITE_OK) {
-    const Error error = SqliteError(mobjDatabase, result, mstrPath);
+    const std::string text = SqliteError(mobjDatabase, result, mstrPath).Description;
     Close();
-    throw error;
+    throw Error(vntErrDatabase, text);
   }
   Configure();
 }
