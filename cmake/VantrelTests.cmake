@@ -8,12 +8,13 @@ if(NOT vantrel_nets AND IS_DIRECTORY ${PROJECT_SOURCE_DIR}/../shared/nets)
   get_filename_component(vantrel_nets ${PROJECT_SOURCE_DIR}/../shared/nets ABSOLUTE)
 endif()
 
-# vantrel_add_test(<folder> SOURCES <file>... [LINKS <target>...])
+# vantrel_add_test(<folder> SOURCES <file>... [LINKS <target>...] [PRECOMPILE <header>...])
 #
 # One GoogleTest program for a folder of tests/. Its tests see the nets of the field in the folder that the environment variable
-# VANTREL_NETS names, and skip where that is not set. tests/ itself is an include directory: "support/Nets.h".
+# VANTREL_NETS names, and skip where that is not set. tests/ itself is an include directory: "support/Nets.h". PRECOMPILE: further
+# heavy headers that most sources include.
 function(vantrel_add_test folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS;PRECOMPILE")
   vantrel_refuse_unknown("${arg_UNPARSED_ARGUMENTS}")
   string(REPLACE "/" "_" name ${folder})
   set(target vantrel_test_${name})
@@ -24,11 +25,14 @@ function(vantrel_add_test folder)
   # A test runs once for each time it is compiled: optimising it costs more than it gives. And half of what is left is the test library,
   # which is read once for all of them.
   target_compile_options(${target} PRIVATE -O0)
+  set(testing <gmock/gmock.h> <gtest/gtest.h> <memory> <string> <vector>)
   get_property(first GLOBAL PROPERTY VANTREL_FIRST_TEST)
-  if(first)
+  if(arg_PRECOMPILE)
+    target_precompile_headers(${target} PRIVATE ${testing} ${arg_PRECOMPILE})
+  elseif(first)
     target_precompile_headers(${target} REUSE_FROM ${first})
   else()
-    target_precompile_headers(${target} PRIVATE <gmock/gmock.h> <gtest/gtest.h> <memory> <string> <vector>)
+    target_precompile_headers(${target} PRIVATE ${testing})
     set_property(GLOBAL PROPERTY VANTREL_FIRST_TEST ${target})
   endif()
 

@@ -2,7 +2,8 @@
 # Debian packages, read by ./run and ./test.
 
 # To build and run the program.
-run_packages=(g++ cmake ninja-build ccache libpugixml-dev libcli11-dev libsqlite3-dev libpq-dev)
+run_packages=(g++ cmake ninja-build ccache libpugixml-dev libcli11-dev libsqlite3-dev libpq-dev
+  qt6-base-dev qt6-svg-dev libqt6svg6 fonts-liberation2)
 
 # On top of these, to test it.
 test_packages=(
@@ -11,4 +12,5 @@ test_packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   python3-minimal
   postgresql
+  xvfb xauth xdotool openbox x11-apps
 )
