@@ -18,6 +18,9 @@
 #include "app/commands/PlayCommand.h"
 #include "app/commands/SampleCommand.h"
 #include "app/commands/ShowCommand.h"
+#if VANTREL_HAS_QT
+#include "app/commands/DrawCommand.h"
+#endif
 
 namespace vantrel {
 
@@ -32,6 +35,9 @@ Commands AllCommands() {
   commands.push_back(std::make_unique<ListCommand>());
   commands.push_back(std::make_unique<ShowCommand>());
   commands.push_back(std::make_unique<ExportCommand>());
+#if VANTREL_HAS_QT
+  commands.push_back(std::make_unique<DrawCommand>());
+#endif
   commands.push_back(std::make_unique<DeleteCommand>());
   commands.push_back(std::make_unique<CopyCommand>());
   commands.push_back(std::make_unique<DbCommand>());
