@@ -9,7 +9,8 @@ set(CMAKE_FIND_PACKAGE_TARGETS_GLOBAL ON)
 # Makes the library vantrel_<folder>, alias vantrel::<folder>; a slash in the folder's name becomes an underscore. Headers are
 # included with the folder in front: "model/Place.h". LINKS are what the headers need, PRIVATE_LINKS what the sources alone need.
 # PRECOMPILE: heavy headers that most sources include, read once where this tree is built for itself; each source includes what it needs
-# all the same. PACKAGES are found with find_package, also by the projects that use the installed library. INTERNAL: neither installed nor exported.
+# all the same. PACKAGES are found with find_package, also by the projects that use the installed library: with any, it is a
+# component of the package that is loaded apart from the core. INTERNAL: neither installed nor exported.
 function(vantrel_add_library folder)
   cmake_parse_arguments(PARSE_ARGV 1 arg "INTERNAL" "" "SOURCES;HEADERS;LINKS;PACKAGES;PRIVATE_LINKS;PRECOMPILE")
   vantrel_refuse_unknown("${arg_UNPARSED_ARGUMENTS}")
@@ -38,12 +39,21 @@ function(vantrel_add_library folder)
   endif()
 
   if(NOT arg_INTERNAL)
-    install(TARGETS ${target} EXPORT VantrelTargets
+    # The core is one set of exported targets; a library that stands on the packages of others is a set of its own, which is read only where
+    # those packages are.
+    set(export VantrelTargets)
+    if(arg_PACKAGES)
+      set(export Vantrel_${name}Targets)
+      set_property(GLOBAL APPEND PROPERTY VANTREL_ADAPTERS ${name})
+      set_property(GLOBAL PROPERTY VANTREL_PACKAGES_${name} ${arg_PACKAGES})
+    else()
+      set_property(GLOBAL APPEND PROPERTY VANTREL_CORE ${name})
+    endif()
+    install(TARGETS ${target} EXPORT ${export}
       ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
       LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT library
       FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vantrel COMPONENT library)
     set_property(GLOBAL APPEND PROPERTY VANTREL_EXPORTED ${target})
-    set_property(GLOBAL APPEND PROPERTY VANTREL_PACKAGES ${arg_PACKAGES})
   endif()
 endfunction()
 
@@ -58,27 +68,34 @@ function(vantrel_add_program)
   install(TARGETS vantrel RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT program)
 endfunction()
 
-# What `find_package(Vantrel)` reads. Call it after the last folder.
+# What `find_package(Vantrel)` reads, and the tables that a host's database needs. Call it after the last folder.
 function(vantrel_install_package)
   get_property(targets GLOBAL PROPERTY VANTREL_EXPORTED)
   if(NOT targets)
     return()
   endif()
-  get_property(packages GLOBAL PROPERTY VANTREL_PACKAGES)
-  list(REMOVE_DUPLICATES packages)
-  set(VANTREL_FIND_DEPENDENCIES "")
-  foreach(package IN LISTS packages)
-    string(APPEND VANTREL_FIND_DEPENDENCIES "find_dependency(${package})\n")
+  get_property(VANTREL_CORE GLOBAL PROPERTY VANTREL_CORE)
+  get_property(VANTREL_ADAPTERS GLOBAL PROPERTY VANTREL_ADAPTERS)
+  set(VANTREL_ADAPTER_PACKAGES "")
+  foreach(adapter IN LISTS VANTREL_ADAPTERS)
+    get_property(packages GLOBAL PROPERTY VANTREL_PACKAGES_${adapter})
+    string(APPEND VANTREL_ADAPTER_PACKAGES "set(_vantrel_packages_${adapter} \"${packages}\")\n")
   endforeach()
 
   include(CMakePackageConfigHelpers)
   set(destination ${CMAKE_INSTALL_LIBDIR}/cmake/Vantrel)
+  set(VANTREL_SCHEMA_DIR ${CMAKE_INSTALL_DATADIR}/vantrel/schema)
   configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/VantrelConfig.cmake.in
-    ${PROJECT_BINARY_DIR}/VantrelConfig.cmake INSTALL_DESTINATION ${destination})
+    ${PROJECT_BINARY_DIR}/VantrelConfig.cmake INSTALL_DESTINATION ${destination} PATH_VARS VANTREL_SCHEMA_DIR)
   write_basic_package_version_file(${PROJECT_BINARY_DIR}/VantrelConfigVersion.cmake COMPATIBILITY SameMinorVersion)
   install(EXPORT VantrelTargets NAMESPACE vantrel:: DESTINATION ${destination} COMPONENT library)
+  foreach(adapter IN LISTS VANTREL_ADAPTERS)
+    install(EXPORT Vantrel_${adapter}Targets NAMESPACE vantrel:: DESTINATION ${destination} COMPONENT library)
+  endforeach()
   install(FILES ${PROJECT_BINARY_DIR}/VantrelConfig.cmake ${PROJECT_BINARY_DIR}/VantrelConfigVersion.cmake
     DESTINATION ${destination} COMPONENT library)
+  install(FILES ${PROJECT_SOURCE_DIR}/data/schema/sqlite.sql ${PROJECT_SOURCE_DIR}/data/schema/postgres.sql
+    DESTINATION ${VANTREL_SCHEMA_DIR} COMPONENT library)
 endfunction()
 
 function(vantrel_refuse_unknown arguments)
