@@ -1,0 +1,114 @@
+// A host of the designer: a window with a tool bar of its own that hears what happens and keeps the workflow in a database file.
+//
+//   embed FILE.db           shows the workflow stored last; makes the file where there is none
+//   embed --once FILE.db    inserts a place, saves and ends, without waiting for anybody
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFile>
+#include <QMainWindow>
+#include <QStatusBar>
+#include <QToolBar>
+#include <cstdio>
+
+#include "database/sqlite/Sqlite.h"
+#include "persistence/WorkflowList.h"
+#include "qt/VantrelWidget.h"
+#include "util/MsgBox.h"
+
+using namespace vantrel;
+
+class HostWindow final : public QMainWindow {
+ public:
+  /// Throws Error for a file that is no database.
+  explicit HostWindow(const QString& pstrFile) {
+    statusBar();  // there from the beginning, or its first message would move the chart
+    setWindowTitle(pstrFile + "[*]");
+    setCentralWidget(mobjDesigner);
+    resize(960, 600);
+    AddTools();
+    Listen();
+    mobjControl.EnablePopups = true;
+    mobjControl.VNTRDB->Connection = OpenSqlite(pstrFile.toStdString());
+  }
+
+  /// Shows the newest workflow of the file, or one to begin with. Throws Error.
+  void ShowWorkflow() {
+    const auto stored = ListWorkflows(*mobjControl.VNTRDB->Connection);
+    if (stored.empty()) {
+      mobjControl.NewWorkflow();
+    } else {
+      mobjControl.Workflow(mobjControl.VNTRDB->ReadWorkflow(stored.back().Id));
+    }
+  }
+
+  /// False when something was not stored; a message box has said why.
+  bool Save() try {
+    VNTRDB& database = *mobjControl.VNTRDB;
+    const auto workflow = mobjControl.Workflow();
+    const auto failures = database.Failures();
+    if (database.SaveWorkFlow(workflow) != 0) return false;
+    for (const auto& place : workflow->Places) database.SaveTokenProperties(place);
+    if (database.Failures() == failures) Say("Saved as workflow " + std::to_string(workflow->RecId));
+    return database.Failures() == failures;
+  } catch (const Error& error) {
+    MsgBox(error.Description);
+    return false;
+  }
+
+  Vantrel& Control() { return mobjControl; }
+
+ private:
+  void closeEvent(QCloseEvent* pobjEvent) override {
+    const auto answer = mobjControl.Dirty() ? MsgBox("Save the changes?", vntYesNoCancel) : vntNo;
+    pobjEvent->setAccepted(answer == vntNo || (answer == vntYes && Save()));
+  }
+
+  // The entries of the design pop-up serve a tool bar as well: they know when they are allowed, and show their own errors.
+  void AddTools() {
+    QToolBar* const tools = addToolBar("Design");
+    for (const char* caption : {"New", "Save", "Insert Place", "Insert Transition", "Insert Arc", "Delete"}) {
+      tools->addAction(caption, this, [this, caption] {
+        const MenuItem& entry = *mobjControl.DesignMenu().Find(caption);
+        if (entry.Enabled)
+          entry.OnClick.Raise();
+        else
+          Say(std::string(caption) + ": select an object first");
+      });
+    }
+  }
+
+  void Listen() {
+    connect(mobjDesigner, &VantrelWidget::DirtyChange, this, &QWidget::setWindowModified);
+    connect(mobjDesigner, &VantrelWidget::Selected, this, [this](ModelObject& object) { Say("Selected " + object.NameText()); });
+    connect(mobjDesigner, &VantrelWidget::ArcInserted, this, [this](const auto& arc) { Say("New arc " + arc->Name()); });
+    connect(mobjDesigner, &VantrelWidget::TransitionDblClick, this, [this](const auto& node) { Say("Double click: " + node->Name()); });
+    mobjSaveChosen = mobjControl.DesignMenu().Find("Save")->OnClick.Connect([this] { Save(); });
+  }
+
+  void Say(const std::string& pstrText) { statusBar()->showMessage(QString::fromStdString(pstrText)); }
+
+  VantrelWidget* const mobjDesigner = new VantrelWidget(this);
+  Vantrel& mobjControl = mobjDesigner->Control();
+  Subscription mobjSaveChosen;
+};
+
+int main(int argc, char** argv) try {
+  const QApplication application(argc, argv);
+  const QStringList arguments = QApplication::arguments().mid(1);
+  const bool isOnce = arguments.value(0) == "--once";
+  if (arguments.size() != (isOnce ? 2 : 1)) return std::fputs("usage: embed [--once] FILE.db\n", stderr), 2;
+  QFile schema(":/sqlite.sql");
+  if (!QFile::exists(arguments.last()) && schema.open(QIODevice::ReadOnly)) {
+    CreateSqlite(arguments.last().toStdString(), schema.readAll().toStdString());
+  }
+  HostWindow window(arguments.last());
+  if (isOnce) InstallMsgBoxPresenter({});  // to standard error
+  window.show();
+  window.ShowWorkflow();
+  if (!isOnce) return QApplication::exec();
+  window.Control().InsertPlace("Inbox");
+  return window.Save() ? 0 : 1;
+} catch (const std::exception& error) {
+  std::fprintf(stderr, "embed: %s\n", error.what());
+  return 1;
+}
