@@ -21,7 +21,8 @@ namespace vantrel {
 namespace {
 
 constexpr float kMargin = 12 * kTwipsPerPixel;
-constexpr int kLargestPng = 16000;  // pixels a side
+constexpr double kLargestPng = 16000;        // pixels a side
+constexpr double kLargestVectors = 1000000;  // beyond it viewers give up, and later the numbers of the formats do
 constexpr std::int32_t kCannotWrite = 75;
 constexpr double kChartDpi = 96;
 constexpr double kPointsPerPixel = 72 / kChartDpi;
@@ -36,8 +37,11 @@ struct Canvas {
   double Zoom;
   QString Path;
 
-  QSize Size() const { return {Pixels(Area.Right - Area.Left), Pixels(Area.Bottom - Area.Top)}; }
-  int Pixels(float psngTwips) const { return std::max(1, static_cast<int>(std::ceil(psngTwips / kTwipsPerPixel * Zoom))); }
+  double Width() const { return Pixels(Area.Right - Area.Left); }
+  double Height() const { return Pixels(Area.Bottom - Area.Top); }
+  double Pixels(float psngTwips) const { return std::max(1.0, std::ceil(psngTwips / kTwipsPerPixel * Zoom)); }
+  // Only of a canvas that CheckSize let pass.
+  QSize Size() const { return {static_cast<int>(Width()), static_cast<int>(Height())}; }
 
   // `pdblUnit`: the painter's units to a pixel of the picture.
   void Paint(QPaintDevice& pobjDevice, double pdblUnit) const {
@@ -49,13 +53,24 @@ struct Canvas {
   }
 };
 
+// Two digits that are not above the number.
+double RoundedDown(double pdblNumber) {
+  const double step = std::pow(10, std::floor(std::log10(pdblNumber)) - 1);
+  return std::floor(pdblNumber / step) * step;
+}
+
+void CheckSize(const Canvas& pobjCanvas, double pdblLargest) {
+  const double largest = std::max(pobjCanvas.Width(), pobjCanvas.Height());
+  if (largest <= pdblLargest) return;
+  const auto text = [](double pdblNumber) { return QString::number(pdblNumber, 'g', 10); };
+  Refuse(vntErrOverflow, pobjCanvas.Path,
+         QString("the picture would have %1 x %2 pixels, and %3 a side is the most: zoom %4 fits")
+             .arg(text(pobjCanvas.Width()), text(pobjCanvas.Height()), text(pdblLargest),
+                  text(RoundedDown(pobjCanvas.Zoom * pdblLargest / largest))));
+}
+
 void WritePng(const Canvas& pobjCanvas, QIODevice& pobjFile) {
-  const QSize size = pobjCanvas.Size();
-  if (size.width() > kLargestPng || size.height() > kLargestPng) {
-    Refuse(vntErrOverflow, pobjCanvas.Path,
-           QString("the picture would have %1 x %2 pixels; choose a smaller zoom").arg(size.width()).arg(size.height()));
-  }
-  QImage image(size, QImage::Format_RGB32);
+  QImage image(pobjCanvas.Size(), QImage::Format_RGB32);
   if (image.isNull()) Refuse(vntErrOverflow, pobjCanvas.Path, "there is not enough memory for the picture");
   pobjCanvas.Paint(image, 1);
   image.save(&pobjFile, "PNG");
@@ -80,11 +95,16 @@ void WritePdf(const Canvas& pobjCanvas, QIODevice& pobjFile) {
   pobjCanvas.Paint(pdf, FontDpi() / kChartDpi);
 }
 
-auto WriterFor(const QString& pstrPath) {
+struct Format {
+  void (*Write)(const Canvas&, QIODevice&);
+  double LargestSide;
+};
+
+Format FormatFor(const QString& pstrPath) {
   const QString extension = QFileInfo(pstrPath).suffix().toLower();
-  if (extension == "png") return WritePng;
-  if (extension == "svg") return WriteSvg;
-  if (extension == "pdf") return WritePdf;
+  if (extension == "png") return {WritePng, kLargestPng};
+  if (extension == "svg") return {WriteSvg, kLargestVectors};
+  if (extension == "pdf") return {WritePdf, kLargestVectors};
   Refuse(vntErrInvalidCall, pstrPath, "a picture's name ends in .png, .svg or .pdf");
 }
 
@@ -97,11 +117,14 @@ Rect AreaOf(const ChartSurface& pobjSurface) {
 
 void WriteChart(const ChartSurface& pobjSurface, const std::string& pstrPath, double pdblZoom) {
   const QString path = ToQString(pstrPath);
-  const auto write = WriterFor(path);
-  if (!(pdblZoom > 0)) Refuse(vntErrInvalidCall, path, "the zoom of a picture is above 0");
+  if (path.toStdString() != pstrPath) Refuse(vntErrInvalidCall, path, "the name is not UTF-8");
+  const Format format = FormatFor(path);
+  if (!(pdblZoom > 0) || !std::isfinite(pdblZoom)) Refuse(vntErrInvalidCall, path, "the zoom of a picture is a number above 0");
+  const Canvas canvas{pobjSurface, AreaOf(pobjSurface), pdblZoom, path};
+  CheckSize(canvas, format.LargestSide);
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) Refuse(kCannotWrite, path, "cannot be written: " + file.errorString());
-  write({pobjSurface, AreaOf(pobjSurface), pdblZoom, path}, file);
+  format.Write(canvas, file);
   if (!file.commit()) Refuse(kCannotWrite, path, "cannot be written: " + file.errorString());
 }
 

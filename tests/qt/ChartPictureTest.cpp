@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
+#include <cmath>
 
 #include <gmock/gmock.h>
 
@@ -58,6 +59,22 @@ TEST_F(ChartPicture, OfAnEmptyChartIsSmall) {
   EXPECT_FALSE(QImage(mobjFolder.filePath("empty.png")).isNull());
 }
 
+TEST_F(ChartPicture, ThatIsTooLargeIsRefusedWithAZoomThatFits) {
+  AddImage(mobjSurface, "Place", 300000, 0);
+  for (const double zoom : {1.0, 7.3, 1e12}) {
+    std::string description;
+    try {
+      WriteChart(mobjSurface, Path("chart.png"), zoom);
+    } catch (const Error& error) {
+      description = error.Description;
+    }
+    const auto words = QString::fromStdString(description).split(' ');
+    ASSERT_GE(words.size(), 2) << zoom;
+    WriteChart(mobjSurface, Path("chart.png"), words[words.size() - 2].toDouble());
+    EXPECT_GT(QImage(mobjFolder.filePath("chart.png")).width(), 14000) << description;
+  }
+}
+
 TEST_F(ChartPicture, NamesTheFileThatItCannotWriteAndLeavesNothingBehind) {
   AddImage(mobjSurface, "Place", 300000, 0);
   struct Case {
@@ -66,7 +83,8 @@ TEST_F(ChartPicture, NamesTheFileThatItCannotWriteAndLeavesNothingBehind) {
     std::int32_t Error;
   };
   for (const auto& test : {Case{Path("chart.gif"), 1, 5}, Case{Path("chart"), 1, 5}, Case{Path("chart.png"), 0, 5},
-                           Case{Path("chart.png"), 1, 6}, Case{Path("nowhere/chart.svg"), 1, 75}}) {
+                           Case{Path("chart.pdf"), std::nan(""), 5}, Case{Path("chart.png"), 1, 6}, Case{Path("chart.png"), 1e300, 6},
+                           Case{Path("chart.svg"), 1e300, 6}, Case{Path("chart.pdf"), 1e9, 6}, Case{Path("nowhere/chart.svg"), 1, 75}}) {
     try {
       WriteChart(mobjSurface, test.Path, test.Zoom);
       ADD_FAILURE() << test.Path;

@@ -1,14 +1,20 @@
 #include "app/draw/ChartFile.h"
 
+#include <QFontDatabase>
+#include <QStringList>
+
 #include "designer/Vantrel.h"
 #include "model/DesignerState.h"
 #include "qt/ChartPicture.h"
 #include "qt/QtTextMeasure.h"
 #include "toolkit/HeadlessToolkit.h"
+#include "util/Error.h"
 
 namespace vantrel {
 
 void DrawWorkflow(const std::shared_ptr<Workflow>& pobjWorkflow, const std::string& pstrPath, double pdblZoom) {
+  // Boxes would stand for the letters, and nobody would be told.
+  if (QFontDatabase::families().isEmpty()) throw Error(vntErrInvalidCall, pstrPath + ": cannot be drawn: this system has no fonts");
   const DesignerStateScope before;
   HeadlessToolkit toolkit;
   Vantrel control(toolkit);
