@@ -1,5 +1,6 @@
 #include "qt/ChartPicture.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QImage>
 #include <QPageSize>
@@ -124,8 +125,12 @@ void WriteChart(const ChartSurface& pobjSurface, const std::string& pstrPath, do
   CheckSize(canvas, format.LargestSide);
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) Refuse(kCannotWrite, path, "cannot be written: " + file.errorString());
-  format.Write(canvas, file);
-  if (!file.commit()) Refuse(kCannotWrite, path, "cannot be written: " + file.errorString());
+  // Pictures pay no heed to what a device refuses: a full disk would leave a part of one.
+  QBuffer picture;
+  picture.open(QIODevice::WriteOnly);
+  format.Write(canvas, picture);
+  const bool isWritten = file.write(picture.data()) == picture.size() && file.flush();
+  if (!isWritten || !file.commit()) Refuse(kCannotWrite, path, "cannot be written: " + file.errorString());
 }
 
 }  // namespace vantrel

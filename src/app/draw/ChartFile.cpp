@@ -1,7 +1,7 @@
 #include "app/draw/ChartFile.h"
 
-#include <QFontDatabase>
-#include <QStringList>
+#include <QFont>
+#include <QFontMetricsF>
 
 #include "designer/Vantrel.h"
 #include "model/DesignerState.h"
@@ -13,8 +13,8 @@
 namespace vantrel {
 
 void DrawWorkflow(const std::shared_ptr<Workflow>& pobjWorkflow, const std::string& pstrPath, double pdblZoom) {
-  // Boxes would stand for the letters, and nobody would be told.
-  if (QFontDatabase::families().isEmpty()) throw Error(vntErrInvalidCall, pstrPath + ": cannot be drawn: this system has no fonts");
+  // Boxes would stand for the letters, and nobody would be told. The list of families is no help: it always has "Sans Serif".
+  if (!QFontMetricsF(QFont()).inFont('x')) throw Error(vntErrInvalidCall, pstrPath + ": cannot be drawn: this system has no fonts");
   const DesignerStateScope before;
   HeadlessToolkit toolkit;
   Vantrel control(toolkit);
