@@ -3,6 +3,7 @@
 #include "designer/StillShown.h"
 #include "model/DesignerState.h"
 #include "model/PropertyBuilder.h"
+#include "toolkit/ComDlg32.h"
 #include "util/Lookup.h"
 
 namespace vantrel {
@@ -58,6 +59,8 @@ void ControlProperties::ShowOnArcs(bool Workflow::*pFlag, bool pblnOn) {
   (*workflow).*pFlag = pblnOn;
   if (!shown) return;
   for (Collection<Arc>::Cursor cursor(workflow->Arcs); Arc* arc = cursor.Next();) arc->Draw();
+  const Element* framed = mobjControl.FocusFrame.SelectedControl().get();
+  if (framed && !framed->Visible()) mobjControl.CurrentControl(nullptr);
 }
 
 void ControlProperties::BackColor(Color plngColor) {
@@ -69,7 +72,7 @@ void ControlProperties::BackColor(Color plngColor) {
 void ControlProperties::ChooseBackColor() {
   const Ref<Vantrel> control(&mobjControl);
   const Color before = mobjControl.BackColor();
-  const Color chosen = mobjControl.Tools().SelectColor(before);
+  const Color chosen = ComDlg32(mobjControl.Tools()).SelectColor(before);
   if (control && chosen != before) BackColor(chosen);
 }
 

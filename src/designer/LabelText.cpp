@@ -26,6 +26,7 @@ void StoreText(Vantrel& pobjControl, const Label& pobjLabel, const std::string& 
   } else if (const auto arc = std::dynamic_pointer_cast<Arc>(object)) {
     if (arc->CaptionLabel == &pobjLabel) {
       arc->Guard(pstrText);
+      if (pstrText.empty()) pobjControl.CurrentControl(nullptr);  // its label shows no more
     } else {
       arc->Weight(pstrText);
       arc->Dirty = true;

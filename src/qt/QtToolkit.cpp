@@ -61,9 +61,11 @@ void QtToolkit::Pointer(PointerShape pShape) {
   if (!wanted && OnPointer) OnPointer(pShape);
 }
 
-Color QtToolkit::SelectColor(Color plngColor) {
+Color QtToolkit::SelectColor(Color plngColor, CustomColors& pcolCustom) {
+  for (std::size_t i = 0; i < pcolCustom.size(); ++i) QColorDialog::setCustomColor(static_cast<int>(i), ToQColor(pcolCustom[i]));
   const OwnedWidget<QColorDialog> dialog(new QColorDialog(ToQColor(plngColor), mobjOwner));
   const bool isAccepted = dialog->exec() == QDialog::Accepted;
+  for (std::size_t i = 0; i < pcolCustom.size(); ++i) pcolCustom[i] = ToColor(QColorDialog::customColor(static_cast<int>(i)));
   return isAccepted && dialog ? ToColor(dialog->selectedColor()) : plngColor;
 }
 

@@ -24,7 +24,7 @@ class QtToolkit final : public Toolkit {
 
   void ShowPopup(MenuItem& pobjMenu) override;
   void Pointer(PointerShape pShape) override;
-  Color SelectColor(Color plngColor) override;
+  Color SelectColor(Color plngColor, CustomColors& pcolCustom) override;
   void ProcessEvents() override;
   std::vector<std::string> FontNames() const override;
 

@@ -30,7 +30,7 @@ class HeadlessToolkit final : public Toolkit {
 
   void ShowPopup(MenuItem& pobjMenu) override;
   void Pointer(PointerShape pShape) override;
-  Color SelectColor(Color plngColor) override { return ChosenColor.value_or(plngColor); }
+  Color SelectColor(Color plngColor, CustomColors&) override { return ChosenColor.value_or(plngColor); }
   void ProcessEvents() override { ++EventsProcessed; }
   std::vector<std::string> FontNames() const override { return Fonts; }
 };

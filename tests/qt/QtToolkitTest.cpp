@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include "qt/PopupMenu.h"
+#include "toolkit/ComDlg32.h"
 #include "toolkit/Menu.h"
 
 namespace vantrel {
@@ -106,7 +107,10 @@ TEST(MessageBox, AnswersHarmlesslyWhenTheWindowUnderItIsClosed) {
 TEST(QtToolkit, KeepsTheColourWhenTheDialogIsCancelled) {
   QtToolkit toolkit;
   WithModal([](QWidget* dialog) { dialog->close(); });
-  EXPECT_EQ(toolkit.SelectColor(0x112233), 0x112233);
+  ComDlg32 dialog(toolkit);
+  dialog.CustomColors.back() = 0x445566;
+  EXPECT_EQ(dialog.SelectColor(0x112233), 0x112233);
+  EXPECT_EQ(dialog.CustomColors.back(), 0x445566);
 }
 
 TEST(QtToolkit, TakesTheHourglassOffAgain) {

@@ -189,6 +189,24 @@ TEST_F(Frame, DeleteClearsAFramedLabelAndDeletesAFramedImagesObject) {
   EXPECT_FALSE(frame().Key(39)) << "the chart's";
 }
 
+TEST_F(Frame, GoesWithALabelThatShowsNoMore) {
+  FirstArc()->Guard("ready");
+  const auto frameGuard = [&] {
+    Control->ShowGuards(true);
+    Control->CurrentControl(FirstArc()->CaptionLabel.get());
+    EXPECT_TRUE(Control->FocusFrame.ShowsHandles());
+  };
+  frameGuard();
+  Control->ShowGuards(false);
+  EXPECT_FALSE(Control->FocusFrame.Visible());
+  frameGuard();
+  Control->FocusFrame.Edit();
+  Control->FocusFrame.EndEdit("");
+  EXPECT_EQ(FirstArc()->Guard(), "");
+  EXPECT_FALSE(Control->FocusFrame.Visible());
+  EXPECT_FALSE(Control->CurrentControl());
+}
+
 TEST_F(Frame, HasTheKeyboardFromAPressOnAHandleOn) {
   Framed();
   Control->CurrentControl(Begin().CaptionLabel.get());
