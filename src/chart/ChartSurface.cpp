@@ -96,6 +96,11 @@ void ChartSurface::Scale(float psngWidth, float psngHeight) {
   mScaleHeight = psngHeight;
 }
 
+void ChartSurface::Origin(float psngLeft, float psngTop) {
+  mScaleLeft = psngLeft;
+  mScaleTop = psngTop;
+}
+
 void ChartSurface::BackColor(Color plngColor) {
   if (std::exchange(mBackColor, plngColor) == plngColor) return;
   OnDamaged.Raise({-kEverything, -kEverything, kEverything, kEverything});

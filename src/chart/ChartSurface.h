@@ -22,7 +22,7 @@ class ChartSurface {
   SpatialGrid mGrid;
   std::shared_ptr<const TextMeasure> mMeasure;
   std::int64_t mFront = 0;
-  float mScaleWidth = 0, mScaleHeight = 0;
+  float mScaleLeft = 0, mScaleTop = 0, mScaleWidth = 0, mScaleHeight = 0;
   Color mBackColor = kWhite;
   bool mVisible = true;
 
@@ -42,9 +42,12 @@ class ChartSurface {
   /// The visible element nearest to the front under a point, or null. The tolerance widens lines only, twips.
   Element* ElementAt(float psngX, float psngY, float psngTolerance = 0) const;
 
-  float ScaleWidth() const { return mScaleWidth; }  ///< the part in view, twips
+  float ScaleLeft() const { return mScaleLeft; }  ///< the part in view, twips
+  float ScaleTop() const { return mScaleTop; }
+  float ScaleWidth() const { return mScaleWidth; }
   float ScaleHeight() const { return mScaleHeight; }
   void Scale(float psngWidth, float psngHeight);
+  void Origin(float psngLeft, float psngTop);
   Color BackColor() const { return mBackColor; }
   void BackColor(Color plngColor);
   bool Visible() const { return mVisible; }

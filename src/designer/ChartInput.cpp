@@ -1,5 +1,6 @@
 #include "designer/ChartInput.h"
 
+#include <cmath>
 #include <functional>
 #include <utility>
 
@@ -37,17 +38,25 @@ void Resized(Vantrel& pobjControl, float psngHeight, float psngWidth) {
 
 bool IsHandled(const PointerInput& pobjInput) { return pobjInput.Button == vntLeftButton || pobjInput.Button == vntRightButton; }
 
+// What a position that is no number would be given could not be found or saved any more.
+bool IsSomewhere(const PointerInput& pobjInput) { return std::isfinite(pobjInput.X) && std::isfinite(pobjInput.Y); }
+
+// Objects keep their coordinates, and nothing of what they draw depends on the part in view.
+void Scroll(Vantrel& pobjControl) { pobjControl.ChartArea.Origin(pobjControl.HScroll.Value(), pobjControl.VScroll.Value()); }
+
 }  // namespace
 
 ChartInput::ChartInput(Vantrel& pobjControl)
     : mobjControl(pobjControl),
       mobjResized(
-          pobjControl.FocusFrame.OnResized.Connect([&pobjControl](float height, float width) { Resized(pobjControl, height, width); })) {}
+          pobjControl.FocusFrame.OnResized.Connect([&pobjControl](float height, float width) { Resized(pobjControl, height, width); })),
+      mobjScrolledAcross(pobjControl.HScroll.OnChange.Connect([&pobjControl] { Scroll(pobjControl); })),
+      mobjScrolledDown(pobjControl.VScroll.OnChange.Connect([&pobjControl] { Scroll(pobjControl); })) {}
 
 ChartInput::~ChartInput() = default;
 
 void ChartInput::Press(const PointerInput& pobjInput) {
-  if (!IsHandled(pobjInput)) return;
+  if (!IsHandled(pobjInput) || !IsSomewhere(pobjInput)) return;
   if (mobjGesture) {
     // Another button while one is held means nothing; the same one means that its release was lost.
     if (pobjInput.Button != vntLeftButton) return;
@@ -62,6 +71,7 @@ void ChartInput::Press(const PointerInput& pobjInput) {
 }
 
 void ChartInput::Move(const PointerInput& pobjInput) {
+  if (!IsSomewhere(pobjInput)) return;
   const auto gesture = mobjGesture;
   Serve(mobjControl, [&] {
     if (gesture) {
@@ -74,12 +84,13 @@ void ChartInput::Move(const PointerInput& pobjInput) {
 
 void ChartInput::Release(const PointerInput& pobjInput) {
   if (!mobjGesture || pobjInput.Button != vntLeftButton) return;
+  if (!IsSomewhere(pobjInput)) return Abandon();
   const auto gesture = std::exchange(mobjGesture, nullptr);
   Serve(mobjControl, [&] { gesture->Release(pobjInput); });
 }
 
 void ChartInput::DoubleClick(const PointerInput& pobjInput) {
-  if (pobjInput.Button != vntLeftButton) return;
+  if (pobjInput.Button != vntLeftButton || !IsSomewhere(pobjInput)) return;
   Serve(mobjControl, [&] { DoubleClickAt(mobjControl, pobjInput); });
 }
 
@@ -97,6 +108,7 @@ bool ChartInput::Key(std::int16_t pintCode, std::int16_t pintShift) {
 
 bool ChartInput::Drop(const PointerInput& pobjInput) {
   bool isTaken = false;
+  if (!IsSomewhere(pobjInput)) return isTaken;
   Serve(mobjControl, [&] { isTaken = DropAt(mobjControl, pobjInput); });
   return isTaken;
 }

@@ -13,8 +13,8 @@ class Gesture;
 class Vantrel;
 
 /// Finds the element under the pointer, captures it while a button is down and hands the events to a gesture. Views and tests
-/// use it alike. Belongs to its control; a press, key or drop may end in the control's destruction (a listener closes the
-/// window), which is safe.
+/// use it alike. An event whose position is not finite is passed over; such a release abandons the gesture. Belongs to its control; a
+/// press, key or drop may end in the control's destruction (a listener closes the window), which is safe.
 class ChartInput {
  public:
   explicit ChartInput(Vantrel& pobjControl);
@@ -37,7 +37,7 @@ class ChartInput {
 
  private:
   Vantrel& mobjControl;
-  Subscription mobjResized;
+  Subscription mobjResized, mobjScrolledAcross, mobjScrolledDown;
   std::shared_ptr<Gesture> mobjGesture;  // while the left button is down
 };
 

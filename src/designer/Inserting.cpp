@@ -1,5 +1,7 @@
 #include "designer/Inserting.h"
 
+#include "designer/ChartObjects.h"
+#include "designer/CurrentPosition.h"
 #include "designer/ElementBinding.h"
 #include "designer/Selecting.h"
 #include "designer/StillShown.h"
@@ -27,6 +29,7 @@ Workflow& Inserting::Chart() const { return *Ref<Workflow>(mobjControl.Workflow(
 
 template <class N>
 std::shared_ptr<N> Inserting::InsertNode(Collection<N>& pcolNodes, const std::string& pstrCaption) {
+  RequirePosition(mobjControl);
   const auto node = std::make_shared<N>();
   node->Workflow = mobjControl.Workflow();
   node->Key = NextKey(pcolNodes, pcolNodes.KeyWord());
@@ -56,12 +59,12 @@ std::shared_ptr<Transition> Inserting::InsertTransition(const std::string& pstrC
 }
 
 std::shared_ptr<Notation> Inserting::AddNotation() {
+  RequirePosition(mobjControl);
   Workflow& workflow = Chart();
   const auto note = std::make_shared<Notation>();
   note->Workflow = &workflow;
   note->Key = NextKey(workflow.Notations, workflow.Notations.KeyWord());
-  note->Top(static_cast<std::int32_t>(mobjControl.CurrentY));
-  note->Left(static_cast<std::int32_t>(mobjControl.CurrentX));
+  MoveTo(*note, mobjControl.CurrentX, mobjControl.CurrentY);
   note->Appearance = kFlat;
   note->BorderStyle = kFixedSingle;
   note->Width(kNoteWidth);

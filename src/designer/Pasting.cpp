@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "designer/ChartObjects.h"
+#include "designer/CurrentPosition.h"
 #include "designer/ElementBinding.h"
 #include "designer/PopupMenus.h"
 #include "designer/StillShown.h"
@@ -94,6 +95,7 @@ void Pasting::Paste() {
     mobjControl.mobjMenus->Paste().Enabled = false;
     return;
   }
+  RequirePosition(mobjControl);
   Objects objects;  // as they are now: deleting and listeners change selection and clipboard
   for (const auto& object : *clipboard) objects.push_back(object);
   const Ref<Vantrel> control(&mobjControl);

@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "designer/DesignerTest.h"
 
 namespace vantrel::test {
@@ -176,6 +178,24 @@ TEST_F(EditingTest, DeletesTheSelectionOnceHoweverItHangsTogether) {
   Control->Delete();
   EXPECT_EQ(Net().Places.Count(), 1);
   EXPECT_EQ(Net().Transitions.Count() + Net().Arcs.Count() + Net().Notations.Count(), 0);
+}
+
+TEST_F(EditingTest, InsertsNothingWhereNothingCanLie) {
+  Control->SelectAll();
+  Control->Copy();
+  for (const float bad : {std::numeric_limits<float>::quiet_NaN(), -std::numeric_limits<float>::infinity()}) {
+    Control->CurrentY = bad;
+    EXPECT_THROW(Control->InsertPlace(), Error);
+    EXPECT_THROW(Control->InsertTransition(), Error);
+    EXPECT_THROW(Control->AddNotation(), Error);
+    EXPECT_THROW(Control->Paste(), Error);
+    EXPECT_EQ(Net().Places.Count() + Net().Transitions.Count() + Net().Notations.Count(), 3) << "not even what is selected goes";
+  }
+  Control->CurrentX = 1e20F;
+  Control->CurrentY = 200.6F;
+  const auto note = Control->AddNotation();
+  EXPECT_GT(note->Left(), 100'000'000) << "as far as whole twips reach";
+  EXPECT_EQ(note->Top(), 201);
 }
 
 TEST_F(EditingTest, RefusesToDeleteWhatIsNotShown) {

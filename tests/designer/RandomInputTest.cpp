@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <functional>
+#include <limits>
 #include <random>
 #include <vector>
 
@@ -46,6 +47,7 @@ class RandomUser {
 
   // Mostly on something, for a chart is mostly empty.
   PointerInput Somewhere(MouseButton pButton) {
+    if (Chance(200)) return {std::numeric_limits<float>::quiet_NaN(), Chance(2) ? 0 : std::numeric_limits<float>::infinity(), pButton};
     const auto elements = mControl.ChartArea.ElementsIn({-1e6F, -1e6F, 1e6F, 1e6F});
     const auto shift = static_cast<std::int16_t>(Chance(4) ? vntShift : vntNoShift);
     if (elements.empty() || Chance(4))

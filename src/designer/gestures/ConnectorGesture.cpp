@@ -62,7 +62,7 @@ void ConnectorGesture::Release(const PointerInput& pobjInput) {
   Snap();
   if (!mobjControl) return;
   mobjControl->FocusFrame.Visible(false);
-  mobjControl->ExtendScrollRange();
+  if (mblnMoved) mobjControl->ExtendScrollRange();
 }
 
 void ConnectorGesture::Snap() const {

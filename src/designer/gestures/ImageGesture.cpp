@@ -65,7 +65,7 @@ void ImageGesture::Release(const PointerInput& pobjInput) {
   }
   if (!mobjControl) return;
   mobjControl->FocusFrame.Visible(false);
-  mobjControl->ExtendScrollRange();
+  if (mblnGathered) mobjControl->ExtendScrollRange();  // a look at every element, too dear for a click
 }
 
 }  // namespace vantrel

@@ -1,3 +1,5 @@
+#include <limits>
+
 #include "designer/gestures/GestureTest.h"
 
 namespace vantrel::test {
@@ -160,6 +162,21 @@ TEST_F(Dragging, ANotesPlaceIsItsLabels) {
   EXPECT_EQ(note->Left(), left + 200);
   EXPECT_EQ(note->Top(), top + 100);
   EXPECT_TRUE(Net->Dirty());
+}
+
+TEST_F(Dragging, PositionsThatAreNoneArePassedOver) {
+  constexpr float nan = std::numeric_limits<float>::quiet_NaN(), infinite = std::numeric_limits<float>::infinity();
+  const float x = MiddleX(*Begin().Image), y = MiddleY(*Begin().Image), left = Begin().Left();
+  Press(x, y);
+  Move(x + 60, y);
+  Move(nan, y);
+  Move(x, -infinite);
+  EXPECT_EQ(Begin().Left(), left + 60);
+  Release(nan, nan);
+  EXPECT_FALSE(Control->Input.IsCaptured());
+  EXPECT_EQ(Begin().Left(), left + 60);
+  Press(infinite, y);
+  EXPECT_FALSE(Control->Input.IsCaptured());
 }
 
 TEST_F(Dragging, ALostReleaseLeavesThingsWhereTheyAreAndTheNextPressBeginsAnew) {
