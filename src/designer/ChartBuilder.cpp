@@ -1,6 +1,7 @@
 #include "designer/ChartBuilder.h"
 
 #include "designer/ChartFitting.h"
+#include "designer/ControlState.h"
 #include "designer/ElementBinding.h"
 #include "designer/StillShown.h"
 #include "model/DesignerState.h"
@@ -69,6 +70,14 @@ void ChartBuilder::Clear() {
   UnloadAll(surface.ctlHandle);
 }
 
+// Before anything is taken off the chart.
+void ChartBuilder::RequirePictures(const Workflow& pobjWorkflow) const {
+  for (Collection<Place>::Cursor cursor(pobjWorkflow.Places); const Place* place = cursor.Next();) {
+    const std::string& key = place->DisabledImageKey;
+    if (!mobjControl.ImageList->Find(key)) throw Error(vntErrElementNotFound, "Element not found: the picture \"" + key + "\"");
+  }
+}
+
 void ChartBuilder::LetGo() {
   if (mobjControl.IsInsertingArc()) mobjControl.EndArcInsert();
   mobjControl.MultiSelect.Visible(false);
@@ -114,6 +123,10 @@ void ChartBuilder::Build() {
 
 void ChartBuilder::Show(const std::shared_ptr<Workflow>& pobjWorkflow) {
   const auto workflow = pobjWorkflow;  // the caller's may be the control's own share
+  if (workflow) {
+    RequirePictures(*workflow);
+    mobjControl.mobjState->TakeFromOthers(workflow);
+  }
   mobjControl.FocusFrame.SelectedControl(nullptr);
   const HiddenChart hidden(mobjControl);
   LetGo();

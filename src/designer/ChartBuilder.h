@@ -12,12 +12,14 @@ class ChartBuilder {
  public:
   explicit ChartBuilder(Vantrel& pobjControl) : mobjControl(pobjControl) {}
 
-  /// Takes the workflow shown off the chart and shows another one, or none. What a listener shows instead while the marks are
+  /// Takes the workflow shown off the chart, and another one off any other control's chart, and shows that one, or none. Error
+  /// 35601, with nothing changed, when the image list lacks a place's picture. What a listener shows instead while the marks are
   /// set stays.
   void Show(const std::shared_ptr<Workflow>& pobjWorkflow);
   void Clear();
 
  private:
+  void RequirePictures(const Workflow& pobjWorkflow) const;
   void LetGo();
   void Take(const std::shared_ptr<Workflow>& pobjWorkflow);
   void Build();

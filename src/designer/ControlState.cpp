@@ -76,6 +76,13 @@ void ControlState::Detach() {
   gintOutputPosition = vntRight;
 }
 
+void ControlState::TakeFromOthers(const std::shared_ptr<Workflow>& pobjWorkflow) const {
+  const auto controls = Controls();
+  for (const ControlState* state : controls) {
+    if (state != this && state->mobjControl.Workflow() == pobjWorkflow) state->mobjControl.Workflow(nullptr);
+  }
+}
+
 ControlScope::ControlScope(const Vantrel& pobjControl) {
   ControlState& own = *pobjControl.mobjState;
   if (own.IsActive()) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 #include "model/DesignerState.h"
@@ -33,6 +34,8 @@ class ControlState : public Referable {
   /// Workflow and pictures, which others may have changed since, are this control's again.
   void LoadChart();
   static void Detach();
+  /// Other controls that show the workflow show none then: its objects have one set of elements.
+  void TakeFromOthers(const std::shared_ptr<Workflow>& pobjWorkflow) const;
 
  private:
   Vantrel& mobjControl;

@@ -112,12 +112,12 @@ void Vantrel::Selection(const std::shared_ptr<ObjectCollection>& pcolObjects) {
 }
 
 std::shared_ptr<ModelObject> Vantrel::GetVNTRObject(const std::string& pstrKey) const {
-  const vantrel::Workflow& workflow = *Ref<vantrel::Workflow>(mWorkflow);
-  if (pstrKey.starts_with("Transition")) return workflow.Transitions.Item(pstrKey);
-  if (pstrKey.starts_with("Place")) return workflow.Places.Item(pstrKey);
-  if (pstrKey.starts_with("Arc")) return workflow.Arcs.Item(pstrKey);
-  if (pstrKey.starts_with("Vector")) return workflow.Vectors.Item(pstrKey);
-  if (pstrKey.starts_with("Notation")) return workflow.Notations.Item(pstrKey);
+  const Ref<vantrel::Workflow> workflow(mWorkflow);
+  if (pstrKey.starts_with("Transition")) return workflow->Transitions.Item(pstrKey);
+  if (pstrKey.starts_with("Place")) return workflow->Places.Item(pstrKey);
+  if (pstrKey.starts_with("Arc")) return workflow->Arcs.Item(pstrKey);
+  if (pstrKey.starts_with("Vector")) return workflow->Vectors.Item(pstrKey);
+  if (pstrKey.starts_with("Notation")) return workflow->Notations.Item(pstrKey);
   return nullptr;
 }
 

@@ -211,6 +211,8 @@ TEST_F(ChartTest, RepairsTheUnknownPictureOfATransitionButNotOfAPlace) {
   EXPECT_EQ(net->Transitions.First()->EnabledImageKey, "TransitionEnabled");
   EXPECT_EQ(net->Transitions.First()->Image->Picture()->Key, "Transition");
 
+  const auto before = net;
+  Control->CurrentControl(net->Places.First()->Image.get());
   net = Stored({{0, 0, 1, 1}});
   net->Places.First()->DisabledImageKey = "Bucket";
   try {
@@ -218,10 +220,24 @@ TEST_F(ChartTest, RepairsTheUnknownPictureOfATransitionButNotOfAPlace) {
     FAIL();
   } catch (const Error& error) {
     EXPECT_EQ(error.Number, 35601);
+    EXPECT_NE(error.Description.find("Bucket"), std::string::npos);
   }
   EXPECT_TRUE(Control->RefreshOn);
   EXPECT_EQ(Tools.CurrentPointer(), vntPointerDefault);
+  EXPECT_EQ(Control->Workflow(), before) << "what was shown stays";
+  EXPECT_EQ(Control->Selection()->Count(), 1);
+}
+
+TEST_F(ChartTest, ScrollBarsMoveTheOriginAndNothingElse) {
   Control->NewWorkflow();
+  const float left = Net().Places.First()->Image->Left();
+  Control->HScroll.Value(700);
+  Control->VScroll.Value(-300);
+  EXPECT_EQ(Control->ChartArea.ScaleLeft(), 700);
+  EXPECT_EQ(Control->ChartArea.ScaleTop(), -300);
+  EXPECT_EQ(Net().Places.First()->Image->Left(), left);
+  Control->NewWorkflow();
+  EXPECT_EQ(Control->ChartArea.ScaleLeft(), 0);
 }
 
 TEST_F(ChartTest, TakesSettingsFromTheWorkflow) {

@@ -138,6 +138,7 @@ TEST_F(ControlTest, FindsObjectsByTheirKeys) {
   EXPECT_EQ(Control->GetVNTRObject("Notation1"), note);
   EXPECT_EQ(Control->GetVNTRObject("Transition1"), Net().Transitions.First());
   EXPECT_EQ(Control->GetVNTRObject("Elbow1"), nullptr);
+  EXPECT_EQ(Vantrel(Tools).GetVNTRObject("Elbow1"), nullptr) << "without workflow, too";
   EXPECT_THROW(Control->GetVNTRObject("Place9"), Error);
 }
 
@@ -223,6 +224,29 @@ TEST_F(ControlTest, AsksDialogsForTheObjectThatIsCurrent) {
   Control->CurrentControl(Net().Arcs.First()->Segments().front()->LineControl.get());
   Control->ShowObjectProperties();
   EXPECT_EQ(recorder->Shown, (std::vector<std::string>{"Vantrel", "StartPlace->Begin"}));
+}
+
+TEST_F(ControlTest, ShowsAWorkflowOnOneChartAlone) {
+  const auto net = Control->NewWorkflow();
+  Control->SelectAll();
+  Vantrel second(Tools);
+  second.Workflow(net);
+  EXPECT_EQ(Control->Workflow(), nullptr) << "an object has but one picture";
+  EXPECT_EQ(Invariants(second).Faults(), "");
+  EXPECT_EQ(second.Selection()->Count(), 0);
+  EXPECT_EQ(gobjWorkflow.get(), net.get());
+}
+
+TEST_F(ControlTest, TakesTheBackgroundColourThatTheUserChooses) {
+  Control->NewWorkflow();
+  Control->SetBackcolor();
+  EXPECT_EQ(Control->BackColor(), kWhite);
+  EXPECT_FALSE(Control->Dirty()) << "he cancelled";
+  Tools.ChosenColor = 0x112233;
+  Control->SetBackcolor();
+  EXPECT_EQ(Control->BackColor(), 0x112233);
+  EXPECT_EQ(Control->ChartArea.BackColor(), 0x112233);
+  EXPECT_TRUE(Control->Dirty());
 }
 
 TEST_F(ControlTest, KeepsTheStateOfEachOfSeveralControls) {
