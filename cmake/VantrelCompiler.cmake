@@ -12,7 +12,7 @@ if(PROJECT_IS_TOP_LEVEL)
   find_program(VANTREL_CCACHE ccache)
   if(VANTREL_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     # Without these, it compiles everything anew that uses a precompiled header.
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros
       ${VANTREL_CCACHE})
     add_compile_options($<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")

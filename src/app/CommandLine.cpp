@@ -19,6 +19,7 @@
 #include "app/commands/SampleCommand.h"
 #include "app/commands/ShowCommand.h"
 #if VANTREL_HAS_QT
+#include "app/commands/DesignCommand.h"
 #include "app/commands/DrawCommand.h"
 #endif
 
@@ -30,6 +31,9 @@ using Commands = std::vector<std::unique_ptr<Command>>;
 
 Commands AllCommands() {
   Commands commands;
+#if VANTREL_HAS_QT
+  commands.push_back(std::make_unique<DesignCommand>());
+#endif
   commands.push_back(std::make_unique<PlayCommand>());
   commands.push_back(std::make_unique<ImportCommand>());
   commands.push_back(std::make_unique<ListCommand>());
@@ -69,7 +73,7 @@ int ParseAndRun(CLI::App& pobjApp, const Commands& pcolCommands, int plngCount, 
 
 int RunCommandLine(int plngCount, const char* const* pstrArguments) {
   try {
-    CLI::App app("Vantrel draws workflow nets and plays them. Without a command it plays a small net of its own.", "vantrel");
+    CLI::App app("Vantrel draws workflow nets, stores them and plays them. Without a command it opens its window.", "vantrel");
     app.set_version_flag("--version", "vantrel " VANTREL_VERSION, "Print the version and exit");
     app.require_subcommand(0, 1);
     const Commands commands = AllCommands();

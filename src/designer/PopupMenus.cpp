@@ -17,6 +17,13 @@ void RunGuarded(Vantrel& pobjControl, const std::function<void(Vantrel&)>& pComm
   }
 }
 
+// The question may end the control.
+void ReplaceWorkflow(Vantrel& pobjControl) {
+  const Ref<Vantrel> control(&pobjControl);
+  const auto ask = pobjControl.MayReplaceWorkflow;
+  if ((!ask || ask()) && control) control->NewWorkflow();
+}
+
 void ToggleLock(Vantrel& pobjControl) {
   pobjControl.LockControls(!pobjControl.LockControls());
   if (const auto workflow = pobjControl.Workflow()) workflow->Dirty(true);
@@ -50,7 +57,7 @@ MenuItem& PopupMenus::AddCommand(MenuItem& pobjMenu, const std::string& pstrCapt
 }
 
 void PopupMenus::BuildDesign() {
-  AddCommand(mDesign, "New", [](Vantrel& control) { control.NewWorkflow(); });
+  AddCommand(mDesign, "New", ReplaceWorkflow);
   mDesign.Add("Save");
   mDesign.AddSeparator();
   AddCommand(mDesign, "Copy", [](Vantrel& control) { control.Copy(); });

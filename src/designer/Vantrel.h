@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -56,6 +57,8 @@ class Vantrel final : public ModelObject {
   std::shared_ptr<ObjectCollection> Clipboard;          ///< never null unless a host makes it so; outlives workflow changes
   std::shared_ptr<vantrel::Dialogs> Dialogs;            ///< never null; does nothing at first
   std::shared_ptr<vantrel::TestCommands> TestCommands;  ///< never null; does nothing at first
+  /// Asked by "New" of the design menu before it replaces what is shown; false keeps it. Without one, nothing is asked.
+  std::function<bool()> MayReplaceWorkflow;
 
   std::string Class() const override { return "VNTR.Vantrel.1"; }
   std::string NameText() const override { return "Vantrel"; }

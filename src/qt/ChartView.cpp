@@ -69,6 +69,8 @@ ChartView::ChartView(Vantrel& pobjControl, QWidget* pobjParent)
 
 ChartView::~ChartView() = default;
 
+void ChartView::FinishEditing() { mobjEditor->Commit(); }
+
 void ChartView::Listen() {
   const auto damaged = [this](int reach) { return [this, reach](const Rect& rect) { Damaged(rect, reach); }; };
   mcolSubscriptions.push_back(mobjControl.ChartArea.OnDamaged.Connect([this](const Rect& rect) {
@@ -147,6 +149,13 @@ void ChartView::FitToWindow() {
   const Rect view = InView();
   mobjControl.HScroll.Value((content->Left + content->Right - (view.Right - view.Left)) / 2);
   mobjControl.VScroll.Value((content->Top + content->Bottom - (view.Bottom - view.Top)) / 2);
+}
+
+void ChartView::ShowBeginning() {
+  mobjContents = ContentBounds(mobjControl.ChartArea).value_or(Rect());
+  mobjControl.HScroll.Value(std::min(0.0F, mobjContents.Left));
+  mobjControl.VScroll.Value(std::min(0.0F, mobjContents.Top));
+  UpdateRange();
 }
 
 void ChartView::Reveal(const Rect& pobjRect) {

@@ -39,12 +39,16 @@ class ChartView final : public QAbstractScrollArea {
   void Zoom(double pdblZoom, const QPointF& pobjAnchor);
   /// Everything on the chart at once, at most in its actual size.
   void FitToWindow();
+  /// Scrolls to the upper left end of the chart, as after another workflow was given to the control.
+  void ShowBeginning();
   /// Scrolls as little as shows the rectangle, twips.
   void Reveal(const Rect& pobjRect);
   const ViewTransform& Transform() const { return mobjTransform; }
   /// The part of the chart in view, twips.
   Rect InView() const;
   void ShowPointer(PointerShape pShape);
+  /// A text that is being edited in place goes to its object, as if the user had left the box.
+  void FinishEditing();
 
  signals:
   void ZoomChanged(double pdblZoom);

@@ -12,7 +12,7 @@ namespace vantrel {
 
 namespace {
 
-constexpr float kKept = 0.1F;      // of the view, between its edge and the contents' at the ends of the range
+constexpr float kSpare = 0.75F;    // of the view, behind the contents: room to draw on
 constexpr float kSteps = 20;       // of the arrows, to a view
 constexpr float kFarthest = 1e9F;  // what the window's bar can hold
 
@@ -40,8 +40,8 @@ void ScrollLink::Range(float psngLow, float psngHigh, float psngInView) {
 
 void ScrollLink::Show() {
   const QSignalBlocker blocker(mobjWindowBar);
-  const float low = std::min({msngLow, mobjBar.Min()}) - msngInView * (1 - kKept),
-              high = std::max({msngHigh, mobjBar.Max()}) - msngInView * kKept;
+  const float low = std::min(msngLow, mobjBar.Min()),
+              high = std::max(low, std::max(msngHigh, mobjBar.Max()) - msngInView * (1 - kSpare));
   mobjWindowBar.setRange(Twips(std::min(low, mobjBar.Value())), Twips(std::max(high, mobjBar.Value())));
   mobjWindowBar.setPageStep(std::max(1, Twips(msngInView)));
   mobjWindowBar.setSingleStep(std::max(1, Twips(msngInView / kSteps)));

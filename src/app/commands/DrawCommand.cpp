@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <filesystem>
 #include <iostream>
 #include <stdexcept>
 #include <system_error>
@@ -11,6 +10,7 @@
 
 #include "app/CommandLine.h"
 #include "app/Lines.h"
+#include "app/commands/NetArgument.h"
 #include "app/database/OpenDatabase.h"
 #include "app/draw/ChartFile.h"
 #include "app/draw/OffscreenApplication.h"
@@ -56,21 +56,12 @@ void DrawCommand::Declare(CLI::App& pobjApp) {
 }
 
 int DrawCommand::Run() {
-  if (const auto id = StoredId()) {
+  if (const auto id = StoredId(mNet)) {
     DrawStored(*id);
   } else {
     DrawFile();
   }
   return kDone;
-}
-
-std::optional<std::int32_t> DrawCommand::StoredId() const {
-  std::int32_t id = 0;
-  const char* const end = mNet.data() + mNet.size();
-  const auto [stopped, fault] = std::from_chars(mNet.data(), end, id);
-  std::error_code unknown;
-  if (fault != std::errc() || stopped != end || id < 1 || std::filesystem::exists(mNet, unknown)) return std::nullopt;
-  return id;
 }
 
 void DrawCommand::DrawStored(std::int32_t plngId) const {

@@ -22,7 +22,6 @@ class DrawCommand final : public Command {
   int Run() override;
 
  private:
-  std::optional<std::int32_t> StoredId() const;
   void DrawStored(std::int32_t plngId) const;
   void DrawFile() const;
   void Draw(const std::shared_ptr<Workflow>& pobjWorkflow) const;

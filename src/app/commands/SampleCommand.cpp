@@ -1,21 +1,80 @@
 #include "app/commands/SampleCommand.h"
 
+#include <filesystem>
 #include <iostream>
 
 #include "app/CommandLine.h"
 #include "app/SampleNet.h"
+#include "app/database/DatabaseOption.h"
+#include "app/database/DefaultDatabase.h"
+#include "app/database/WorkflowStore.h"
 #include "app/play/Player.h"
+#include "interchange/PnmlImport.h"
+#if VANTREL_HAS_QT
+#include "app/draw/ChartFile.h"
+#include "app/draw/OffscreenApplication.h"
+#include "app/window/DesignerProgram.h"
+#include "app/window/Display.h"
+#endif
 
 namespace vantrel {
 
+namespace {
+
+constexpr char kSampleName[] = "order-handling";
+
+std::shared_ptr<Workflow> MakeSample() {
+  return BuildWorkflow(PnmlReader().ReadBytes(SampleNet(), std::string(kSampleName) + ".pnml")).Workflow;
+}
+
+}  // namespace
+
 int SampleCommand::Run() {
+#if VANTREL_HAS_QT
+  const std::string fault = WhyNoDisplay();
+  if (fault.empty()) return Design();
+  std::cerr << "vantrel: " << fault << '\n';
+#endif
+  return DrawAndPlay();
+}
+
+#if VANTREL_HAS_QT
+
+int SampleCommand::Design() {
+  const DatabaseAddress address = DatabaseOption().Existing();
+  const WorkflowStore store(address);
+  DesignRequest request{address, 0, {}, {}};
+  if (store.List().empty()) {
+    const auto sample = MakeSample();
+    store.Save(sample);
+    request.Id = sample->RecId;
+  }
+  return RunDesigner(request);
+}
+
+#else
+
+int SampleCommand::Design() { return DrawAndPlay(); }
+
+#endif
+
+int SampleCommand::DrawAndPlay() {
   PlayOptions options;
   options.KeepTrace = true;
-  const PnmlNet net = PnmlReader().ReadBytes(SampleNet(), "order-handling.pnml");
-  const Account account = Player(BuildWorkflow(net), options).Play();
+  const Account account = Player(BuildWorkflow(PnmlReader().ReadBytes(SampleNet(), "order-handling.pnml")), options).Play();
   std::cout << "A case of the sample net:\n\n";
   WriteText(std::cout, account);
-  std::cout << "\nPlay a net of your own with `vantrel play NET.pnml`; `vantrel --help` lists what else there is.\n";
+#if VANTREL_HAS_QT
+  const std::string database = DefaultDatabasePath();
+  MakeDefaultFolder(database);
+  const auto picture = std::filesystem::path(database).replace_filename(std::string(kSampleName) + ".png").string();
+  const OffscreenApplication application;
+  DrawWorkflow(MakeSample(), picture, 2);
+  std::cout << "\nA picture of it: " << picture << '\n';
+#endif
+  std::cout << "\nPlay a net of your own with `vantrel play NET.pnml`, draw it with `vantrel draw NET.pnml OUT.png`; `vantrel --help` "
+               "lists what\n"
+               "else there is.\n";
   return account.IsFinished() ? kDone : kNotFinished;
 }
 

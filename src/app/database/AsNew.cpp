@@ -9,12 +9,26 @@ namespace vantrel {
 
 namespace {
 
+void RenewPlace(Place& pobjPlace) {
+  pobjPlace.RecId(0);
+  pobjPlace.Dirty(true);
+  const auto definitions = pobjPlace.TokenProperties;
+  if (!definitions) return;
+  for (const auto& definition : *definitions) definition->Id = 0;
+}
+
+template <class T>
+void RenewRecord(T& pobjObject) {
+  pobjObject.RecId = 0;
+  pobjObject.Dirty = true;
+}
+
 class Renewal {
  public:
   void Renew(const std::shared_ptr<Workflow>& pobjWorkflow) {
     mcolKnown.emplace(pobjWorkflow->RecId, pobjWorkflow);
     for (const auto& transition : pobjWorkflow->Transitions) RenewEmbedded(*transition);
-    RenewRecords(*pobjWorkflow);
+    ForgetRecords(*pobjWorkflow);
   }
 
   std::vector<std::string> Missing;
@@ -37,34 +51,20 @@ class Renewal {
     }
   }
 
-  static void RenewRecords(Workflow& pobjWorkflow) {
-    pobjWorkflow.RecId = 0;
-    pobjWorkflow.GUID = Variant();
-    for (const auto& place : pobjWorkflow.Places) RenewPlace(*place);
-    for (const auto& transition : pobjWorkflow.Transitions) RenewRecord(*transition);
-    for (const auto& arc : pobjWorkflow.Arcs) RenewRecord(*arc);
-    for (const auto& vector : pobjWorkflow.Vectors) vector->RecId = 0;
-    for (const auto& notation : pobjWorkflow.Notations) RenewRecord(*notation);
-  }
-
-  static void RenewPlace(Place& pobjPlace) {
-    pobjPlace.RecId(0);
-    pobjPlace.Dirty(true);
-    const auto definitions = pobjPlace.TokenProperties;
-    if (!definitions) return;
-    for (const auto& definition : *definitions) definition->Id = 0;
-  }
-
-  template <class T>
-  static void RenewRecord(T& pobjObject) {
-    pobjObject.RecId = 0;
-    pobjObject.Dirty = true;
-  }
-
   std::unordered_map<std::int32_t, std::shared_ptr<Workflow>> mcolKnown;  // by the ids that they had
 };
 
 }  // namespace
+
+void ForgetRecords(Workflow& pobjWorkflow) {
+  pobjWorkflow.RecId = 0;
+  pobjWorkflow.GUID = Variant();
+  for (const auto& place : pobjWorkflow.Places) RenewPlace(*place);
+  for (const auto& transition : pobjWorkflow.Transitions) RenewRecord(*transition);
+  for (const auto& arc : pobjWorkflow.Arcs) RenewRecord(*arc);
+  for (const auto& vector : pobjWorkflow.Vectors) vector->RecId = 0;
+  for (const auto& notation : pobjWorkflow.Notations) RenewRecord(*notation);
+}
 
 std::vector<std::string> MakeNew(const std::shared_ptr<Workflow>& pobjWorkflow) {
   Renewal renewal;

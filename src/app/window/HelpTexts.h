@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace vantrel {
+
+/// What mouse and keyboard do on a chart.
+void ShowKeys(QWidget* pobjParent);
+void ShowAbout(QWidget* pobjParent);
+
+}  // namespace vantrel

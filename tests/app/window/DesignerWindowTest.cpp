@@ -1,0 +1,130 @@
+#include <QDockWidget>
+#include <QLabel>
+#include <fstream>
+
+#include <gmock/gmock.h>
+
+#include "app/SampleNet.h"
+#include "app/window/WindowTest.h"
+#include "qt/ChartView.h"
+#include "qt/Conversions.h"
+#include "qt/WindowEvents.h"
+
+namespace vantrel {
+
+namespace {
+
+using testing::HasSubstr;
+
+class DesignerWindowTest : public WindowTest {
+ protected:
+  void Settle() { QApplication::processEvents(); }
+  QWidget& Viewport() { return *mobjWindow->Designer().View().viewport(); }
+  QPointF CentreOf(const Element& pobjElement) { return mobjWindow->Designer().View().Transform().ToView(pobjElement.Bounds()).center(); }
+};
+
+TEST_F(DesignerWindowTest, ActionsAreEnabledAsTheEntriesOfThePopup) {
+  const auto differing = [this] {
+    std::vector<std::string> captions;
+    for (const char* caption : {"Copy", "Paste", "Delete", "Select All", "Insert Arc", "Insert Place", "Insert Elbow", "Add Notation",
+                                "Align Horizontal", "Lock controls"}) {
+      if (Control().DesignMenu().Find(caption)->Enabled != Action(caption)->isEnabled()) captions.emplace_back(caption);
+    }
+    return captions;
+  };
+  Files().New();
+  Settle();
+  EXPECT_FALSE(Action("Copy")->isEnabled());
+  Click(Viewport(), CentreOf(*Control().Workflow()->StartPlace->Image));
+  Settle();
+  EXPECT_TRUE(Action("Copy")->isEnabled());
+  EXPECT_TRUE(Action("Insert Arc")->isEnabled());
+  EXPECT_THAT(differing(), testing::IsEmpty());
+
+  Action("Copy")->trigger();
+  EXPECT_TRUE(Action("Paste")->isEnabled());
+  Action("Lock controls")->trigger();
+  EXPECT_TRUE(Control().LockControls());
+  EXPECT_TRUE(Action("Lock controls")->isChecked());
+  EXPECT_FALSE(Action("Insert Place")->isEnabled());
+  EXPECT_THAT(differing(), testing::IsEmpty());
+}
+
+TEST_F(DesignerWindowTest, InsertedObjectsLieInViewAndNotOnEachOther) {
+  Files().New();
+  Control().CurrentX = 100000;
+  for (int i = 0; i < 3; ++i) Action("Insert Place")->trigger();
+  const auto& places = Control().Workflow()->Places;
+  const Rect view = mobjWindow->Designer().View().InView();
+  for (std::int32_t i = 3; i <= 5; ++i) {
+    const Rect area = places.Item(i)->Image->Bounds();
+    EXPECT_EQ(area.United(view), view) << i;
+    EXPECT_NE(places.Item(i)->Left(), places.Item(i - 1)->Left()) << i;
+  }
+  EXPECT_EQ(Control().CurrentControl().get(), places.Item(5)->Image.get());
+}
+
+TEST_F(DesignerWindowTest, AnArcIsDrawnByAKeyAndAClick) {
+  Files().New();
+  auto& workflow = *Control().Workflow();
+  Click(Viewport(), CentreOf(*workflow.Transitions.Item(1)->Image));
+  Settle();
+  Action("Insert Arc")->trigger();
+  Settle();
+  EXPECT_THAT(Part<QLabel>("Mode")->text().toStdString(), HasSubstr("Click where the arc leads"));
+  Click(Viewport(), CentreOf(*workflow.EndPlace()->Image));
+  Settle();
+  EXPECT_EQ(workflow.Arcs.Count(), 2);
+  EXPECT_EQ(Part<QLabel>("Mode")->text(), "Design");
+  EXPECT_EQ(Part<QLabel>("Counts")->text(), "2 places, 1 transition, 2 arcs");
+}
+
+TEST_F(DesignerWindowTest, TheListFiltersAndOpensByKeyboard) {
+  Files().New();
+  Control().Workflow()->StartPlace->Name("Inbox");
+  ASSERT_TRUE(Files().Save());
+  Files().New();
+  Control().Workflow()->StartPlace->Name("Warehouse");
+  ASSERT_TRUE(Files().Save());
+  auto* const filter = Part<QLineEdit>("Filter");
+  auto* const list = Part<QTreeView>("Stored");
+  EXPECT_EQ(list->model()->rowCount(), 2);
+  filter->setText("inb");
+  ASSERT_EQ(list->model()->rowCount(), 1);
+  PressKey(*filter, Qt::Key_Return);
+  EXPECT_EQ(Files().ShownId(), 1);
+}
+
+TEST_F(DesignerWindowTest, AFileIsImportedAndDroppedFilesAreToo) {
+  const std::string file = File("order.pnml");
+  std::ofstream(file) << SampleNet();
+  ASSERT_TRUE(Files().Import(ToQString(file)));
+  EXPECT_EQ(mobjWindow->windowTitle(), "Order.pnml[*]");
+  EXPECT_EQ(Control().Workflow()->Transitions.Count(), 9);
+
+  AnswerNext(QMessageBox::Ok);
+  EXPECT_FALSE(Files().Import(ToQString(File("missing.pnml"))));
+  EXPECT_THAT(mstrAsked, HasSubstr("missing.pnml"));
+  EXPECT_EQ(Control().Workflow()->Transitions.Count(), 9);
+}
+
+TEST_F(DesignerWindowTest, ADatabaseThatIsAwayIsToldWhereItsListWouldBe) {
+  std::filesystem::rename(File("test.db"), File("away.db"));
+  auto* const list = mobjWindow->findChild<StoredList*>();
+  emit list->RefreshRequested();
+  EXPECT_THAT(Part<QTreeView>("Stored")->model()->index(0, 1).data().toString().toStdString(), HasSubstr("no such database"));
+  EXPECT_EQ(list->Chosen(), std::nullopt);
+}
+
+TEST_F(DesignerWindowTest, RemembersWhatItLookedLike) {
+  Part<QDockWidget>("StoredDock")->hide();
+  mobjWindow->resize(777, 555);
+  mobjWindow->close();
+  Reopen();
+  EXPECT_FALSE(Part<QDockWidget>("StoredDock")->isVisible());
+  EXPECT_EQ(mobjWindow->width(), 777);
+}
+
+}  // namespace
+
+}  // namespace vantrel

@@ -1,0 +1,73 @@
+// A designer window over a database of its own, and a user who answers its questions.
+#pragma once
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "app/database/Engines.h"
+#include "app/window/DesignerWindow.h"
+
+namespace vantrel {
+
+class WindowTest : public testing::Test {
+ protected:
+  WindowTest() {
+    QApplication::setOrganizationName("VantrelTest");
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, mobjFolder.path());
+    CreateDatabase(Address());
+    Reopen();
+  }
+
+  /// The program is ended and started again.
+  void Reopen() {
+    mobjWindow.reset();
+    mobjWindow = std::make_unique<DesignerWindow>(Store());
+    mobjWindow->show();
+    QApplication::processEvents();
+  }
+
+  std::string File(const char* pstrName) const { return (mobjFolder.path() + '/' + pstrName).toStdString(); }
+  DatabaseAddress Address() const { return DatabaseAddress(File("test.db")); }
+  WorkflowStore Store() const { return WorkflowStore(Address()); }
+  FileCommands& Files() { return mobjWindow->Files(); }
+  Vantrel& Control() { return mobjWindow->Designer().Control(); }
+
+  QAction* Action(const QString& pstrText) {
+    for (QAction* const action : mobjWindow->findChildren<QAction*>()) {
+      if (action->text().remove('&').remove("…") == pstrText) return action;
+    }
+    ADD_FAILURE() << "no action " << pstrText.toStdString();
+    return nullptr;
+  }
+
+  template <class W>
+  W* Part(const char* pstrName) {
+    return mobjWindow->findChild<W*>(pstrName);
+  }
+
+  /// Answers the next box, and notes its text.
+  void AnswerNext(QMessageBox::StandardButton pButton) {
+    QTimer::singleShot(0, qApp, [this, pButton] {
+      auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      mstrAsked = (box->text() + ' ' + box->informativeText()).toStdString();
+      box->button(pButton)->click();
+    });
+  }
+
+  QTemporaryDir mobjFolder;
+  std::unique_ptr<DesignerWindow> mobjWindow;
+  std::string mstrAsked;
+};
+
+}  // namespace vantrel
