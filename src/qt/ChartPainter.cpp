@@ -7,9 +7,7 @@ namespace vantrel {
 
 void ChartPainter::Paint(QPainter& pobjPainter, const ChartSurface& pobjSurface, const Rect& pobjArea, double pdblZoom) {
   if (!pobjSurface.Visible()) return;
-  const auto elements = pobjSurface.ElementsIn(pobjArea);
-  PaintPass pass(pobjPainter, mPictures, mLayouts, pdblZoom, pobjSurface.BackColor());
-  for (const Element* element : elements) pass.Paint(*element);
+  PaintPass(pobjPainter, mPictures, mLayouts, pdblZoom, pobjSurface.BackColor()).Paint(pobjSurface.ElementsIn(pobjArea));
 }
 
 }  // namespace vantrel

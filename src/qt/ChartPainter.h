@@ -19,9 +19,10 @@ class ChartPainter {
   /// what takes most of the time. Files of vectors hold all of it.
   static constexpr double kLegible = 3.7;
 
-  /// Paints what touches the area (twips), from back to front, without the background. One chart pixel (15 twips) becomes
-  /// `pdblZoom` of the painter's units, the chart's origin is the painter's. The painter may be moved and scaled, not rotated;
-  /// on pixel devices pictures and edges come to lie on whole pixels. Nothing while the surface is invisible.
+  /// Paints what touches the area (twips), without the background: arcs behind all else, as they are for the mouse, the rest from
+  /// back to front. On a dark ground the designer's pictures, and lines and texts that are black, are painted light. One chart pixel (15
+  /// twips) becomes `pdblZoom` of the painter's units, the chart's origin is the painter's. The painter may be moved and scaled, not
+  /// rotated; on pixel devices pictures and edges come to lie on whole pixels. Nothing while the surface is invisible.
   void Paint(QPainter& pobjPainter, const ChartSurface& pobjSurface, const Rect& pobjArea, double pdblZoom);
 
  private:

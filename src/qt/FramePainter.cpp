@@ -2,19 +2,21 @@
 
 #include <QPainter>
 #include <QPen>
+#include <algorithm>
 
 #include "designer/FocusFrame.h"
 #include "designer/SelectionRectangle.h"
+#include "qt/ChartInk.h"
 #include "qt/ViewTransform.h"
 
 namespace vantrel {
 
 namespace {
 
-constexpr QColor kAccent(0x1d, 0x4e, 0xd8);
 constexpr QColor kHalo(255, 255, 255, 190);  // between the dashes, to be seen on a dark chart
 constexpr QColor kBandFill(0x1d, 0x4e, 0xd8, 28);
 constexpr double kOutlineGap = 2;
+constexpr double kSmallestHandle = 6, kLargestHandle = 12;  // device-independent pixels, whatever the zoom
 
 void PaintFrame(QPainter& pobjPainter, const QRectF& pobjBox, Qt::PenStyle pStyle) {
   pobjPainter.setBrush(Qt::NoBrush);
@@ -25,6 +27,11 @@ void PaintFrame(QPainter& pobjPainter, const QRectF& pobjBox, Qt::PenStyle pStyl
 }
 
 QRectF OnPixels(const QRectF& pobjBox) { return QRectF(pobjBox.toAlignedRect()).translated(0.5, 0.5); }
+
+QRectF HandleBox(const QRectF& pobjHandle) {
+  const double side = std::clamp(pobjHandle.width(), kSmallestHandle, kLargestHandle);
+  return {pobjHandle.center() - QPointF(side, side) / 2, QSizeF(side, side)};
+}
 
 }  // namespace
 
@@ -44,7 +51,7 @@ void PaintFocusFrame(QPainter& pobjPainter, const FocusFrame& pobjFrame, const V
   for (int handle = 0; handle < FocusFrame::kHandles; ++handle) {
     pobjPainter.setPen(QPen(kAccent, 1));
     pobjPainter.setBrush(Qt::white);
-    pobjPainter.drawRect(OnPixels(pobjTransform.ToView(pobjFrame.Handle(handle))).adjusted(0, 0, -1, -1));
+    pobjPainter.drawRect(OnPixels(HandleBox(pobjTransform.ToView(pobjFrame.Handle(handle)))).adjusted(0, 0, -1, -1));
   }
 }
 

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "chart/Label.h"
+#include "qt/ChartInk.h"
 #include "qt/Conversions.h"
 
 namespace vantrel {
@@ -20,23 +21,24 @@ void PaintCorner(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth,
   pobjPainter.fillRect(QRectF(x, pobjBox.top(), pdblWidth, pobjBox.height()), pobjColor);
 }
 
-// Half transparent black and white make an edge on any background.
-void PaintBevel(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth, bool pblnSunken) {
-  const QColor shade(0, 0, 0, 110), light(255, 255, 255, 200);
+// Two strengths of one colour: white light on a white ground, or black shade on a black one, would leave half a frame.
+void PaintBevel(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth, bool pblnSunken, bool pblnOnDark) {
+  const QColor shade = pblnOnDark ? QColor(255, 255, 255, 55) : QColor(0, 0, 0, 140);
+  const QColor light = pblnOnDark ? QColor(255, 255, 255, 170) : QColor(0, 0, 0, 45);
   PaintCorner(pobjPainter, pobjBox, pdblWidth, pblnSunken ? light : shade, false);
   PaintCorner(pobjPainter, pobjBox, pdblWidth, pblnSunken ? shade : light, true);
 }
 
 }  // namespace
 
-void PaintLabelBox(QPainter& pobjPainter, const Label& pobjLabel, const QRectF& pobjBox, double pdblScale) {
+void PaintLabelBox(QPainter& pobjPainter, const Label& pobjLabel, const QRectF& pobjBox, double pdblScale, bool pblnOnDark) {
   const bool hasBorder = pobjLabel.BorderStyle() != 0, isRaised = pobjLabel.Appearance() == 1;
   if (pobjLabel.BackStyle() == 1) pobjPainter.fillRect(pobjBox, ToQColor(pobjLabel.BackColor()));
   const double line = std::max(1.0, std::round(pdblScale));
   if (isRaised) {
-    PaintBevel(pobjPainter, pobjBox, std::max(line, std::round(1.5 * pdblScale)), hasBorder);
+    PaintBevel(pobjPainter, pobjBox, std::max(line, std::round(1.5 * pdblScale)), hasBorder, pblnOnDark);
   } else if (hasBorder) {
-    const QColor color = ToQColor(pobjLabel.ForeColor());
+    const QColor color = InkOn(pobjLabel.ForeColor(), pblnOnDark);
     PaintCorner(pobjPainter, pobjBox, line, color, false);
     PaintCorner(pobjPainter, pobjBox, line, color, true);
   }

@@ -9,6 +9,7 @@
 #include "chart/Image.h"
 #include "chart/Label.h"
 #include "chart/Line.h"
+#include "qt/ChartInk.h"
 #include "qt/ChartPainter.h"
 #include "qt/Conversions.h"
 #include "qt/LabelPainter.h"
@@ -19,10 +20,8 @@ namespace {
 
 constexpr double kVisible = 1.25;                // device pixels; smaller pictures are left out
 constexpr double kRenderedPixels = 1000 * 1000;  // larger pictures are not kept as pixels
-constexpr QColor kSelection(0x1d, 0x4e, 0xd8);
-constexpr int kDark = 90;  // of 255
-constexpr QColor kLightInk(0xe2, 0xe8, 0xf0);
-constexpr QColor kUnknownPicture(0x94, 0xa3, 0xb8);
+constexpr QColor kUnknownPicture(0x64, 0x74, 0x8b);
+constexpr int kVeil = 185;  // of 255: a line is still seen to go on under a text
 
 bool HoldsVectors(const QPainter& pobjPainter) {
   const auto type = pobjPainter.paintEngine()->type();
@@ -44,6 +43,16 @@ void PaintOutline(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth
   pobjPainter.drawRect(pobjBox.adjusted(half, half, -half, -half));
 }
 
+// Filled corners on a thin frame: seen on a round picture as on a square one that fills the frame, and not by colour alone. The
+// hollow squares of the focus frame are for pulling, these are not.
+void PaintSelectionMark(QPainter& pobjPainter, const QRectF& pobjBox, double pdblScale, const QColor& pobjColor) {
+  PaintOutline(pobjPainter, pobjBox, std::max(1.0, std::round(pdblScale)), pobjColor);
+  const double side = std::min(std::max(3.0, std::round(6 * pdblScale)), std::round(pobjBox.width() / 3));
+  for (const double x : {pobjBox.left(), pobjBox.right() - side}) {
+    for (const double y : {pobjBox.top(), pobjBox.bottom() - side}) pobjPainter.fillRect(QRectF(x, y, side, side), pobjColor);
+  }
+}
+
 }  // namespace
 
 PaintPass::PaintPass(QPainter& pobjPainter, Pictures& pobjPictures, TextLayouts& pobjLayouts, double pdblZoom, Color plngBackColor)
@@ -57,7 +66,9 @@ PaintPass::PaintPass(QPainter& pobjPainter, Pictures& pobjPictures, TextLayouts&
       mdblScale(pdblZoom),
       mdblX(0),
       mdblY(0),
-      mlngBackColor(plngBackColor) {
+      mblnOnDark(IsDark(ToQColor(plngBackColor))),
+      mobjVeil(ToQColor(plngBackColor)) {
+  mobjVeil.setAlpha(kVeil);
   mobjPainter.save();
   mobjPainter.setRenderHint(QPainter::Antialiasing);
   if (mblnVectors) return;
@@ -86,7 +97,23 @@ QRectF PaintPass::Target(const Rect& pobjRect) const {
   return {std::round(left), std::round(top), std::round(width), std::round(height)};
 }
 
-void PaintPass::Paint(const Element& pobjElement) {
+// The template line is the rubber band of an arc that is being drawn: it lies before the pictures that it leads to.
+bool PaintPass::IsArc(const Element& pobjElement) { return pobjElement.Family() == ctlLineFamily && pobjElement.Index() != 0; }
+
+void PaintPass::Paint(const std::vector<Element*>& pcolElements) {
+  for (const Element* element : pcolElements) {
+    if (IsArc(*element)) PaintLine(static_cast<const Line&>(*element));
+  }
+  FlushLines();
+  for (const Element* element : pcolElements) {
+    if (element->Family() == ctlLabelFamily || element->Family() == lblCountFamily) PaintVeil(static_cast<const Label&>(*element));
+  }
+  for (const Element* element : pcolElements) {
+    if (!IsArc(*element)) PaintElement(*element);
+  }
+}
+
+void PaintPass::PaintElement(const Element& pobjElement) {
   if (pobjElement.Family() == ctlLineFamily) return PaintLine(static_cast<const Line&>(pobjElement));
   FlushLines();
   if (pobjElement.Family() == ctlImageFamily || pobjElement.Family() == ctlHandleFamily) {
@@ -96,20 +123,31 @@ void PaintPass::Paint(const Element& pobjElement) {
   }
 }
 
+void PaintPass::PaintVeil(const Label& pobjLabel) {
+  if (pobjLabel.BackStyle() == 1 || !ShowsText(pobjLabel)) return;
+  const QRectF text = mobjLayouts.Of(pobjLabel).Extent;
+  const float left = pobjLabel.Left() + static_cast<float>(text.left()) * kTwipsPerPixel;
+  const float top = pobjLabel.Top() + static_cast<float>(text.top()) * kTwipsPerPixel;
+  Use(kTarget);
+  mobjPainter.fillRect(Target({left, top, left + static_cast<float>(text.width()) * kTwipsPerPixel,
+                               top + static_cast<float>(text.height()) * kTwipsPerPixel}),
+                       mobjVeil);
+}
+
 void PaintPass::PaintImage(const Image& pobjImage) {
   const QRectF target = Target(pobjImage.Bounds());
   if (!mblnVectors && target.width() < kVisible) return;
   Use(kTarget);
   if (const auto picture = PictureOf(pobjImage)) PaintPicture(picture, target);
-  if (pobjImage.BorderStyle() != 0) PaintOutline(mobjPainter, target, std::max(1.0, std::round(mdblScale)), kSelection);
+  if (pobjImage.BorderStyle() != 0) PaintSelectionMark(mobjPainter, target, mdblScale, mblnOnDark ? kLightAccent : kAccent);
 }
 
 void PaintPass::PaintPicture(const std::shared_ptr<const Picture>& pobjPicture, const QRectF& pobjTarget) {
   bool isKnown = false;
   if (mblnVectors || pobjTarget.width() * pobjTarget.height() > kRenderedPixels) {
-    isKnown = Pictures::Render(mobjPainter, pobjPicture->Key, pobjTarget);
+    isKnown = Pictures::Render(mobjPainter, pobjPicture->Key, pobjTarget, mblnOnDark);
   } else {
-    const QPixmap& pixmap = mobjPictures.Pixmap(pobjPicture, pobjTarget.size().toSize());
+    const QPixmap& pixmap = mobjPictures.Pixmap(pobjPicture, pobjTarget.size().toSize(), mblnOnDark);
     isKnown = !pixmap.isNull();
     if (isKnown) mobjPainter.drawPixmap(pobjTarget.topLeft().toPoint(), pixmap);
   }
@@ -119,16 +157,24 @@ void PaintPass::PaintPicture(const std::shared_ptr<const Picture>& pobjPicture, 
 void PaintPass::PaintLabel(const Label& pobjLabel) {
   if (pobjLabel.BackStyle() == 1 || pobjLabel.BorderStyle() != 0 || pobjLabel.Appearance() == 1) {
     Use(kTarget);
-    PaintLabelBox(mobjPainter, pobjLabel, Target(pobjLabel.Bounds()), mdblScale);
+    PaintLabelBox(mobjPainter, pobjLabel, Target(pobjLabel.Bounds()), mdblScale, IsOnDark(pobjLabel));
   }
-  const bool isLegible = mblnVectors || PixelSize(pobjLabel.Font()) * mdblZoom >= ChartPainter::kLegible;
-  if (isLegible && !pobjLabel.Caption().empty()) PaintText(pobjLabel);
+  if (ShowsText(pobjLabel)) PaintText(pobjLabel);
+}
+
+bool PaintPass::IsOnDark(const Label& pobjLabel) const {
+  return pobjLabel.BackStyle() == 1 ? IsDark(ToQColor(pobjLabel.BackColor())) : mblnOnDark;
+}
+
+bool PaintPass::ShowsText(const Label& pobjLabel) const {
+  if (pobjLabel.Caption().empty()) return false;
+  return mblnVectors || PixelSize(pobjLabel.Font()) * mdblZoom >= ChartPainter::kLegible;
 }
 
 void PaintPass::PaintText(const Label& pobjLabel) {
   const TextLayout& layout = mobjLayouts.Of(pobjLabel);
   Use(kChart);
-  const QColor color = Ink(pobjLabel.ForeColor(), pobjLabel.BackStyle() == 1 ? pobjLabel.BackColor() : mlngBackColor);
+  const QColor color = InkOn(pobjLabel.ForeColor(), IsOnDark(pobjLabel));
   if (mobjPainter.pen().color() != color || mobjPainter.pen().style() == Qt::NoPen) mobjPainter.setPen(color);
   if (mobjPainter.font() != layout.Font) mobjPainter.setFont(layout.Font);
   const QRectF box = ToPixels(pobjLabel.Bounds());
@@ -147,15 +193,9 @@ void PaintPass::PaintLayout(const TextLayout& pobjLayout, const QRectF& pobjBox)
   mobjPainter.drawText(box, static_cast<int>(pobjLayout.Alignment) | wrap | Qt::TextDontClip, pobjLayout.Text.text());
 }
 
-// Black is what lines and texts have unless somebody chose a colour; on a dark chart it turns light, or nothing could be read.
-QColor PaintPass::Ink(Color plngColor, Color plngBackground) {
-  if (plngColor == kBlack && qGray(ToQColor(plngBackground).rgb()) < kDark) return kLightInk;
-  return ToQColor(plngColor);
-}
-
 void PaintPass::PaintLine(const Line& pobjLine) {
   const double width = std::max(mblnVectors ? 0.0 : 1.0, pobjLine.BorderWidth() * mdblScale);
-  const QColor color = Ink(pobjLine.BorderColor(), mlngBackColor);
+  const QColor color = pobjLine.BorderColor() == kBlack && !mblnOnDark ? kInk : InkOn(pobjLine.BorderColor(), mblnOnDark);
   if (width != mdblLineWidth || color != mobjLineColor) {
     FlushLines();
     mdblLineWidth = width;

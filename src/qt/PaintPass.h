@@ -20,8 +20,10 @@ class Image;
 class Label;
 class Line;
 
-/// Belongs to ChartPainter. Boxes, pictures and lines are painted in units of the target (device pixels, or the units of a file
-/// of vectors), texts in chart pixels under a scaled painter, so that they break alike at every zoom.
+/// Belongs to ChartPainter. Paints in layers: arcs; a veil over them under each text, so that a line never runs through a caption;
+/// everything else from back to front. Which layer an element belongs to follows from the element alone, so that a part of the
+/// chart looks the same painted by itself. Boxes, pictures and lines are painted in units of the target (device pixels, or the units of a
+/// file of vectors), texts in chart pixels under a scaled painter, so that they break alike at every zoom.
 class PaintPass {
  public:
   PaintPass(QPainter& pobjPainter, Pictures& pobjPictures, TextLayouts& pobjLayouts, double pdblZoom, Color plngBackColor);
@@ -29,20 +31,25 @@ class PaintPass {
   PaintPass(const PaintPass&) = delete;
   PaintPass& operator=(const PaintPass&) = delete;
 
-  void Paint(const Element& pobjElement);
+  /// From back to front.
+  void Paint(const std::vector<Element*>& pcolElements);
 
  private:
   enum Units { kNone, kTarget, kChart };
 
+  static bool IsArc(const Element& pobjElement);
+  void PaintElement(const Element& pobjElement);
+  void PaintVeil(const Label& pobjLabel);
   void PaintImage(const Image& pobjImage);
   void PaintPicture(const std::shared_ptr<const Picture>& pobjPicture, const QRectF& pobjTarget);
   void PaintLabel(const Label& pobjLabel);
+  bool IsOnDark(const Label& pobjLabel) const;
+  bool ShowsText(const Label& pobjLabel) const;
   void PaintText(const Label& pobjLabel);
   void PaintLayout(const TextLayout& pobjLayout, const QRectF& pobjBox);
   void PaintLine(const Line& pobjLine);
   QLineF Snapped(QLineF pobjLine, double pdblWidth) const;
   void FlushLines();
-  static QColor Ink(Color plngColor, Color plngBackground);
   void Use(Units pUnits);
   QRectF Target(const Rect& pobjRect) const;
 
@@ -54,7 +61,8 @@ class PaintPass {
   double mdblZoom;
   double mdblScale, mdblX, mdblY;  // target units from chart pixels
   Units mUnits = kNone;
-  Color mlngBackColor;
+  bool mblnOnDark;
+  QColor mobjVeil;
   QColor mobjLineColor;
   double mdblLineWidth = 0;
   std::vector<QLineF> mcolLines;  // of one pen, not painted yet

@@ -1,6 +1,8 @@
 #include "qt/TextLayouts.h"
 
 #include <QChar>
+#include <QFontMetricsF>
+#include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
 #include <functional>
@@ -15,7 +17,10 @@ namespace {
 
 constexpr qreal kSlack = 0.75;     // chart pixels that rounding may take
 constexpr int kNarrowest = 90;     // per cent; a text that needs no more is condensed rather than wrapped
-constexpr qreal kPadding = 2;      // chart pixels between a box and its text, where there is room
+constexpr qreal kPadding = 3;      // chart pixels between a box and its text, where there is room
+constexpr qreal kTight = 1;        // the same where the text is too wide
+constexpr qreal kLeading = 1.5;    // chart pixels of a line above and below its letters
+constexpr qreal kTooHigh = 1.1;    // as a multiple of the box; below that only the room under the letters is missing
 constexpr qreal kSmallestBox = 1;  // chart pixels
 
 Qt::Alignment AlignmentOf(std::int16_t pintAlignment) {
@@ -31,22 +36,56 @@ void LayOut(TextLayout& pobjLayout, qreal psngWidth, Qt::Alignment pAlignment, Q
 }
 
 // Boxes that were fitted to their text on another system may be a little narrow for it here: then the letters move together, as
-// wrapping would hide the last word.
-void FitTo(TextLayout& pobjLayout, qreal psngWidth) {
+// wrapping would hide the last word. Returns how wide the text is.
+qreal FitTo(TextLayout& pobjLayout, qreal psngWidth) {
   LayOut(pobjLayout, -1, Qt::AlignLeft, QTextOption::NoWrap);
   const QSizeF natural = pobjLayout.Text.size();
-  const int stretch = natural.width() > 0 ? static_cast<int>(100 * psngWidth / natural.width()) : 100;
+  const int stretch = natural.width() > 0 ? static_cast<int>(100 * (psngWidth - 2 * kTight) / natural.width()) : 100;
   if (natural.width() <= psngWidth + kSlack) {
     pobjLayout.Inset.setX(std::clamp((psngWidth - natural.width()) / 2, 0.0, kPadding));
     const qreal inner = std::max(psngWidth - 2 * pobjLayout.Inset.x(), natural.width());
     LayOut(pobjLayout, inner, pobjLayout.Alignment, QTextOption::NoWrap);
-  } else if (stretch >= kNarrowest) {
-    pobjLayout.Font.setStretch(stretch - 1);
-    LayOut(pobjLayout, psngWidth + kSlack, pobjLayout.Alignment, QTextOption::NoWrap);
-  } else {
-    pobjLayout.Inset.setX(psngWidth > 6 * kPadding ? kPadding : 0);
-    LayOut(pobjLayout, std::max(psngWidth - 2 * pobjLayout.Inset.x(), kSmallestBox), pobjLayout.Alignment, QTextOption::WordWrap);
+    return natural.width();
   }
+  if (stretch >= kNarrowest) {
+    pobjLayout.Font.setStretch(stretch - 1);
+    pobjLayout.Inset.setX(kTight);
+    LayOut(pobjLayout, psngWidth - 2 * kTight + kSlack, pobjLayout.Alignment, QTextOption::NoWrap);
+    return psngWidth - 2 * kTight;
+  }
+  pobjLayout.Inset.setX(psngWidth > 6 * kPadding ? kPadding : 0);
+  LayOut(pobjLayout, std::max(psngWidth - 2 * pobjLayout.Inset.x(), kSmallestBox), pobjLayout.Alignment, QTextOption::WordWrap);
+  return pobjLayout.Text.textWidth();
+}
+
+// The last line that the box has room for ends in an ellipsis: without one nobody sees that there is more. A box lower than a line
+// shows what it can.
+void CutTo(TextLayout& pobjLayout, qreal psngHeight) {
+  const QString text = pobjLayout.Text.text();
+  const qreal width = pobjLayout.Text.textWidth();
+  QTextLayout lines(text, pobjLayout.Font);
+  lines.setTextOption(pobjLayout.Text.textOption());
+  lines.beginLayout();
+  qreal bottom = 0;
+  int last = 0;
+  for (QTextLine line = lines.createLine(); line.isValid(); line = lines.createLine()) {
+    line.setLineWidth(width);
+    bottom += line.height();
+    if (bottom > psngHeight + kSlack) break;
+    last = line.textStart();
+  }
+  lines.endLayout();
+  if (lines.lineAt(0).height() > psngHeight + kSlack) return;
+  const QString rest = text.mid(last).replace(QChar::LineSeparator, ' ') + QChar(0x2026);
+  pobjLayout.Text.setText(text.left(last) + QFontMetricsF(pobjLayout.Font).elidedText(rest, Qt::ElideRight, width));
+  pobjLayout.Text.prepare({}, pobjLayout.Font);
+}
+
+QRectF ExtentOf(const TextLayout& pobjLayout, qreal psngWidth, const QRectF& pobjBox) {
+  const qreal spare = pobjLayout.Text.textWidth() - psngWidth;
+  const qreal shift = pobjLayout.Alignment == Qt::AlignRight ? spare : pobjLayout.Alignment == Qt::AlignHCenter ? spare / 2 : 0;
+  const QRectF lines(pobjLayout.Inset + QPointF(shift, 0), QSizeF(psngWidth, pobjLayout.Text.size().height()));
+  return lines.adjusted(0, kLeading, 0, -kLeading).intersected(pobjBox);
 }
 
 TextLayout MakeLayout(const Label& pobjLabel) {
@@ -58,10 +97,12 @@ TextLayout MakeLayout(const Label& pobjLabel) {
   layout.Alignment = AlignmentOf(pobjLabel.Alignment());
   layout.IsDecorated = pobjLabel.Font().Underline || pobjLabel.Font().Strikethrough;
   const qreal width = pobjLabel.Width() / kTwipsPerPixel, height = pobjLabel.Height() / kTwipsPerPixel;
-  FitTo(layout, width);
+  const qreal extent = FitTo(layout, width);
+  if (layout.Text.size().height() > height * kTooHigh + kSlack) CutTo(layout, height);
   const QSizeF size = layout.Text.size();
   layout.Inset.setY(std::clamp((height - size.height()) / 2, 0.0, kPadding));
-  layout.IsClipped = size.width() > width + 2 * kSlack || size.height() > height * 1.1 + kSlack;
+  layout.IsClipped = size.width() > width + 2 * kSlack || size.height() > height * kTooHigh + kSlack;
+  layout.Extent = ExtentOf(layout, extent, QRectF(0, 0, width, height));
   return layout;
 }
 

@@ -3,6 +3,7 @@
 
 #include <QFont>
 #include <QPointF>
+#include <QRectF>
 #include <QStaticText>
 #include <cstddef>
 #include <cstdint>
@@ -20,6 +21,7 @@ struct TextLayout {
   QStaticText Text;
   QFont Font;
   QPointF Inset;                            ///< of the text from the box's corner
+  QRectF Extent;                            ///< what the text covers of the box, from the box's corner
   Qt::Alignment Alignment = Qt::AlignLeft;  ///< for painters that lay the text out themselves
   bool IsClipped = false;                   ///< reaches beyond the box
   bool IsDecorated = false;                 ///< underlined or struck out: QStaticText draws that at wrong places when scaled

@@ -2,6 +2,9 @@
 
 #include <QImage>
 #include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -18,7 +21,7 @@ constexpr QRgb kPaper = 0xffffffff;
 QImage Painted(const ChartSurface& pobjSurface, double pdblZoom = 1, double pdblRatio = 1, QSize pobjSize = {200, 120}) {
   QImage image(pobjSize * pdblRatio, QImage::Format_RGB32);
   image.setDevicePixelRatio(pdblRatio);
-  image.fill(kPaper);
+  image.fill(ToQColor(pobjSurface.BackColor()));
   QPainter painter(&image);
   ChartPainter().Paint(painter, pobjSurface, {-1e6F, -1e6F, 1e6F, 1e6F}, pdblZoom);
   return image;
@@ -30,6 +33,49 @@ int Inked(const QImage& pobjImage, const QRect& pobjPart) {
     for (int x = pobjPart.left(); x <= pobjPart.right(); ++x) inked += pobjImage.pixel(x, y) != kPaper ? 1 : 0;
   }
   return inked;
+}
+
+double Luminance(const QColor& pobjColor) {
+  const auto linear = [](double part) { return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
+  return 0.2126 * linear(pobjColor.redF()) + 0.7152 * linear(pobjColor.greenF()) + 0.0722 * linear(pobjColor.blueF());
+}
+
+// How many pixels stand out from the ground by a contrast ratio.
+int Readable(const QImage& pobjImage, const QRect& pobjPart, const QColor& pobjGround, double pdblContrast) {
+  int readable = 0;
+  for (int y = pobjPart.top(); y <= pobjPart.bottom(); ++y) {
+    for (int x = pobjPart.left(); x <= pobjPart.right(); ++x) {
+      const double a = Luminance(pobjImage.pixelColor(x, y)) + 0.05, b = Luminance(pobjGround) + 0.05;
+      readable += std::max(a, b) / std::min(a, b) >= pdblContrast ? 1 : 0;
+    }
+  }
+  return readable;
+}
+
+// The largest of any pixel, of 255. Qt clips slanted thin lines before it smooths them, which moves their edges by a hair.
+int Difference(const QImage& pobjA, const QImage& pobjB) {
+  int largest = 0;
+  for (int y = 0; y < pobjA.height(); ++y) {
+    for (int x = 0; x < pobjA.width(); ++x) largest = std::max(largest, std::abs(qGray(pobjA.pixel(x, y)) - qGray(pobjB.pixel(x, y))));
+  }
+  return largest;
+}
+
+void AddSamples(ChartSurface& pobjSurface) {  // overlapping
+  const auto note = AddLabel(pobjSurface, "A note of several words, in a box that is too small for them", 900, 90);
+  note->Resize(1200, 600);
+  note->Appearance(1);
+  AddImage(pobjSurface, "TransitionEnabled", 150, 300)->BorderStyle(1);
+  AddImage(pobjSurface, "PlaceGreen", 1800, 600);
+  AddImage(pobjSurface, "InputLeft", 1680, 780);
+  AddLabel(pobjSurface, "Goods on order", 1200, 540);
+  const auto opaque = AddLabel(pobjSurface, "Opaque", 500, 700);
+  opaque->BackStyle(1);
+  opaque->BackColor(0x99f5ff);
+  opaque->BorderStyle(1);
+  AddLine(pobjSurface, 630, 540, 1680, 840);
+  AddLine(pobjSurface, 630, 900, 2400, 600)->BorderWidth(2);
+  AddLabel(pobjSurface, "[stock > 0]", 900, 660);
 }
 
 int Inked(const QImage& pobjImage) { return Inked(pobjImage, pobjImage.rect()); }
@@ -58,18 +104,82 @@ TEST(ChartPainter, RendersPicturesAnewForEveryZoom) {
   EXPECT_LE(colors.size(), 3U);
 }
 
-TEST(ChartPainter, StacksElementsOfAllKindsAlike) {
+TEST(ChartPainter, LooksTheSameInDoublePixelsAsInDoubleZoom) {
+  ChartSurface surface;
+  AddSamples(surface);
+  EXPECT_EQ(Painted(surface, 1, 2), Painted(surface, 2, 1, {400, 240})) << "something was stretched";
+}
+
+TEST(ChartPainter, PaintsAPartLikeTheWhole) {
+  ChartSurface surface;
+  AddSamples(surface);
+  for (const Color ground : {kWhite, 0x705a48, 0x302820}) {
+    surface.BackColor(ground);
+    const QImage whole = Painted(surface, 1.3);
+    QImage parts(whole.size(), QImage::Format_RGB32);
+    parts.fill(ToQColor(ground));
+    ChartPainter chart;
+    for (int y = 0; y < 120; y += 17) {
+      for (int x = 0; x < 200; x += 23) {
+        QPainter painter(&parts);
+        painter.setClipRect(x, y, 23, 17);
+        const auto twips = [](int pixels) { return static_cast<float>(pixels) * kTwipsPerPixel / 1.3F; };
+        chart.Paint(painter, surface, {twips(x - 2), twips(y - 2), twips(x + 25), twips(y + 19)}, 1.3);
+      }
+    }
+    EXPECT_LE(Difference(whole, parts), 6) << ground;
+  }
+}
+
+TEST(ChartPainter, KeepsArcsBehindAndTheRestInItsOrder) {
   ChartSurface surface;
   const auto image = AddImage(surface, "Transition", 0, 0);
   const auto line = AddLine(surface, 0, 240, 480, 240);
-  line->BorderWidth(4);
-  line->BorderColor(0x0000ff);
   const QRgb red = 0xffff0000;
+  line->BorderColor(0x0000ff);
+  line->BringToFront();
+  EXPECT_NE(Painted(surface).pixel(16, 16), red);
+
+  const auto note = AddLabel(surface, "", 0, 0);
+  note->Resize(480, 480);
+  note->BackStyle(1);
+  note->BackColor(0x0000ff);
   EXPECT_EQ(Painted(surface).pixel(16, 16), red);
   image->BringToFront();
   EXPECT_NE(Painted(surface).pixel(16, 16), red);
-  line->BringToFront();
-  EXPECT_EQ(Painted(surface).pixel(16, 16), red);
+
+  Line& rubber = surface.ctlLine.Template();
+  rubber.Place(0, 240, 480, 240);
+  rubber.BorderColor(0x0000ff);
+  rubber.BringToFront();
+  rubber.Visible(true);
+  EXPECT_EQ(Painted(surface).pixel(16, 16), red) << "an arc being drawn";
+}
+
+TEST(ChartPainter, LetsNoLineRunThroughACaption) {
+  ChartSurface surface;
+  const auto label = AddLabel(surface, "i                              i", 300, 300);
+  const auto level = static_cast<int>(label->Top() + label->Height() / 2), middle = static_cast<int>(label->Left() + label->Width() / 2);
+  AddLine(surface, 0, static_cast<float>(level), 3000, static_cast<float>(level))->BringToFront();
+  const QImage image = Painted(surface);
+  const auto darkest = [&](int x) { return std::min(qGray(image.pixel(x, level / 15)), qGray(image.pixel(x, level / 15 - 1))); };
+  EXPECT_GT(darkest(middle / 15), 120);
+  EXPECT_LT(darkest(10), 80);
+}
+
+TEST(ChartPainter, MarksASelectedPictureByMoreThanColour) {
+  ChartSurface surface;
+  const auto image = AddImage(surface, "Place", 0, 0);
+  for (const double zoom : {0.5, 1.0, 4.0}) {
+    const auto side = static_cast<int>(4 * zoom), far = static_cast<int>(32 * zoom) - side;
+    for (const auto& [x, y] : {std::pair{0, 0}, {far, 0}, {0, far}, {far, far}}) {
+      const QRect corner(x, y, side, side);
+      image->BorderStyle(0);
+      EXPECT_LT(Inked(Painted(surface, zoom, 1, {200, 200}), corner), side * side / 3);
+      image->BorderStyle(1);
+      EXPECT_EQ(Inked(Painted(surface, zoom, 1, {200, 200}), corner), side * side);
+    }
+  }
 }
 
 TEST(ChartPainter, LeavesIllegibleTextOutAndKeepsLargeText) {
@@ -109,14 +219,52 @@ TEST(ChartPainter, BreaksLinesWhereTheTextDoes) {
   EXPECT_GT(Inked(image, QRect(0, 16, 14, 16)), 0);
 }
 
-TEST(ChartPainter, TurnsBlackLightOnADarkChart) {
+TEST(ChartPainter, EndsATextThatIsTooLongInAWholeLine) {
   ChartSurface surface;
-  const auto line = AddLine(surface, 0, 450, 1500, 450);
-  line->BorderWidth(3);
+  const auto label =
+      AddLabel(surface, "Too much text for so small a box, so that most of it can never be seen at all, wherever it breaks", 0, 0);
+  const auto line = static_cast<int>(std::lround(label->Height() / 15));
+  label->Resize(1500, static_cast<float>(line * 15) * 2.7F);
+  const QImage image = Painted(surface);
+  EXPECT_GT(Inked(image, QRect(0, line, 100, line)), 0);
+  EXPECT_EQ(Inked(image, QRect(0, line * 2 + 4, 100, line)), 0) << "halves of letters";
+}
+
+TEST(ChartPainter, StaysReadableOnEveryGround) {
+  ChartSurface surface;
+  AddLine(surface, 30, 450, 450, 450)->BorderWidth(3);
+  AddImage(surface, "InputLeft", 600, 300);
+  AddImage(surface, "OutputVertical", 900, 300);
+  AddImage(surface, "Place", 1200, 300)->BorderStyle(1);
+  AddImage(surface, "TransitionEnabled", 1800, 300);
+  const auto text = AddLabel(surface, "MMM", 0, 900);
+  text->Font({"Arial", 16, true});
+  text->Resize(900, 450);
+  const auto note = AddLabel(surface, "", 900, 900);
+  note->Resize(600, 600);
+  note->BorderStyle(1);
+  for (const Color ground : {kWhite, 0xb4dcf0, 0x707070, 0x6a4a30, 0x302820, kBlack}) {
+    surface.BackColor(ground);
+    const QImage image = Painted(surface);
+    const QColor paper = ToQColor(ground);
+    struct Part {
+      QRect Box;
+      int Seen;  // pixels
+    };
+    for (const auto& part : {Part{{5, 20, 8, 20}, 24}, Part{{40, 20, 8, 8}, 15}, Part{{60, 20, 8, 8}, 12}, Part{{80, 20, 32, 32}, 100},
+                             Part{{120, 20, 32, 32}, 80}}) {
+      EXPECT_GE(Readable(image, part.Box, paper, 3), part.Seen) << part.Box.left() << " on " << ground;
+    }
+    EXPECT_GE(Readable(image, QRect(0, 60, 59, 30), paper, 4.5), 60) << "text on " << ground;
+    EXPECT_GE(Readable(image, QRect(60, 60, 40, 40), paper, 3), 4 * 39) << "border on " << ground;
+  }
+}
+
+TEST(ChartPainter, LeavesColoursThatSomebodyChose) {
+  ChartSurface surface;
+  AddLine(surface, 0, 450, 1500, 450)->BorderColor(0x000040);
   surface.BackColor(0x302820);
-  EXPECT_GT(qGray(Painted(surface).pixel(50, 30)), 150);
-  line->BorderColor(0x000040);
-  EXPECT_LT(qGray(Painted(surface).pixel(50, 30)), 60) << "a colour that somebody chose";
+  EXPECT_EQ(Painted(surface).pixel(50, 30), 0xff400000);
 }
 
 TEST(ChartPainter, PaintsNothingOfAHiddenSurface) {
