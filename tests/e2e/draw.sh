@@ -81,7 +81,13 @@ head -c 300 "$net" >"$scratch/cut.pnml"
 refuses_drawing "cut.pnml" "$scratch/cut.pnml" "$scratch/bad/kept.png"
 refuses_drawing "--db" "$net" "$scratch/bad/kept.png" --db "$scratch/nets.db"
 for name in kept.png chart.svg chart.pdf; do # as on a full disk
-  (trap '' XFSZ && ulimit -f 4 && run 2 draw "$net" "$scratch/bad/$name" && says "bad/$name: cannot be written" && finish) || fail "full: $name"
+  (
+    trap '' XFSZ
+    ulimit -f 4
+    run 2 draw "$net" "$scratch/bad/$name"
+    says "bad/$name: cannot be written"
+    finish
+  ) || fail "a full disk: $name"
 done
 printf '<fontconfig><dir>/nowhere</dir><cachedir>%s</cachedir></fontconfig>\n' "$scratch/cache" >"$scratch/fonts.conf"
 FONTCONFIG_FILE=$scratch/fonts.conf refuses_drawing "no fonts" "$net" "$scratch/bad/kept.png"
