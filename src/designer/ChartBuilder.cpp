@@ -72,10 +72,8 @@ void ChartBuilder::Clear() {
 
 // Before anything is taken off the chart.
 void ChartBuilder::RequirePictures(const Workflow& pobjWorkflow) const {
-  for (Collection<Place>::Cursor cursor(pobjWorkflow.Places); const Place* place = cursor.Next();) {
-    const std::string& key = place->DisabledImageKey;
-    if (!mobjControl.ImageList->Find(key)) throw Error(vntErrElementNotFound, "Element not found: the picture \"" + key + "\"");
-  }
+  const ElementBinding binding(mobjControl);
+  for (Collection<Place>::Cursor cursor(pobjWorkflow.Places); const Place* place = cursor.Next();) binding.RequirePicture(*place);
 }
 
 void ChartBuilder::LetGo() {

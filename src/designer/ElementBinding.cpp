@@ -92,10 +92,14 @@ void ElementBinding::BindNode(Node& pobjNode, const PicturePtr& pobjPicture) {
   SizeLabel(caption, pobjNode.CaptionWidth, pobjNode.CaptionHeight);
 }
 
+void ElementBinding::RequirePicture(const Place& pobjPlace) const {
+  const std::string& key = pobjPlace.DisabledImageKey;
+  if (!mobjControl.ImageList->Find(key)) throw Error(vntErrElementNotFound, "Element not found: the picture \"" + key + "\"");
+}
+
 void ElementBinding::Bind(Place& pobjPlace) {
-  const auto picture = mobjControl.ImageList->Find(pobjPlace.DisabledImageKey);
-  if (!picture) throw Error(vntErrElementNotFound);
-  BindNode(pobjPlace, picture);
+  RequirePicture(pobjPlace);
+  BindNode(pobjPlace, mobjControl.ImageList->Find(pobjPlace.DisabledImageKey));
   NewLabel(mobjSurface.lblCount, pobjPlace.CountLabel, pobjPlace.Key, "");
   pobjPlace.Image->BringToFront();
 }

@@ -14,7 +14,9 @@ class ElementBinding {
  public:
   explicit ElementBinding(Vantrel& pobjControl) : mobjControl(pobjControl), mobjSurface(pobjControl.ChartArea) {}
 
-  /// Error 35601, with nothing bound, when the image list lacks the place's picture.
+  /// Error 35601 when the image list lacks the place's picture: to be asked before something else is changed for the place's sake.
+  void RequirePicture(const Place& pobjPlace) const;
+  /// Throws as RequirePicture does, with nothing bound.
   void Bind(Place& pobjPlace);
   /// A transition with an unknown picture takes the usual ones.
   void Bind(Transition& pobjTransition);

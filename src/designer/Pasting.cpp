@@ -97,7 +97,10 @@ void Pasting::Paste() {
   }
   RequirePosition(mobjControl);
   Objects objects;  // as they are now: deleting and listeners change selection and clipboard
-  for (const auto& object : *clipboard) objects.push_back(object);
+  for (const auto& object : *clipboard) {
+    objects.push_back(object);
+    if (const auto* place = dynamic_cast<const Place*>(object.get())) ElementBinding(mobjControl).RequirePicture(*place);
+  }
   const Ref<Vantrel> control(&mobjControl);
   if (!mobjControl.Workflow()) mobjControl.Workflow(std::make_shared<Workflow>());
   if (!control || !mobjControl.Workflow()) return;

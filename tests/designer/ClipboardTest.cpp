@@ -144,6 +144,15 @@ TEST_F(ClipboardTest, PastesIntoAnotherControlAndWithoutWorkflow) {
   EXPECT_EQ(Invariants(other).Faults(), "");
 }
 
+TEST_F(ClipboardTest, DeletesNothingForWhatItCannotPaste) {
+  Control->SelectAll();
+  Control->Copy();
+  Net().Places.Last()->DisabledImageKey = "Bucket";
+  EXPECT_THROW(Control->Paste(), Error);
+  EXPECT_EQ(Net().Places.Count(), 2);
+  EXPECT_EQ(Control->Selection()->Count(), 4);
+}
+
 TEST_F(ClipboardTest, PastesNoArcWithoutItsEnds) {
   const auto arc = Net().Arcs.First();
   Select({arc, Net().Vectors.First(), Net().StartPlace.Lock()});
