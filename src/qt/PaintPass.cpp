@@ -21,7 +21,8 @@ namespace {
 constexpr double kVisible = 1.25;                // device pixels; smaller pictures are left out
 constexpr double kRenderedPixels = 1000 * 1000;  // larger pictures are not kept as pixels
 constexpr QColor kUnknownPicture(0x64, 0x74, 0x8b);
-constexpr int kVeil = 185;  // of 255: a line is still seen to go on under a text
+constexpr double kConnector = 8;  // chart pixels, a side
+constexpr int kVeil = 185;        // of 255: a line is still seen to go on under a text
 
 bool HoldsVectors(const QPainter& pobjPainter) {
   const auto type = pobjPainter.paintEngine()->type();
@@ -89,12 +90,13 @@ void PaintPass::Use(Units pUnits) {
   mobjPainter.setWorldTransform(pUnits == kChart ? mobjChartUnits : mobjTargetUnits);
 }
 
+// Edges are rounded one by one: what touches on the chart touches on the screen at every zoom.
 QRectF PaintPass::Target(const Rect& pobjRect) const {
   const double scale = mdblScale / kTwipsPerPixel;
-  const double left = pobjRect.Left * scale + mdblX, top = pobjRect.Top * scale + mdblY;
-  const double width = (pobjRect.Right - pobjRect.Left) * scale, height = (pobjRect.Bottom - pobjRect.Top) * scale;
-  if (mblnVectors) return {left, top, width, height};
-  return {std::round(left), std::round(top), std::round(width), std::round(height)};
+  const QPointF from(pobjRect.Left * scale + mdblX, pobjRect.Top * scale + mdblY);
+  const QPointF to(pobjRect.Right * scale + mdblX, pobjRect.Bottom * scale + mdblY);
+  if (mblnVectors) return {from, to};
+  return {QPointF(std::round(from.x()), std::round(from.y())), QPointF(std::round(to.x()), std::round(to.y()))};
 }
 
 // The template line is the rubber band of an arc that is being drawn: it lies before the pictures that it leads to.
@@ -207,17 +209,26 @@ void PaintPass::PaintLine(const Line& pobjLine) {
   mcolLines.push_back(mblnVectors ? line : Snapped(line, width));
 }
 
-// Level and upright lines are moved onto whole pixels: between two rows they would be a grey ribbon.
+// Level and upright lines are moved onto whole pixels, between two rows they would be a grey ribbon: onto those in the middle of a
+// connector at their end. They reach under what they join.
 QLineF PaintPass::Snapped(QLineF pobjLine, double pdblWidth) const {
-  const double shift = std::lround(pdblWidth) % 2 == 1 ? 0.5 : 0;
-  const auto snap = [shift](double pdblAt) { return std::round(pdblAt - shift) + shift; };
+  const double shift = std::lround(pdblWidth) % 2 == 1 ? 0.5 : 0, half = kConnector / 2 * mdblScale;
+  const auto snap = [shift, half](double pdblAt) {
+    const double middle = (std::round(pdblAt - half) + std::round(pdblAt + half)) / 2;
+    return std::floor(middle - shift + 0.5) + shift;
+  };
+  const auto along = [](double pdblFrom, double pdblTo) {
+    return std::pair(std::floor(std::min(pdblFrom, pdblTo)), std::ceil(std::max(pdblFrom, pdblTo)));
+  };
   if (std::abs(pobjLine.dy()) < 0.5) {
+    const auto [from, to] = along(pobjLine.x1(), pobjLine.x2());
     const double y = snap(pobjLine.y1());
-    return {pobjLine.x1(), y, pobjLine.x2(), y};
+    return {from, y, to, y};
   }
   if (std::abs(pobjLine.dx()) < 0.5) {
+    const auto [from, to] = along(pobjLine.y1(), pobjLine.y2());
     const double x = snap(pobjLine.x1());
-    return {x, pobjLine.y1(), x, pobjLine.y2()};
+    return {x, from, x, to};
   }
   return pobjLine;
 }

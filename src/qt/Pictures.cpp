@@ -10,7 +10,7 @@ namespace vantrel {
 
 namespace {
 
-constexpr std::size_t kSizesKept = 6;  // of one picture: two screens and a few steps of zoom
+constexpr std::size_t kSizesKept = 8;  // of one picture: two zooms or screens, and a pixel more or less for where it lies
 
 // What the colours of the designer's pictures become on a dark ground.
 constexpr std::pair<const char*, const char*> kOnDark[] = {

@@ -92,6 +92,30 @@ TEST(ChartPainter, PaintsAPictureInItsPlaceAndNowhereElse) {
   }
 }
 
+TEST(ChartPainter, JoinsPicturesConnectorsAndArcsAtEveryZoom) {
+  ChartSurface surface;
+  AddImage(surface, "OutputHorizontal", 495, 195);
+  AddImage(surface, "InputLeft", 1155, 195);
+  AddImage(surface, "Transition", 15, 15);
+  AddLine(surface, 615, 255, 1155, 255);
+  for (double zoom = 0.5; zoom < 2; zoom += 0.07) {
+    const QImage image = Painted(surface, zoom, 1, {200, 100});
+    const auto middle = static_cast<int>(17 * zoom);
+    for (auto x = static_cast<int>(33 * zoom); x < 79 * zoom; ++x) {
+      const auto dark = [&](int y) { return qGray(image.pixel(x, y)) < 150; };
+      EXPECT_TRUE(dark(middle - 1) || dark(middle) || dark(middle + 1)) << "gap at " << x << " " << zoom;
+    }
+    const auto row = [&](double x) {  // the darkest
+      int darkest = middle - 2;
+      for (int y = middle - 2; y <= middle + 2; ++y) {
+        if (qGray(image.pixel(static_cast<int>(x), y)) < qGray(image.pixel(static_cast<int>(x), darkest))) darkest = y;
+      }
+      return darkest;
+    };
+    EXPECT_LE(std::abs(row(37 * zoom) - row(60 * zoom)), 1) << "step at " << zoom;
+  }
+}
+
 TEST(ChartPainter, RendersPicturesAnewForEveryZoom) {
   ChartSurface surface;
   AddImage(surface, "Transition", 0, 0);
