@@ -15,6 +15,17 @@ std::vector<ControlState*>& Controls() {
   return controls;
 }
 
+// How many scopes there are, and the newest control that was made inside of them.
+struct Calls {
+  std::int32_t Depth = 0;
+  Ref<ControlState> Newcomer;
+};
+
+Calls& CallsUnderWay() {
+  static Calls calls;
+  return calls;
+}
+
 const ImageList& OwnImages() {
   static const ImageList images = ImageList::VantrelImages();
   return images;
@@ -23,10 +34,13 @@ const ImageList& OwnImages() {
 }  // namespace
 
 ControlState::ControlState(Vantrel& pobjControl) : mobjControl(pobjControl) {
-  if (auto* active = Active()) active->Store();
   mobjControl.ImageList = &OwnImages();
   Controls().push_back(this);
-  Load();
+  if (CallsUnderWay().Depth > 0) {
+    CallsUnderWay().Newcomer = this;
+  } else {
+    Enter();
+  }
 }
 
 ControlState::~ControlState() {
@@ -44,6 +58,11 @@ ControlState* ControlState::Active() {
   const auto& controls = Controls();
   const auto found = std::find_if(controls.begin(), controls.end(), [](const ControlState* state) { return state->IsActive(); });
   return found == controls.end() ? nullptr : *found;
+}
+
+void ControlState::Enter() {
+  if (auto* active = Active()) active->Store();
+  Load();
 }
 
 bool ControlState::IsActive() const { return gobjVantrel == mobjControl.mobjHost.get(); }
@@ -84,6 +103,7 @@ void ControlState::TakeFromOthers(const std::shared_ptr<Workflow>& pobjWorkflow)
 }
 
 ControlScope::ControlScope(const Vantrel& pobjControl) {
+  ++CallsUnderWay().Depth;
   ControlState& own = *pobjControl.mobjState;
   if (own.IsActive()) {
     own.LoadChart();
@@ -100,9 +120,13 @@ ControlScope::ControlScope(const Vantrel& pobjControl) {
 }
 
 ControlScope::~ControlScope() {
-  if (!mobjOwn.IsSet()) return;
   if (mobjOwn && mobjOwn->IsActive()) mobjOwn->Store();
   if (mobjBefore) mobjBefore->Load();
+  mobjForeign.reset();
+  Calls& calls = CallsUnderWay();
+  if (--calls.Depth > 0) return;
+  if (calls.Newcomer) calls.Newcomer->Enter();
+  calls.Newcomer = nullptr;
 }
 
 }  // namespace vantrel

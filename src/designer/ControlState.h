@@ -14,7 +14,8 @@ namespace vantrel {
 class Vantrel;
 
 /// Keeps use mode and connector sides of a control while another one's are the process-wide ones. A new control's state is
-/// the process-wide one; when the control whose state that is goes, the next younger one's follows.
+/// the process-wide one; where a listener makes the control, as soon as the call that it listens to is over, which goes on with its
+/// own. When the control whose state that is goes, the next younger one's follows.
 class ControlState : public Referable {
  public:
   explicit ControlState(Vantrel& pobjControl);
@@ -27,6 +28,8 @@ class ControlState : public Referable {
   bool IsActive() const;
   UseModeConstant UseMode() const { return IsActive() ? gintUseMode : mintUseMode; }
 
+  /// Makes it the process-wide one and keeps what that was.
+  void Enter();
   /// Makes it the process-wide one.
   void Load();
   /// Keeps what the process-wide one has become.

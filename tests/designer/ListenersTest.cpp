@@ -107,6 +107,26 @@ TEST_F(ListenersTest, MayDoAnythingWhileABendPointComesOrGoes) {
   }
 }
 
+TEST_F(ListenersTest, MayOpenAnotherControlInTheMiddleOfAnything) {
+  std::unique_ptr<Vantrel> other;
+  const auto open = [&](Vantrel&) {
+    other = std::make_unique<Vantrel>(Tools);
+    other->UseMode(vntRun);
+  };
+  for (const auto& [name, operation] : Operations()) {
+    SCOPED_TRACE(name);
+    const auto andLook = [&, operation = operation](Vantrel& control) {
+      other = nullptr;
+      operation(control);
+      if (!other) return;
+      EXPECT_EQ(Invariants(*other).Faults(), "") << "nothing of the one's on the other's chart";
+      EXPECT_EQ(other->UseMode(), vntRun);
+      EXPECT_EQ(gintUseMode, vntRun) << "the newest one's state is the process-wide one";
+    };
+    RunAll(andLook, open);
+  }
+}
+
 TEST_F(ListenersTest, SeeTheChartAsItIsWhenObjectsArePasted) {
   Prepare();
   const auto listener = Control->OnPasted.Connect([&](const std::shared_ptr<ObjectCollection>& objects) {

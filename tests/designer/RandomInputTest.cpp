@@ -77,9 +77,17 @@ class RandomUser {
     HeadlessToolkit::Choose(pobjMenu, item.Caption);
   }
 
+  // Another control takes what is shown away, or nothing.
+  void ShowElsewhere() {
+    if (!mOther || Chance(3)) mOther = std::make_unique<Vantrel>(mControl.Tools());
+    mOther->Workflow(mControl.Workflow());
+    if (Chance(2)) mOther->InsertPlace();
+    EXPECT_EQ(Invariants(*mOther).Faults(), "");
+  }
+
   void ShowAnother() {
     const auto kind = Below(4);
-    if (kind == 0) return mControl.Workflow(nullptr);
+    if (kind == 0) return ShowElsewhere();
     auto& net = mNets[static_cast<std::size_t>(kind & 1)];
     if (kind == 3) net = nullptr;
     const auto shown = net ? net : (net = mControl.NewWorkflow());
@@ -192,6 +200,7 @@ class RandomUser {
   std::mt19937 mRandom;
   std::vector<std::shared_ptr<Workflow>> mNets;
   std::vector<Subscription> mListening;
+  std::unique_ptr<Vantrel> mOther;
   std::int32_t mMostArcs = 0, mMostElbows = 0;
   bool mIsInterfering = false;
 };
