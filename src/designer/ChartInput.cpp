@@ -91,7 +91,9 @@ void ChartInput::Release(const PointerInput& pobjInput) {
 
 void ChartInput::DoubleClick(const PointerInput& pobjInput) {
   if (pobjInput.Button != vntLeftButton || !IsSomewhere(pobjInput)) return;
-  Serve(mobjControl, [&] { DoubleClickAt(mobjControl, pobjInput); });
+  bool isUsed = true;
+  // Two presses in quick succession are no double-click where that means nothing.
+  if (Serve(mobjControl, [&] { isUsed = DoubleClickAt(mobjControl, pobjInput); }) && !isUsed) Press(pobjInput);
 }
 
 bool ChartInput::Key(std::int16_t pintCode, std::int16_t pintShift) {

@@ -4,7 +4,9 @@
 failures=0
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-export XDG_DATA_HOME=$scratch/data-home  # never the user's own database
+# Never the user's own database, settings or display.
+export XDG_DATA_HOME=$scratch/data-home XDG_CONFIG_HOME=$scratch/config-home XDG_RUNTIME_DIR=$scratch
+unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 
 fail() {
   printf 'FAILED: %s\n' "$*" >&2

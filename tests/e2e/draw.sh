@@ -3,7 +3,6 @@
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
 data=$1
-unset DISPLAY WAYLAND_DISPLAY QT_QPA_PLATFORM
 
 # draws ARGUMENT...: status 0, and nobody is told anything.
 draws() {

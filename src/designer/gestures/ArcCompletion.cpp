@@ -9,7 +9,8 @@ namespace vantrel {
 namespace {
 
 std::shared_ptr<Arc> Join(const Ref<Vantrel>& pobjControl, const std::shared_ptr<Node>& pobjTarget) {
-  if (pobjControl->Workflow()->StartPlace == dynamic_cast<Place*>(pobjTarget.get())) {
+  const auto start = pobjControl->Workflow()->StartPlace;
+  if (start && pobjTarget.get() == start.get()) {
     MsgBox("Arcs are allowed to be drawn into a Start Place.");
     return nullptr;
   }

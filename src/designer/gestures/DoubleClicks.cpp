@@ -9,13 +9,16 @@ namespace vantrel {
 
 namespace {
 
-void OpenObject(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjObject) {
+bool OpenObject(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjObject) {
   if (const auto transition = std::dynamic_pointer_cast<Transition>(pobjObject)) {
     pobjControl.OnTransitionDblClick.Raise(transition);
-  } else if (const auto place = std::dynamic_pointer_cast<Place>(pobjObject); place && IsTesting(pobjControl)) {
-    const auto dialogs = pobjControl.Dialogs;
-    dialogs->ShowTokens(pobjControl, *place);
+    return true;
   }
+  const auto place = std::dynamic_pointer_cast<Place>(pobjObject);
+  if (!place || !IsTesting(pobjControl)) return false;
+  const auto dialogs = pobjControl.Dialogs;
+  dialogs->ShowTokens(pobjControl, *place);
+  return true;
 }
 
 void EditLabel(Vantrel& pobjControl, Element& pobjLabel) {
@@ -28,15 +31,15 @@ void EditLabel(Vantrel& pobjControl, Element& pobjLabel) {
 
 }  // namespace
 
-void DoubleClickAt(Vantrel& pobjControl, const PointerInput& pobjInput) {
-  if (pobjControl.FocusFrame.HandleAt(pobjInput.X, pobjInput.Y) >= 0) return;
+bool DoubleClickAt(Vantrel& pobjControl, const PointerInput& pobjInput) {
+  if (pobjControl.FocusFrame.HandleAt(pobjInput.X, pobjInput.Y) >= 0) return false;
   Element* const element = ElementUnder(pobjControl, pobjInput.X, pobjInput.Y);
-  if (!element || element->Family() == ctlHandleFamily) return;
-  if (element->Family() == ctlLabelFamily && pobjControl.UseMode() == vntDesign) {
-    EditLabel(pobjControl, *element);
-  } else {
-    OpenObject(pobjControl, ObjectOf(pobjControl, *element));
+  if (!element || element->Family() == ctlHandleFamily) return false;
+  if (element->Family() != ctlLabelFamily || pobjControl.UseMode() != vntDesign) {
+    return OpenObject(pobjControl, ObjectOf(pobjControl, *element));
   }
+  EditLabel(pobjControl, *element);
+  return true;
 }
 
 }  // namespace vantrel

@@ -36,6 +36,16 @@ TEST_F(ArcDrawing, TheRubberBandRunsFromTheConnectorToTheMouseAndTheClickJoins) 
   EXPECT_EQ(Tools.CurrentPointer(), vntPointerDefault);
 }
 
+TEST_F(ArcDrawing, WithoutAStartPlaceNoTargetIsTakenForOne) {
+  Net->StartPlace = nullptr;
+  Control->CurrentX = 5000;
+  const auto transition = Control->InsertTransition();
+  Begin(*Start().Image);
+  Click(*transition->Image);
+  EXPECT_EQ(Net->Arcs.Count(), 2);
+  EXPECT_TRUE(Messages.empty());
+}
+
 TEST_F(ArcDrawing, TheRulesSpeakUpAndTheGestureIsOver) {
   struct Case {
     Element* From;
