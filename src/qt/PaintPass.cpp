@@ -21,8 +21,9 @@ namespace {
 constexpr double kVisible = 1.25;                // device pixels; smaller pictures are left out
 constexpr double kRenderedPixels = 1000 * 1000;  // larger pictures are not kept as pixels
 constexpr QColor kUnknownPicture(0x64, 0x74, 0x8b);
-constexpr double kConnector = 8;  // chart pixels, a side
-constexpr int kVeil = 185;        // of 255: a line is still seen to go on under a text
+constexpr double kVeiledZoom = 0.2;  // below it, what text is still legible is so large that no line hides it
+constexpr double kConnector = 8;     // chart pixels, a side
+constexpr int kVeil = 185;           // of 255: a line is still seen to go on under a text
 
 bool HoldsVectors(const QPainter& pobjPainter) {
   const auto type = pobjPainter.paintEngine()->type();
@@ -30,11 +31,9 @@ bool HoldsVectors(const QPainter& pobjPainter) {
 }
 
 // Handles come from the chart without a picture of their own.
-std::shared_ptr<const Picture> PictureOf(const Image& pobjImage) {
-  static const ImageList designer = ImageList::VantrelImages();
-  static const auto handle = designer.Find("Handle");
-  if (pobjImage.Picture()) return pobjImage.Picture();
-  return pobjImage.Family() == ctlHandleFamily ? handle : nullptr;
+const std::shared_ptr<const Picture>& PictureOf(const Image& pobjImage) {
+  static const auto handle = ImageList::VantrelImages().Find("Handle");
+  return pobjImage.Picture() || pobjImage.Family() != ctlHandleFamily ? pobjImage.Picture() : handle;
 }
 
 void PaintOutline(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth, const QColor& pobjColor) {
@@ -103,16 +102,22 @@ QRectF PaintPass::Target(const Rect& pobjRect) const {
 bool PaintPass::IsArc(const Element& pobjElement) { return pobjElement.Family() == ctlLineFamily && pobjElement.Index() != 0; }
 
 void PaintPass::Paint(const std::vector<Element*>& pcolElements) {
+  std::vector<const Element*> others;
+  others.reserve(pcolElements.size());
   for (const Element* element : pcolElements) {
-    if (IsArc(*element)) PaintLine(static_cast<const Line&>(*element));
+    if (IsArc(*element)) {
+      PaintLine(static_cast<const Line&>(*element));
+    } else {
+      others.push_back(element);
+    }
   }
   FlushLines();
-  for (const Element* element : pcolElements) {
-    if (element->Family() == ctlLabelFamily || element->Family() == lblCountFamily) PaintVeil(static_cast<const Label&>(*element));
+  if (mblnVectors || mdblZoom >= kVeiledZoom) {
+    for (const Element* element : others) {
+      if (element->Family() == ctlLabelFamily || element->Family() == lblCountFamily) PaintVeil(static_cast<const Label&>(*element));
+    }
   }
-  for (const Element* element : pcolElements) {
-    if (!IsArc(*element)) PaintElement(*element);
-  }
+  for (const Element* element : others) PaintElement(*element);
 }
 
 void PaintPass::PaintElement(const Element& pobjElement) {
@@ -137,10 +142,10 @@ void PaintPass::PaintVeil(const Label& pobjLabel) {
 }
 
 void PaintPass::PaintImage(const Image& pobjImage) {
+  if (!mblnVectors && pobjImage.Width() * mdblScale < kVisible * kTwipsPerPixel) return;
   const QRectF target = Target(pobjImage.Bounds());
-  if (!mblnVectors && target.width() < kVisible) return;
   Use(kTarget);
-  if (const auto picture = PictureOf(pobjImage)) PaintPicture(picture, target);
+  if (const auto& picture = PictureOf(pobjImage)) PaintPicture(picture, target);
   if (pobjImage.BorderStyle() != 0) PaintSelectionMark(mobjPainter, target, mdblScale, mblnOnDark ? kLightAccent : kAccent);
 }
 
@@ -213,11 +218,14 @@ void PaintPass::PaintLine(const Line& pobjLine) {
 // connector at their end. They reach under what they join.
 QLineF PaintPass::Snapped(QLineF pobjLine, double pdblWidth) const {
   const double shift = std::lround(pdblWidth) % 2 == 1 ? 0.5 : 0, half = kConnector / 2 * mdblScale;
-  const auto snap = [shift, half](double pdblAt) {
+  const bool isFar = 2 * half < kVisible;  // no connector is painted
+  const auto snap = [shift, half, isFar](double pdblAt) {
+    if (isFar) return std::round(pdblAt - shift) + shift;
     const double middle = (std::round(pdblAt - half) + std::round(pdblAt + half)) / 2;
     return std::floor(middle - shift + 0.5) + shift;
   };
-  const auto along = [](double pdblFrom, double pdblTo) {
+  const auto along = [isFar](double pdblFrom, double pdblTo) {
+    if (isFar) return std::pair(pdblFrom, pdblTo);
     return std::pair(std::floor(std::min(pdblFrom, pdblTo)), std::ceil(std::max(pdblFrom, pdblTo)));
   };
   if (std::abs(pobjLine.dy()) < 0.5) {

@@ -86,7 +86,7 @@ bool Pictures::Render(QPainter& pobjPainter, const std::string& pstrKey, const Q
 const QPixmap& Pictures::Pixmap(const std::shared_ptr<const Picture>& pobjPicture, QSize pobjSize, bool pblnOnDark) {
   if (std::exchange(mlngEdition, TheGallery().Edition) != TheGallery().Edition) mEntries.clear();
   Entry& entry = mEntries[pobjPicture.get()];
-  entry.Keeper = pobjPicture;
+  if (!entry.Keeper) entry.Keeper = pobjPicture;
   for (const Sized& sized : entry.Sizes) {
     if (sized.Size == pobjSize && sized.IsOnDark == pblnOnDark) return sized.Pixmap;
   }
