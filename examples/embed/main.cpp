@@ -28,6 +28,7 @@ class HostWindow final : public QMainWindow {
     AddTools();
     Listen();
     mobjControl.EnablePopups = true;
+    mobjControl.MayReplaceWorkflow = [this] { return MayLeave(); };
     mobjControl.VNTRDB->Connection = OpenSqlite(pstrFile.toStdString());
   }
 
@@ -58,10 +59,12 @@ class HostWindow final : public QMainWindow {
   Vantrel& Control() { return mobjControl; }
 
  private:
-  void closeEvent(QCloseEvent* pobjEvent) override {
+  bool MayLeave() {
     const auto answer = mobjControl.Dirty() ? MsgBox("Save the changes?", vntYesNoCancel) : vntNo;
-    pobjEvent->setAccepted(answer == vntNo || (answer == vntYes && Save()));
+    return answer == vntNo || (answer == vntYes && Save());
   }
+
+  void closeEvent(QCloseEvent* pobjEvent) override { pobjEvent->setAccepted(MayLeave()); }
 
   // The entries of the design pop-up serve a tool bar as well: they know when they are allowed, and show their own errors.
   void AddTools() {

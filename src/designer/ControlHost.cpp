@@ -1,5 +1,6 @@
 #include "designer/ControlHost.h"
 
+#include "designer/ControlState.h"
 #include "designer/Vantrel.h"
 
 namespace vantrel {
@@ -12,7 +13,10 @@ float ControlHost::CurrentX() const { return mobjControl.CurrentX; }
 
 float ControlHost::CurrentY() const { return mobjControl.CurrentY; }
 
-void ControlHost::Dirty(bool pblnDirty) { mobjControl.Dirty(pblnDirty); }
+void ControlHost::Dirty(vantrel::Workflow& pobjWorkflow, bool pblnDirty) {
+  Vantrel* const showing = ControlState::Showing(pobjWorkflow);
+  (showing ? *showing : mobjControl).Dirty(pblnDirty);
+}
 
 void ControlHost::UseMode(UseModeConstant pintMode) { mobjControl.UseMode(pintMode); }
 

@@ -20,7 +20,8 @@ class ControlHost final : public DesignerHost {
   Ref<vantrel::Workflow> Workflow() const override;
   float CurrentX() const override;
   float CurrentY() const override;
-  void Dirty(bool pblnDirty) override;
+  /// Goes to the control that shows the workflow, whichever is entered; otherwise to its own: what is embedded belongs to what is shown.
+  void Dirty(vantrel::Workflow& pobjWorkflow, bool pblnDirty) override;
   void UseMode(UseModeConstant pintMode) override;
   void CurrentControl(const Ref<Element>& pobjElement) override;
   void RunAction(Transition& pobjTransition) override;

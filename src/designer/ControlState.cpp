@@ -54,6 +54,13 @@ ControlState::~ControlState() {
   }
 }
 
+Vantrel* ControlState::Showing(const Workflow& pobjWorkflow) {
+  for (const ControlState* const state : Controls()) {
+    if (state->mobjControl.Workflow().get() == &pobjWorkflow) return &state->mobjControl;
+  }
+  return nullptr;
+}
+
 ControlState* ControlState::Active() {
   const auto& controls = Controls();
   const auto found = std::find_if(controls.begin(), controls.end(), [](const ControlState* state) { return state->IsActive(); });

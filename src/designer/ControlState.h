@@ -25,6 +25,8 @@ class ControlState : public Referable {
 
   /// The control whose state is the process-wide one, or null.
   static ControlState* Active();
+  /// The control that shows the workflow, or null.
+  static Vantrel* Showing(const Workflow& pobjWorkflow);
   bool IsActive() const;
   UseModeConstant UseMode() const { return IsActive() ? gintUseMode : mintUseMode; }
 

@@ -100,7 +100,7 @@ void ElementBinding::RequirePicture(const Place& pobjPlace) const {
 void ElementBinding::Bind(Place& pobjPlace) {
   RequirePicture(pobjPlace);
   BindNode(pobjPlace, mobjControl.ImageList->Find(pobjPlace.DisabledImageKey));
-  NewLabel(mobjSurface.lblCount, pobjPlace.CountLabel, pobjPlace.Key, "");
+  NewLabel(mobjSurface.lblCount, pobjPlace.CountLabel, pobjPlace.Key, "").AutoSize(true);
   pobjPlace.Image->BringToFront();
 }
 

@@ -31,8 +31,8 @@ class DesignerHost {
   virtual float CurrentX() const { return 200; }
   virtual float CurrentY() const { return 200; }
 
-  /// A workflow became dirty or clean.
-  virtual void Dirty(bool) {}
+  /// A workflow became dirty or clean, or what it was already.
+  virtual void Dirty(vantrel::Workflow& /*pobjWorkflow*/, bool /*pblnDirty*/) {}
   /// Takes the process-wide use mode, gintUseMode.
   virtual void UseMode(UseModeConstant pintMode);
   /// Makes an element the current one, or none.

@@ -28,7 +28,7 @@ Workflow::~Workflow() = default;
 
 void Workflow::Dirty(bool pblnDirty) {
   mblnDirty = pblnDirty;
-  gobjVantrel->Dirty(pblnDirty);
+  gobjVantrel->Dirty(*this, pblnDirty);
 }
 
 void Workflow::Visible(bool pblnOn) {

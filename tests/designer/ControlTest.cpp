@@ -74,8 +74,10 @@ TEST_F(ControlTest, ShowsCountsOutsideDesignModeAndTheFrameInIt) {
   Control->CurrentControl(start->Image.get());
   Control->UseMode(vntTest);
   EXPECT_FALSE(Control->FocusFrame.Visible());
-  start->TokenCount(2);
+  start->TokenCount(1234);
   EXPECT_TRUE(start->CountLabel->Visible());
+  EXPECT_GT(start->CountLabel->Width(), 200) << "there is room for the text";
+  EXPECT_NEAR(start->CountLabel->Left() + start->CountLabel->Width() / 2, start->Image->Left() + start->Image->Width() / 2, 1);
   Control->UseMode(vntDesign);
   EXPECT_FALSE(start->CountLabel->Visible());
   Control->CurrentControl(nullptr);
@@ -278,6 +280,18 @@ TEST_F(ControlTest, KeepsTheStateOfEachOfSeveralControls) {
   Control.reset();
   EXPECT_EQ(gintUseMode, vntDesign);
   EXPECT_EQ(gobjVantrel->NewImage(), nullptr) << "the built-in host serves again";
+}
+
+TEST_F(ControlTest, HearsOfItsOwnWorkflowWhicheverControlIsNewer) {
+  Control->NewWorkflow();
+  Vantrel second(Tools);
+  second.NewWorkflow();
+  second.Workflow()->Dirty(true);
+  Control->Workflow()->Dirty(true);
+  EXPECT_TRUE(Control->Dirty());
+  Control->Workflow()->Dirty(false);  // as when a host saves it
+  EXPECT_FALSE(Control->Dirty());
+  EXPECT_TRUE(second.Dirty());
 }
 
 }  // namespace vantrel::test

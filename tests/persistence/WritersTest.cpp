@@ -113,7 +113,7 @@ TEST_P(Writers, OfAWholeUndoEverythingWhenOneThingIsRefused) {
 class Saboteur : public TestHost {
  public:
   explicit Saboteur(const PostgresDatabase& pobjDatabase) : mobjDatabase(pobjDatabase) {}
-  void Dirty(bool pblnDirty) override {
+  void Dirty(vantrel::Workflow&, bool pblnDirty) override {
     if (!pblnDirty && Strikes) mobjDatabase.EndSessions();
   }
   bool Strikes = true;
