@@ -40,8 +40,7 @@ void ScrollLink::Range(float psngLow, float psngHigh, float psngInView) {
 
 void ScrollLink::Show() {
   const QSignalBlocker blocker(mobjWindowBar);
-  const float low = std::min(msngLow, mobjBar.Min()),
-              high = std::max(low, std::max(msngHigh, mobjBar.Max()) - msngInView * (1 - kSpare));
+  const float low = std::min(msngLow, mobjBar.Min()), high = std::max(low, std::max(msngHigh, mobjBar.Max()) - msngInView * (1 - kSpare));
   mobjWindowBar.setRange(Twips(std::min(low, mobjBar.Value())), Twips(std::max(high, mobjBar.Value())));
   mobjWindowBar.setPageStep(std::max(1, Twips(msngInView)));
   mobjWindowBar.setSingleStep(std::max(1, Twips(msngInView / kSteps)));
