@@ -106,4 +106,15 @@ fi
 draws "$data/claim-handling.pnml" "$scratch/claim.svg"
 if grep -q "Check policy" "$scratch/claim.svg"; then fail "a sub-process is drawn, too"; fi
 
+# The program alone says that there is no display, draws its sample, plays it, and says where the picture is.
+run 0
+says 'no display'
+drawn=$(sed -n 's/^A picture of it: //p' "$scratch/out")
+[[ -s $drawn && $(size "$drawn") =~ ^[0-9]{4}\ [0-9]{3,4}$ ]] || fail "no picture of the sample: $(cat "$scratch/out")"
+grep -q 'finished' "$scratch/out" || fail "the sample was not played: $(cat "$scratch/out")"
+fails design
+says 'no display'
+DISPLAY=:4711 fails design
+says ':4711 does not answer'
+
 finish
