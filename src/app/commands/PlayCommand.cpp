@@ -1,11 +1,9 @@
 #include "app/commands/PlayCommand.h"
 
-#include <charconv>
-#include <filesystem>
 #include <iostream>
 #include <limits>
+#include <optional>
 #include <stdexcept>
-#include <system_error>
 #include <utility>
 
 #include <CLI/CLI.hpp>
@@ -14,6 +12,7 @@
 #include "app/CommandLine.h"
 #include "app/Interrupt.h"
 #include "app/WholeNumber.h"
+#include "app/commands/NetArgument.h"
 #include "app/database/OpenDatabase.h"
 #include "app/play/DatabaseStore.h"
 #include "app/play/Player.h"
@@ -105,7 +104,7 @@ int PlayCommand::Run() {
   mOptions.Pick = mPick == "random" ? Pick::Random : Pick::First;
   mOptions.KeepTrace = mblnTrace || mblnJson;
 
-  const auto id = StoredId();
+  const auto id = StoredId(mNet);
   const Account account = id ? PlayStored(*id) : PlayFile();
   if (mblnJson) {
     std::cout << ToJson(account) << '\n';
@@ -113,15 +112,6 @@ int PlayCommand::Run() {
     WriteText(std::cout, account);
   }
   return account.IsFinished() ? kDone : kNotFinished;
-}
-
-std::optional<std::int32_t> PlayCommand::StoredId() const {
-  std::int32_t id = 0;
-  const char* const end = mNet.data() + mNet.size();
-  const auto [stopped, fault] = std::from_chars(mNet.data(), end, id);
-  std::error_code unknown;
-  if (fault != std::errc() || stopped != end || id < 1 || std::filesystem::exists(mNet, unknown)) return std::nullopt;
-  return id;
 }
 
 void PlayCommand::CheckFileOptions() const {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
 #include "app/commands/Command.h"
@@ -25,7 +24,6 @@ class PlayCommand final : public Command {
   void DeclareFile(CLI::App& pobjApp);
   void DeclareDatabase(CLI::App& pobjApp);
   void DeclareOutput(CLI::App& pobjApp);
-  std::optional<std::int32_t> StoredId() const;
   void CheckFileOptions() const;
   void CheckStoredOptions() const;
   Account PlayFile();
