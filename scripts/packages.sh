@@ -12,5 +12,5 @@ test_packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   python3-minimal
   postgresql
-  xvfb xauth xdotool openbox x11-apps
+  xvfb xdotool openbox
 )

@@ -33,6 +33,22 @@ until_true() {
 
 picture() { "$screenshot" "$pictures/window-$1.png" "${@:2}" 2>/dev/null || fail "no screenshot $1"; }
 
+# settled NAME AREA...: a picture of an area in which nothing moves any more.
+settled() {
+  until_true unmoved "$@"
+}
+unmoved() {
+  picture "$@"
+  sleep 0.2
+  picture again "${@:2}"
+  cmp "$pictures/window-$1.png" "$pictures/window-again.png"
+}
+area=(300 250 800 400) # of the display, with the whole chart in it
+looks_as_before() {
+  picture after "${area[@]}"
+  cmp "$pictures/window-before.png" "$pictures/window-after.png"
+}
+
 start_display() {
   Xvfb -displayfd 3 -screen 0 1280x860x24 -nolisten tcp 3>"$scratch/display" 2>/dev/null &
   processes+=($!)
@@ -109,7 +125,7 @@ click 600 600
 xdotool key ctrl+s
 until_true titled 'Workflow 1'
 picture saved
-picture before 300 250 800 400
+settled before "${area[@]}"
 closes
 
 run 0 show 1 --json --db "$database"
@@ -122,11 +138,8 @@ cp "$scratch/out" "$scratch/first"
 # What is opened looks as it did, and saving it again stores the same.
 opens 'Workflow 1' 1
 xdotool mousemove 600 600
-sleep 0.5
-picture after 300 250 800 400
-cmp "$pictures/window-before.png" "$pictures/window-after.png" || fail "the chart does not look as it did"
+until_true looks_as_before
 xdotool key ctrl+s
-sleep 0.5
 closes
 run 0 show 1 --json --db "$database"
 cmp "$scratch/first" "$scratch/out" || fail "saved again, it is another workflow"
@@ -144,4 +157,5 @@ until_true titled 'Workflow 1'
 closes
 run 0 show 1 --json --db "$database"
 json "len(a['places']) == 3"
+rm -f "$pictures/window-again.png"
 finish
