@@ -49,6 +49,7 @@ ChartView::ChartView(Vantrel& pobjControl, QWidget* pobjParent)
     : QAbstractScrollArea(pobjParent),
       mobjControl(pobjControl),
       mobjEditor(new InPlaceEditor(pobjControl.FocusFrame, viewport())),
+      mobjAutoScroll([this](const QPointF& distance) { DragOn(distance); }),
       mobjHorizontal(pobjControl.HScroll, *horizontalScrollBar(), [this] { OriginChanged(); }),
       mobjVertical(pobjControl.VScroll, *verticalScrollBar(), [this] { OriginChanged(); }) {
   setObjectName("ChartView");

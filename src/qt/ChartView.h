@@ -9,6 +9,7 @@
 #include "chart/Geometry.h"
 #include "designer/PointerInput.h"
 #include "designer/Vantrel.h"
+#include "qt/AutoScroll.h"
 #include "qt/ChartPainter.h"
 #include "qt/ScrollLink.h"
 #include "qt/ViewTransform.h"
@@ -22,7 +23,8 @@ class InPlaceEditor;
 
 /// Paints a control's chart, selection rectangle and focus frame, scrolls and zooms, and hands mouse, keys and drops to the
 /// control's Input. Zoom by Ctrl and the wheel, by pinching, by Ctrl and +, -, 0 (actual size), 9 (everything); pan by the wheel,
-/// the middle button, or Space and dragging. Tab goes from object to object. The control must outlive the view.
+/// the middle button, or Space and dragging; what is dragged beyond the edge takes the chart along. F2 writes in place. Tab goes from
+/// object to object. The control must outlive the view.
 class ChartView final : public QAbstractScrollArea {
   Q_OBJECT
 
@@ -49,6 +51,8 @@ class ChartView final : public QAbstractScrollArea {
   void ShowPointer(PointerShape pShape);
   /// A text that is being edited in place goes to its object, as if the user had left the box.
   void FinishEditing();
+  /// Begins to edit the text of the current object in place, where it has one and the chart may be changed.
+  void EditText();
 
  signals:
   void ZoomChanged(double pdblZoom);
@@ -82,6 +86,7 @@ class ChartView final : public QAbstractScrollArea {
   void ZoomByGesture(const QNativeGestureEvent& pobjEvent);
   bool Pinch(QEvent& pobjEvent);
   bool ShowTip(QEvent& pobjEvent);
+  void DragOn(const QPointF& pobjDistance);
   PointerInput InputAt(const QPointF& pobjPoint, MouseButton pButton, Qt::KeyboardModifiers pModifiers) const;
   void PaintPart(const QRect& pobjPart);
 
@@ -91,6 +96,8 @@ class ChartView final : public QAbstractScrollArea {
   Rect mobjContents;
   InPlaceEditor* mobjEditor;
   std::optional<QPointF> mobjPanFrom;  // while the user drags the whole chart
+  QPointF mobjPointer;                 // where a drag was last
+  AutoScroll mobjAutoScroll;
   bool mblnSpace = false;
   int mlngDamages = 0;  // since the last painting
   ScrollLink mobjHorizontal, mobjVertical;

@@ -2,6 +2,7 @@
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QGestureEvent>
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -17,6 +18,7 @@
 #include "qt/ChartView.h"
 #include "qt/Conversions.h"
 #include "qt/DraggedData.h"
+#include "qt/Guarded.h"
 #include "qt/InPlaceEditor.h"
 #include "qt/InputTranslation.h"
 #include "qt/ObjectTour.h"
@@ -91,7 +93,11 @@ void ChartView::mousePressEvent(QMouseEvent* pobjEvent) {
 
 void ChartView::mouseMoveEvent(QMouseEvent* pobjEvent) {
   if (!mobjPanFrom) {
-    return mobjControl.Input.Move(InputAt(pobjEvent->position(), MouseButtonOf(pobjEvent->buttons()), pobjEvent->modifiers()));
+    const QPointer<ChartView> alive(this);
+    mobjPointer = pobjEvent->position();
+    mobjControl.Input.Move(InputAt(mobjPointer, MouseButtonOf(pobjEvent->buttons()), pobjEvent->modifiers()));
+    if (alive && mobjControl.Input.IsCaptured()) mobjAutoScroll.Follow(mobjPointer, viewport()->rect());
+    return;
   }
   const QPointF moved = (*mobjPanFrom - pobjEvent->position()) / mobjTransform.Scale();
   mobjPanFrom = pobjEvent->position();
@@ -99,7 +105,16 @@ void ChartView::mouseMoveEvent(QMouseEvent* pobjEvent) {
   ScrollBy(mobjControl.VScroll, moved.y());
 }
 
+// The pointer stands still, and the chart moves under it. The gesture may be over: by Escape, or with its workflow.
+void ChartView::DragOn(const QPointF& pobjDistance) {
+  if (!mobjControl.Input.IsCaptured()) return mobjAutoScroll.Stop();
+  ScrollBy(mobjControl.HScroll, pobjDistance.x() / mobjTransform.Scale());
+  ScrollBy(mobjControl.VScroll, pobjDistance.y() / mobjTransform.Scale());
+  mobjControl.Input.Move(InputAt(mobjPointer, vntLeftButton, QGuiApplication::keyboardModifiers()));
+}
+
 void ChartView::mouseReleaseEvent(QMouseEvent* pobjEvent) {
+  mobjAutoScroll.Stop();
   if (!mobjPanFrom) {
     return mobjControl.Input.Release(InputAt(pobjEvent->position(), MouseButtonOf(pobjEvent->button()), pobjEvent->modifiers()));
   }
@@ -153,9 +168,24 @@ void ChartView::keyPressEvent(QKeyEvent* pobjEvent) {
     if (!mobjPanFrom) viewport()->setCursor(Qt::OpenHandCursor);
     return;
   }
+  if (pobjEvent->key() == Qt::Key_F2) return EditText();
   const std::int16_t code = KeyCodeOf(pobjEvent->key());
   // Not accepted, it goes on to the window, whose shortcuts and dialogs may want it. After a key that is used the view may be gone.
   if (code == 0 || !mobjControl.Input.Key(code, ShiftStateOf(pobjEvent->modifiers()))) pobjEvent->ignore();
+}
+
+void ChartView::EditText() {
+  if (mobjControl.UseMode() != vntDesign || mobjControl.LockControls() || mobjControl.Input.IsCaptured()) return;
+  const QPointer<ChartView> alive(this);
+  Guarded([&] {
+    const Ref<Element> label = TextOnTour(mobjControl);
+    if (!label || !label->Visible()) return;
+    const Rect bounds = label->Bounds();
+    mobjControl.CurrentControl(label);
+    if (!alive) return;
+    Reveal(bounds);
+    mobjControl.FocusFrame.Edit();
+  });
 }
 
 void ChartView::keyReleaseEvent(QKeyEvent* pobjEvent) {
@@ -177,8 +207,10 @@ void ChartView::contextMenuEvent(QContextMenuEvent* pobjEvent) {
   const Element* const current = mobjControl.CurrentControl().get();
   const QPoint at = current ? mobjTransform.ToView(current->Bounds()).center().toPoint() : centre;
   if (auto* const toolkit = dynamic_cast<QtToolkit*>(&mobjControl.Tools())) toolkit->PopupPosition = viewport()->mapToGlobal(at);
-  if (mobjControl.UseMode() == vntDesign) return mobjControl.ShowDesignMenu();
-  if (mobjControl.UseMode() != vntRun) mobjControl.ShowTestMenu();
+  Guarded([&] {
+    if (mobjControl.UseMode() == vntDesign) return mobjControl.ShowDesignMenu();
+    if (mobjControl.UseMode() != vntRun) mobjControl.ShowTestMenu();
+  });
 }
 
 void ChartView::dragEnterEvent(QDragEnterEvent* pobjEvent) { pobjEvent->acceptProposedAction(); }
@@ -201,7 +233,7 @@ bool ChartView::focusNextPrevChild(bool pblnNext) {
   if (!next) return QAbstractScrollArea::focusNextPrevChild(pblnNext);
   const Rect bounds = next->Bounds();
   const QPointer<ChartView> alive(this);
-  mobjControl.CurrentControl(next);
+  Guarded([&] { mobjControl.CurrentControl(next); });
   if (alive) Reveal(bounds);
   return true;
 }

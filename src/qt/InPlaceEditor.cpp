@@ -7,6 +7,7 @@
 #include "chart/Label.h"
 #include "designer/FocusFrame.h"
 #include "qt/Conversions.h"
+#include "qt/Guarded.h"
 #include "qt/ViewTransform.h"
 
 namespace vantrel {
@@ -34,7 +35,13 @@ void InPlaceEditor::Follow(const ViewTransform& pobjTransform) {
   const QRect label = pobjTransform.ToView(mobjFrame.Outline()).toAlignedRect();
   if (isHidden()) Begin(pobjTransform);
   const int width = std::max(kNarrowest, label.width() + 2 * kFrame), height = std::max(sizeHint().height(), label.height());
-  setGeometry(label.center().x() - width / 2, label.center().y() - height / 2, width, height);
+  QRect box(label.center().x() - width / 2, label.center().y() - height / 2, width, height);
+  const QRect view = parentWidget()->rect();
+  if (view.intersects(label)) {  // then the whole box is seen, too, where it is wider than its label
+    box.moveLeft(std::max(0, std::min(box.left(), view.width() - width)));
+    box.moveTop(std::max(0, std::min(box.top(), view.height() - height)));
+  }
+  setGeometry(box);
 }
 
 void InPlaceEditor::Begin(const ViewTransform& pobjTransform) {
@@ -51,7 +58,7 @@ void InPlaceEditor::Begin(const ViewTransform& pobjTransform) {
 }
 
 void InPlaceEditor::Commit() {
-  if (mobjFrame.IsEditing()) mobjFrame.EndEdit(text().toStdString());
+  if (mobjFrame.IsEditing()) Guarded([&] { mobjFrame.EndEdit(text().toStdString()); });
 }
 
 void InPlaceEditor::keyPressEvent(QKeyEvent* pobjEvent) {

@@ -4,10 +4,12 @@
 #include <vector>
 
 #include "designer/Vantrel.h"
+#include "model/Arc.h"
 #include "model/Node.h"
 #include "model/Notation.h"
 #include "model/Place.h"
 #include "model/Transition.h"
+#include "model/Vector.h"
 
 namespace vantrel {
 
@@ -37,6 +39,22 @@ Ref<Element> NextOnTour(const Vantrel& pobjControl, bool pblnForward) {
   if (at == stations.end()) return pblnForward ? stations.front() : stations.back();
   if (pblnForward) return at + 1 == stations.end() ? nullptr : *(at + 1);
   return at == stations.begin() ? nullptr : *(at - 1);
+}
+
+Ref<Element> TextOnTour(const Vantrel& pobjControl) {
+  const Element* const current = pobjControl.CurrentControl().get();
+  if (!current || current->Tag().empty()) return nullptr;
+  if (current->Family() == ctlLabelFamily) return pobjControl.CurrentControl();
+  const auto object = pobjControl.GetVNTRObject(current->Tag());
+  if (const auto* const node = dynamic_cast<const Node*>(object.get())) return node->CaptionLabel.get();
+  if (const auto* const note = dynamic_cast<const Notation*>(object.get())) return note->TextControl.get();
+  const auto* const segment = dynamic_cast<const Vector*>(object.get());
+  const auto arc = segment ? segment->Arc() : nullptr;
+  if (!arc) return nullptr;
+  for (Label* const label : {arc->WeightLabel.get(), arc->CaptionLabel.get()}) {
+    if (label && label->Visible()) return label;
+  }
+  return nullptr;
 }
 
 std::string TipOf(const Vantrel& pobjControl, const Element& pobjElement) {

@@ -1,13 +1,19 @@
 #include "qt/ChartView.h"
 
+#include <QElapsedTimer>
+#include <QLineEdit>
 #include <QPaintEvent>
 #include <QScrollBar>
+#include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
 #include "model/Transition.h"
 #include "qt/VantrelWidget.h"
 #include "qt/WindowEvents.h"
+#include "util/Error.h"
+#include "util/MsgBox.h"
 
 namespace vantrel {
 namespace {
@@ -173,6 +179,65 @@ TEST_F(ChartViewTest, PassesOnTheKeysOfTheChartAndNoOthers) {
   QKeyEvent letter(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
   QApplication::sendEvent(&mobjView, &letter);
   EXPECT_FALSE(letter.isAccepted());
+}
+
+TEST_F(ChartViewTest, TakesTheChartAlongWhenDraggedBeyondTheEdge) {
+  Transition& transition = TheTransition();
+  const QPointF at = CentreOf(*transition.Image), outside(Canvas().width() + 40, at.y());
+  const auto scrolls = [this] {
+    const float before = mobjControl.HScroll.Value();
+    QElapsedTimer time;
+    for (time.start(); time.elapsed() < 2000 && mobjControl.HScroll.Value() == before;) QApplication::processEvents();
+    return mobjControl.HScroll.Value() > before;
+  };
+  SendMouse(Canvas(), QEvent::MouseButtonPress, at);
+  SendMouse(Canvas(), QEvent::MouseMove, outside);
+  EXPECT_TRUE(scrolls());
+  SendMouse(Canvas(), QEvent::MouseButtonRelease, outside);
+  EXPECT_NEAR(CentreOf(*transition.Image).x(), outside.x(), 2);
+
+  // A gesture that ends without a release ends the scrolling, too.
+  SendMouse(Canvas(), QEvent::MouseButtonPress, {300, 300});
+  SendMouse(Canvas(), QEvent::MouseMove, outside);
+  mobjControl.NewWorkflow();
+  mobjControl.Input.Abandon();
+  const float here = mobjControl.HScroll.Value();
+  QElapsedTimer time;
+  for (time.start(); time.elapsed() < 150;) QApplication::processEvents();
+  EXPECT_EQ(mobjControl.HScroll.Value(), here);
+}
+
+TEST_F(ChartViewTest, WritesTheTextOfTheCurrentObjectWithF2) {
+  auto* const box = mobjView.findChild<QLineEdit*>("TextBox");
+  PressKey(mobjView, Qt::Key_F2);
+  EXPECT_FALSE(box->isVisible()) << "nothing is current";
+  const auto start = mobjControl.Workflow()->StartPlace;
+  mobjControl.HScroll.Value(start->Left());
+  mobjControl.CurrentControl(start->Image.get());
+  PressKey(mobjView, Qt::Key_F2);
+  ASSERT_TRUE(box->isVisible());
+  EXPECT_EQ(box->text().toStdString(), start->Caption());
+  EXPECT_TRUE(Canvas().rect().contains(box->geometry()));
+  box->setText("Inbox");
+  PressKey(*box, Qt::Key_Return);
+  EXPECT_EQ(start->Caption(), "Inbox");
+
+  mobjControl.LockControls(true);
+  PressKey(mobjView, Qt::Key_F2);
+  EXPECT_FALSE(box->isVisible());
+}
+
+TEST_F(ChartViewTest, ShowsTheErrorsOfListenersInsteadOfThrowingThemOn) {
+  std::vector<std::string> shown;
+  const auto before = InstallMsgBoxPresenter([&shown](const std::string& text, MsgBoxButtons, const std::string&) {
+    shown.push_back(text);
+    return vntOK;
+  });
+  const auto refusal = mobjControl.OnSelected.Connect([](ModelObject&) { throw Error(vntErrInvalidCall, "not this one"); });
+  PressKey(mobjView, Qt::Key_Tab);
+  Click(Canvas(), CentreOf(*TheTransition().Image));
+  InstallMsgBoxPresenter(before);
+  EXPECT_EQ(shown, (std::vector<std::string>{"not this one", "not this one"}));
 }
 
 TEST_F(ChartViewTest, GoesFromObjectToObjectWithTab) {

@@ -24,22 +24,24 @@ void NameProgram() {
   QApplication::setWindowIcon(ProgramIcon());
 }
 
-// On the command line a wrong id is a mistake to be told there; what was open last may well be gone.
-void ShowFirst(DesignerWindow& pobjWindow, const DesignRequest& pobjRequest) {
-  FileCommands& files = pobjWindow.Files();
-  if (!pobjRequest.File.empty())
-    return files.Begin(ImportPnml(pobjRequest.File, pobjRequest.FileOptions).Workflow, ToQString(pobjRequest.File));
-  if (pobjRequest.Id != 0) return files.Begin(files.Store().Read(pobjRequest.Id), {});
+// On the command line a wrong id is a mistake to be told there, before there is a window. Null: nothing was asked for.
+std::shared_ptr<Workflow> Wanted(const DesignRequest& pobjRequest, const WorkflowStore& pobjStore) {
+  if (!pobjRequest.File.empty()) return ImportPnml(pobjRequest.File, pobjRequest.FileOptions).Workflow;
+  return pobjRequest.Id != 0 ? pobjStore.Read(pobjRequest.Id) : nullptr;
+}
+
+// What was open last may well be gone, or be what brought the program down.
+void ShowLast(DesignerWindow& pobjWindow, const std::vector<WorkflowListing>& pcolStored) {
   const std::int32_t last = pobjWindow.LastOpened();
-  if (IsStored(files.Store().List(), last)) return files.Begin(files.Store().Read(last), {});
-  files.New();
+  if (!IsStored(pcolStored, last) || !pobjWindow.Files().Open(last)) pobjWindow.Files().New();
 }
 
 }  // namespace
 
 int RunDesigner(const DesignRequest& pobjRequest) {
   const WorkflowStore store(pobjRequest.Database);
-  static_cast<void>(store.List());  // what is wrong with the database is told before there is a window
+  const auto stored = store.List();  // what is wrong with the database is told before there is a window, too
+  const auto wanted = Wanted(pobjRequest, store);
   int count = 1;
   char name[] = "vantrel";
   char* arguments[] = {name, nullptr};
@@ -47,7 +49,8 @@ int RunDesigner(const DesignRequest& pobjRequest) {
   NameProgram();
   DesignerWindow window(store);
   window.show();
-  ShowFirst(window, pobjRequest);
+  if (wanted) window.Files().Begin(wanted, ToQString(pobjRequest.File));
+  if (!wanted) ShowLast(window, stored);
   return QApplication::exec();
 }
 

@@ -1,6 +1,7 @@
 #include "app/window/DesignerWindow.h"
 
 #include <QCloseEvent>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSettings>
@@ -19,7 +20,8 @@ constexpr char kGeometryKey[] = "window/geometry", kStateKey[] = "window/state",
 constexpr int kMessageTime = 8000;  // milliseconds
 
 QString LastKeyOf(const WorkflowStore& pobjStore) {
-  return kLastKey + QString::fromLatin1(QUrl::toPercentEncoding(ToQString(pobjStore.Name())));
+  const QFileInfo file(ToQString(pobjStore.Name()));  // the same name elsewhere is another database
+  return kLastKey + QString::fromLatin1(QUrl::toPercentEncoding(file.exists() ? file.canonicalFilePath() : file.filePath()));
 }
 
 }  // namespace
@@ -93,8 +95,6 @@ void DesignerWindow::ConnectDesigner() {
 void DesignerWindow::Settle() {
   mobjMenus->Follow();
   mobjStatus->Refresh();
-  // "New" of the pop-up replaces the chart by itself.
-  if (!windowTitle().startsWith(mobjFiles.ShownName(), Qt::CaseInsensitive)) ShownChanged();
 }
 
 void DesignerWindow::ShownChanged() {
@@ -122,6 +122,7 @@ void DesignerWindow::TakeDrop(const std::shared_ptr<vantrel::Object>& pobjDragge
   const auto data = std::dynamic_pointer_cast<DraggedData>(pobjDragged);
   if (!data || data->Urls.empty()) return;
   const QString file = QUrl(ToQString(data->Urls.front())).toLocalFile();
+  if (file.isEmpty()) return mobjStatus->showMessage("Only files of this computer can be imported.", kMessageTime);
   // Later: whoever drags must not wait for our questions.
   QMetaObject::invokeMethod(
       &mobjFiles, [this, file] { mobjFiles.Import(file); }, Qt::QueuedConnection);

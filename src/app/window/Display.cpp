@@ -41,9 +41,13 @@ bool Answers() {
 }  // namespace
 
 std::string WhyNoDisplay() {
-  if (IsSet("QT_QPA_PLATFORM")) return {};
-  if (!IsSet("DISPLAY") && !IsSet("WAYLAND_DISPLAY")) return "no display: neither DISPLAY nor WAYLAND_DISPLAY says where windows go";
+  const bool isChosen = IsSet("QT_QPA_PLATFORM");
+  if (!isChosen && !IsSet("DISPLAY") && !IsSet("WAYLAND_DISPLAY")) {
+    return "no display: neither DISPLAY nor WAYLAND_DISPLAY says where windows go";
+  }
   if (Answers()) return {};
+  if (isChosen)
+    return std::string("no display: QT_QPA_PLATFORM is \"") + std::getenv("QT_QPA_PLATFORM") + "\", which shows no windows here";
   return std::string("no display: ") + std::getenv(IsSet("DISPLAY") ? "DISPLAY" : "WAYLAND_DISPLAY") + " does not answer";
 }
 

@@ -51,7 +51,10 @@ QString NotesOf(const ImportedNet& pobjNet) {
 
 FileCommands::FileCommands(VantrelWidget& pobjWidget, WorkflowStore pobjStore, QWidget* pobjWindow)
     : QObject(pobjWindow), mobjWidget(pobjWidget), mobjStore(std::move(pobjStore)), mobjWindow(pobjWindow) {
-  mobjWidget.Control().MayReplaceWorkflow = [this] { return MayLeave(); };
+  mobjWidget.Control().MayReplaceWorkflow = [this] {
+    New();  // with all that belongs to it
+    return false;
+  };
 }
 
 bool FileCommands::Try(const QString& pstrWhat, const std::function<void()>& pWork) {
@@ -71,11 +74,15 @@ QString FileCommands::ShownName() const {
 }
 
 bool FileCommands::MayLeave() {
+  if (mblnAsking) return false;
   mobjWidget.View().FinishEditing();
   if (!mobjWidget.Control().Workflow() || !mobjWidget.Control().Dirty()) return true;
   const QPointer<FileCommands> alive(this);
+  mblnAsking = true;
   const LeaveAnswer answer = AskBeforeLeaving(mobjWindow, ShownName());
-  if (!alive || answer == LeaveAnswer::Cancel) return false;
+  if (!alive) return false;
+  mblnAsking = false;
+  if (answer == LeaveAnswer::Cancel) return false;
   return answer == LeaveAnswer::Discard || Save();
 }
 
@@ -90,8 +97,7 @@ void FileCommands::Begin(const std::shared_ptr<Workflow>& pobjWorkflow, const QS
 
 bool FileCommands::New() {
   if (!MayLeave()) return false;
-  Begin(nullptr, {});
-  return true;
+  return Try("There is no new workflow.", [&] { Begin(nullptr, {}); });
 }
 
 bool FileCommands::Open(std::int32_t plngId) {
@@ -140,8 +146,8 @@ bool FileCommands::Delete(std::int32_t plngId) {
   if (!alive || !isSure) return false;
   if (!Try(QString("Workflow %1 was not deleted.").arg(plngId), [&] { mobjStore.Delete(plngId); })) return false;
   emit Told(QString("Deleted workflow %1.").arg(plngId));
-  if (plngId == ShownId()) New();
   emit StoredChanged();
+  if (plngId == ShownId()) New();
   return true;
 }
 

@@ -57,7 +57,8 @@ class FileCommands final : public QObject {
   VantrelWidget& mobjWidget;
   WorkflowStore mobjStore;
   QWidget* mobjWindow;
-  QString mstrFile;  // where an imported chart came from, until it is saved
+  bool mblnAsking = false;  // what becomes of unsaved changes; what is queued meanwhile must not ask again
+  QString mstrFile;         // where an imported chart came from, until it is saved
 };
 
 }  // namespace vantrel

@@ -23,7 +23,7 @@ void ShowKeys(QWidget* pobjParent) {
   box->setTextFormat(Qt::RichText);
   box->setText(Rows({{"Click, Shift+click", "choose an object, one more"},
                      {"Drag", "move what is chosen, a caption, a bend point; round objects: choose them"},
-                     {"Double-click a text", "write it in place; Enter keeps it, Esc does not"},
+                     {"Double-click a text, F2", "write it in place; Enter keeps it, Esc does not"},
                      {"Right click", "the menu of what is there"},
                      {"P, T, N", "insert a place, a transition, a note where you clicked last"},
                      {"A", "draw an arc from the chosen object to the next one clicked"},

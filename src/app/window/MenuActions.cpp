@@ -4,6 +4,7 @@
 
 #include "qt/ChartView.h"
 #include "qt/Conversions.h"
+#include "qt/Guarded.h"
 
 namespace vantrel {
 
@@ -17,7 +18,7 @@ QAction* MenuActions::Action(const std::string& pstrCaption, const QString& pstr
   action->setShortcut(pobjShortcut);
   action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
   mobjWidget.addAction(action);
-  connect(action, &QAction::triggered, this, [this, pstrCaption] { Run(pstrCaption); });
+  connect(action, &QAction::triggered, this, [this, pstrCaption] { Guarded([&] { Run(pstrCaption); }); });
   mcolEntries.push_back({pstrCaption, action});
   return action;
 }
@@ -27,10 +28,10 @@ void MenuActions::Run(const std::string& pstrCaption) {
   if (!entry->Enabled || !entry->Visible) return Follow();
   const QPointer<MenuActions> alive(this);
   if (BeforeRun) BeforeRun(pstrCaption);
-  entry->OnClick.Raise();
   if (!alive) return;
-  emit Ran(pstrCaption);
-  Follow();
+  entry->OnClick.Raise();
+  if (alive) emit Ran(pstrCaption);
+  if (alive) Follow();
 }
 
 void MenuActions::Follow() {

@@ -128,8 +128,10 @@ void StoredList::MarkOpened() {
     for (int column = 0; column < mobjModel.columnCount(); ++column) {
       QStandardItem* const item = mobjModel.item(row, column);
       if (!item) continue;
+      const bool isOpened = mlngOpened != 0 && mobjModel.item(row, kId)->text().toInt() == mlngOpened;
+      if (item->font().bold() == isOpened) continue;  // every change costs a look at the filter
       QFont font = mobjView->font();
-      font.setBold(mlngOpened != 0 && mobjModel.item(row, kId)->text().toInt() == mlngOpened);
+      font.setBold(isOpened);
       item->setFont(font);
     }
   }

@@ -8,6 +8,7 @@
 #include "app/window/HelpTexts.h"
 #include "app/window/InsertPosition.h"
 #include "qt/ChartView.h"
+#include "qt/Guarded.h"
 
 namespace vantrel {
 
@@ -17,14 +18,21 @@ bool Places(const std::string& pstrCaption) {
   return pstrCaption == "Insert Place" || pstrCaption == "Insert Transition" || pstrCaption == "Add Notation" || pstrCaption == "Paste";
 }
 
+template <class Objects>
+auto& LastOf(const Objects& pcolObjects) {
+  return *pcolObjects.Item(pcolObjects.Count());
+}
+
 // What was inserted is what the user goes on with.
 void ChooseInserted(Vantrel& pobjControl, const std::string& pstrCaption) {
   const auto workflow = pobjControl.Workflow();
   if (!workflow) return;
   if (pstrCaption == "Insert Place") {
-    pobjControl.CurrentControl(workflow->Places.Item(workflow->Places.Count())->Image.get());
+    pobjControl.CurrentControl(LastOf(workflow->Places).Image.get());
   } else if (pstrCaption == "Insert Transition") {
-    pobjControl.CurrentControl(workflow->Transitions.Item(workflow->Transitions.Count())->Image.get());
+    pobjControl.CurrentControl(LastOf(workflow->Transitions).Image.get());
+  } else if (pstrCaption == "Add Notation") {
+    pobjControl.CurrentControl(LastOf(workflow->Notations).TextControl.get());
   }
 }
 
@@ -43,6 +51,7 @@ WindowMenus::WindowMenus(QMainWindow& pobjWindow, VantrelWidget& pobjWidget, Fil
   };
   connect(&mobjEntries, &MenuActions::Ran, this, [this](const std::string& pstrCaption) {
     ChooseInserted(mobjWidget.Control(), pstrCaption);
+    if (pstrCaption == "Add Notation") mobjWidget.View().EditText();  // an empty note says nothing
     emit Ran();
   });
   BuildFile();
@@ -103,7 +112,9 @@ void WindowMenus::BuildEdit() {
   Draw(Entry(menu, "Copy", "&Copy", QKeySequence::Copy), "Copy");
   Draw(Entry(menu, "Paste", "&Paste", QKeySequence::Paste), "Paste");
   Draw(Entry(menu, "Delete", "&Delete"), "Delete");
-  Entry(menu, "Select All", "Select &All", QKeySequence::SelectAll);
+  Draw(Entry(menu, "Select All", "Select &All", QKeySequence::SelectAll), "SelectAll");
+  menu.addSeparator();
+  mobjText = Add(menu, "&Text", QKeySequence("F2"), [this] { mobjWidget.View().EditText(); });
   menu.addSeparator();
   Entry(menu, "Properties", "P&roperties", QKeySequence("Alt+Return"));
 }
@@ -125,9 +136,11 @@ void WindowMenus::BuildFormat() {
   Draw(Entry(menu, "Align Horizontal", "Align &Horizontal", QKeySequence("H")), "AlignHorizontal");
   Draw(Entry(menu, "Align Vertical", "Align &Vertical", QKeySequence("V")), "AlignVertical");
   menu.addSeparator();
-  Entry(menu, "Backcolor", "&Backcolor…");
+  Draw(Entry(menu, "Backcolor", "&Backcolor…"), "Backcolor");
   menu.addSeparator();
-  Entry(menu, "Lock controls", "&Lock controls")->setCheckable(true);
+  QAction* const lock = Entry(menu, "Lock controls", "&Lock controls");
+  lock->setCheckable(true);
+  Draw(lock, "Lock");
   menu.addSeparator();
   Entry(menu, "Test", "&Test");
 }
@@ -136,14 +149,16 @@ void WindowMenus::BuildView() {
   mobjViewMenu = mobjWindow.menuBar()->addMenu("&View");
   QMenu& menu = *mobjViewMenu;
   ChartView& view = mobjWidget.View();
-  constexpr double kStep = 1.25;
-  Draw(Add(menu, "Zoom &in", QKeySequence("Ctrl++"), [&view] { view.Zoom(view.Zoom() * kStep); }), "ZoomIn");
+  constexpr double kStep = 1.2;  // as the wheel's
+  QAction* const zoomIn = Add(menu, "Zoom &in", {}, [&view] { view.Zoom(view.Zoom() * kStep); });
+  zoomIn->setShortcuts({QKeySequence("Ctrl++"), QKeySequence("Ctrl+=")});  // without Shift, too
+  Draw(zoomIn, "ZoomIn");
   Draw(Add(menu, "Zoom &out", QKeySequence("Ctrl+-"), [&view] { view.Zoom(view.Zoom() / kStep); }), "ZoomOut");
   Add(menu, "&Actual size", QKeySequence("Ctrl+0"), [&view] { view.Zoom(1); });
   Draw(Add(menu, "&Fit to window", QKeySequence("Ctrl+9"), [&view] { view.FitToWindow(); }), "ZoomFit");
   menu.addSeparator();
-  mobjWeights = Add(menu, "Show &weights", {}, [this] { mobjWidget.Control().ShowWeights(mobjWeights->isChecked()); });
-  mobjGuards = Add(menu, "Show &guards", {}, [this] { mobjWidget.Control().ShowGuards(mobjGuards->isChecked()); });
+  mobjWeights = Add(menu, "Show &weights", {}, [this] { Guarded([&] { mobjWidget.Control().ShowWeights(mobjWeights->isChecked()); }); });
+  mobjGuards = Add(menu, "Show &guards", {}, [this] { Guarded([&] { mobjWidget.Control().ShowGuards(mobjGuards->isChecked()); }); });
   for (QAction* const action : {mobjWeights, mobjGuards}) {
     action->setCheckable(true);
     mcolNeedWorkflow.push_back(action);
@@ -173,6 +188,7 @@ void WindowMenus::Follow() {
   mobjEntries.Follow();
   const auto workflow = mobjWidget.Control().Workflow();
   for (QAction* const action : mcolNeedWorkflow) action->setEnabled(workflow != nullptr);
+  mobjText->setEnabled(workflow && mobjWidget.Control().CurrentControl() && !mobjWidget.Control().LockControls());
   mobjWeights->setChecked(mobjWidget.Control().ShowWeights());
   mobjGuards->setChecked(mobjWidget.Control().ShowGuards());
 }

@@ -56,6 +56,7 @@ class WindowMenus final : public QObject {
   QToolBar* mobjToolBar = nullptr;
   QMenu* mobjViewMenu = nullptr;
   QAction* mobjSave = nullptr;
+  QAction* mobjText = nullptr;
   QAction* mobjWeights = nullptr;
   QAction* mobjGuards = nullptr;
   std::vector<QAction*> mcolNeedWorkflow;

@@ -1,6 +1,13 @@
 #include <QDockWidget>
+#include <QDropEvent>
 #include <QLabel>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QUrl>
+#include <algorithm>
 #include <fstream>
+#include <functional>
 
 #include <gmock/gmock.h>
 
@@ -19,6 +26,15 @@ using testing::HasSubstr;
 class DesignerWindowTest : public WindowTest {
  protected:
   void Settle() { QApplication::processEvents(); }
+  void Drop(const QList<QUrl>& pcolUrls) {
+    QMimeData data;
+    data.setUrls(pcolUrls);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);  // makes the viewport the target
+    QApplication::sendEvent(&Viewport(), &enter);
+    QDropEvent drop({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&Viewport(), &drop);
+    Settle();
+  }
   QWidget& Viewport() { return *mobjWindow->Designer().View().viewport(); }
   QPointF CentreOf(const Element& pobjElement) { return mobjWindow->Designer().View().Transform().ToView(pobjElement.Bounds()).center(); }
 };
@@ -64,6 +80,33 @@ TEST_F(DesignerWindowTest, InsertedObjectsLieInViewAndNotOnEachOther) {
   EXPECT_EQ(Control().CurrentControl().get(), places.Item(5)->Image.get());
 }
 
+TEST_F(DesignerWindowTest, ANewNoteIsWrittenAtOnce) {
+  Files().New();
+  Action("Add Notation")->trigger();
+  auto* const box = Part<QLineEdit>("TextBox");
+  ASSERT_TRUE(box->isVisible());
+  box->setText("Mind the gap");
+  PressKey(*box, Qt::Key_Return);
+  EXPECT_EQ(Control().Workflow()->Notations.Item(1)->Caption, "Mind the gap");
+}
+
+TEST_F(DesignerWindowTest, TheToolBarOffersWhatThePopupOffers) {
+  const auto offered = mobjWindow->findChild<QToolBar*>()->actions();
+  std::vector<std::string> missing;
+  const std::function<void(MenuItem&)> look = [&](MenuItem& menu) {
+    for (const auto& item : menu.Items) {
+      if (!item->Items.empty()) look(*item);
+      if (!item->Visible || item->IsSeparator() || !item->Items.empty()) continue;
+      const bool isThere = std::any_of(offered.begin(), offered.end(), [&](const QAction* action) {
+        return action->text().remove('&').remove("…").compare(ToQString(item->Caption), Qt::CaseInsensitive) == 0;
+      });
+      if (!isThere) missing.push_back(item->Caption);
+    }
+  };
+  look(Control().DesignMenu());
+  EXPECT_THAT(missing, testing::IsEmpty());
+}
+
 TEST_F(DesignerWindowTest, AnArcIsDrawnByAKeyAndAClick) {
   Files().New();
   auto& workflow = *Control().Workflow();
@@ -98,9 +141,15 @@ TEST_F(DesignerWindowTest, TheListFiltersAndOpensByKeyboard) {
 TEST_F(DesignerWindowTest, AFileIsImportedAndDroppedFilesAreToo) {
   const std::string file = File("order.pnml");
   std::ofstream(file) << SampleNet();
-  ASSERT_TRUE(Files().Import(ToQString(file)));
+  Files().New();
+  Drop({QUrl("https://example.org/net.pnml")});
+  EXPECT_THAT(mobjWindow->statusBar()->currentMessage().toStdString(), HasSubstr("Only files"));
+  Drop({QUrl::fromLocalFile(ToQString(file))});
   EXPECT_EQ(mobjWindow->windowTitle(), "Order.pnml[*]");
   EXPECT_EQ(Control().Workflow()->Transitions.Count(), 9);
+  Control().DesignMenu().Find("New")->OnClick.Raise();
+  EXPECT_EQ(mobjWindow->windowTitle(), "New workflow[*]") << "the file has nothing to do with it";
+  ASSERT_TRUE(Files().Import(ToQString(file)));
 
   AnswerNext(QMessageBox::Ok);
   EXPECT_FALSE(Files().Import(ToQString(File("missing.pnml"))));

@@ -144,6 +144,20 @@ TEST_F(SavingTest, DeletingTheShownWorkflowBeginsANewOne) {
   EXPECT_EQ(Files().ShownId(), 0);
 }
 
+TEST_F(SavingTest, WhatIsQueuedWhileAQuestionIsOpenDoesNotAskAgain) {
+  Files().New();
+  ASSERT_TRUE(Files().Save());
+  Control().InsertPlace();
+  bool isOpened = true;
+  QTimer::singleShot(0, qApp, [&] {
+    isOpened = Files().Open(1) || Files().New();
+    AnswerNext(QMessageBox::Cancel);
+  });
+  EXPECT_FALSE(mobjWindow->close());
+  EXPECT_FALSE(isOpened);
+  EXPECT_TRUE(Control().Dirty());
+}
+
 TEST_F(SavingTest, AWindowClosedUnderAnOpenBoxEndsQuietly) {
   Files().New();
   Control().InsertPlace();
