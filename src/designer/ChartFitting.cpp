@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "designer/ChartObjects.h"
+#include "model/SingleDrawing.h"
 
 namespace vantrel {
 
@@ -42,10 +43,12 @@ Rect ChartFitting::Extent() const {
 // Bend points first: the arcs draw themselves when their ends move.
 void ChartFitting::MoveAll(float psngX, float psngY) {
   const Workflow& workflow = *mobjControl.Workflow();
+  SingleDrawing arcsOnce;
   MoveEach(workflow.Elbows, psngX, psngY);
   MoveEach(workflow.Transitions, psngX, psngY);
   MoveEach(workflow.Places, psngX, psngY);
   MoveEach(workflow.Notations, psngX, psngY);
+  arcsOnce.Finish();
 }
 
 void ChartFitting::Fit() {

@@ -1,10 +1,13 @@
 #include "designer/ChartRefresh.h"
 
+#include "model/SingleDrawing.h"
+
 namespace vantrel {
 
 namespace {
 
 void DrawAll(const Workflow& pobjWorkflow) {
+  SingleDrawing arcsOnce;
   for (Collection<Place>::Cursor places(pobjWorkflow.Places); Place* place = places.Next();) {
     if (place->Visible()) place->Draw();
   }
@@ -15,6 +18,7 @@ void DrawAll(const Workflow& pobjWorkflow) {
     if (!drawnByTransition) arc->Draw();
   }
   for (Collection<Notation>::Cursor notes(pobjWorkflow.Notations); Notation* note = notes.Next();) note->Draw();
+  arcsOnce.Finish();
 }
 
 }  // namespace

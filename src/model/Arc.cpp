@@ -14,6 +14,7 @@ namespace {
 // Those of the objects that the collection holds, in its order.
 template <class T>
 std::vector<T*> InOrderOf(const Collection<T>& pcolAll, const std::vector<T*>& pcolSome) {
+  if (pcolSome.size() == 1) return pcolAll.RankOf(pcolSome.front()->Key, pcolSome.front()) >= 0 ? pcolSome : std::vector<T*>();
   std::vector<std::pair<std::int64_t, T*>> ranked;
   ranked.reserve(pcolSome.size());
   for (T* item : pcolSome) {

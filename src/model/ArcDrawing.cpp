@@ -1,8 +1,10 @@
 // How an arc draws itself: connectors, end points, segments, bend points, labels, in this order.
+#include <algorithm>
 #include <functional>
 #include <optional>
 
 #include "model/Arc.h"
+#include "model/SingleDrawing.h"
 #include "model/VNTRGlobal.h"
 #include "model/Workflow.h"
 
@@ -87,7 +89,7 @@ void ShowLabels(const Arc& pobjArc, const Workflow& pobjWorkflow) {
 }  // namespace
 
 void Arc::Draw() {
-  if (!mblnVisible) return;
+  if (!mblnVisible || SingleDrawing::Postpones(*this)) return;
   std::optional<Point> start, end;
   const bool hasDirection = ArcDirection == vntInArc || ArcDirection == vntOutArc;
   if (hasDirection && Place && Transition) {
@@ -99,7 +101,9 @@ void Arc::Draw() {
   }
   const auto segments = Segments();
   DrawSegments(segments, start, end);
-  DrawBendPoints(*this);
+  const bool isBent =
+      std::any_of(mcolSegments.begin(), mcolSegments.end(), [](const Vector* segment) { return !segment->Elbows().empty(); });
+  if (isBent) DrawBendPoints(*this);
   if (!segments.empty()) PlaceLabels(*this, *segments.front());
   if (Workflow) ShowLabels(*this, *Workflow);
 }

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "model/Nets.h"
+#include "model/SingleDrawing.h"
 #include "model/TestHost.h"
 
 namespace vantrel {
@@ -83,6 +84,21 @@ void ExpectSoundChain(const Arc& pobjArc) {
     ASSERT_NEAR((*elbow)->Left() + 45, chain[i]->X2(), 0.01);
     ASSERT_NEAR((*elbow)->Top() + 45, chain[i]->Y2(), 0.01);
   }
+}
+
+TEST_F(ArcOnChart, DrawnOnceForAllLeadsToWhereItsEndsAreThen) {
+  const auto other = Connect(mPlace, AddTransition(*mNet, "T2"));
+  SingleDrawing once;
+  mPlace->MoveTo(300, 1200);
+  const std::string before = CourseOf(*Segment(1));
+  mTransition->MoveTo(6000, 900);
+  other->Draw();
+  mNet->Arcs.Remove(other->Key);
+  once.Finish();
+  const std::string after = CourseOf(*Segment(1));
+  mArc->Draw();
+  EXPECT_NE(before, after);
+  EXPECT_EQ(after, CourseOf(*Segment(1)));
 }
 
 TEST_F(ArcOnChart, RunsFromTheOutputToTheInputOfTheOther) {

@@ -1,6 +1,7 @@
 #include "designer/gestures/Moving.h"
 
 #include "designer/ChartObjects.h"
+#include "model/SingleDrawing.h"
 
 namespace vantrel {
 
@@ -10,12 +11,14 @@ void MovingGroup::Add(const std::shared_ptr<ModelObject>& pobjObject) {
 
 bool MovingGroup::MoveTo(const Workflow& pobjWorkflow, float psngX, float psngY) const {
   bool moves = false;
+  SingleDrawing arcsOnce;
   for (const Member& member : mcolMembers) {
     const auto object = member.Item.lock();
     if (!object || !IsPartOf(*object, pobjWorkflow)) continue;
     vantrel::MoveTo(*object, member.Left + psngX, member.Top + psngY);
     moves = true;
   }
+  arcsOnce.Finish();
   return moves;
 }
 
