@@ -23,6 +23,7 @@ namespace vantrel::bench {
 namespace {
 
 constexpr int kNodes = 10000, kColumns = 100, kLines = 12000;
+constexpr int kMoved = 2 * kColumns + 3;    // a node in view, and the line that begins at it
 constexpr double kAcross = 80, kDown = 64;  // chart pixels between nodes
 constexpr QSize kWindow(1280, 960);
 
@@ -49,7 +50,6 @@ class OwnChart {
   }
   void Repaint() { mobjWidget.View().viewport()->repaint(); }
   void MoveOne(double pdblBy) {
-    constexpr int kMoved = 2 * kColumns + 3;
     const auto shift = static_cast<float>(pdblBy * kTwipsPerPixel);
     for (Element* element : mcolParts) {
       auto& box = static_cast<BoxElement&>(*element);
@@ -78,7 +78,7 @@ class OwnChart {
     label->MoveTo(static_cast<float>(at.x()) * kTwipsPerPixel, static_cast<float>(at.y() + 34) * kTwipsPerPixel);
     label->Visible(true);
     parts.push_back(label.get());
-    if (plngNode == 2 * kColumns + 3) mcolParts = parts;
+    if (plngNode == kMoved) mcolParts = parts;
   }
   void AddLine(int plngLine) {
     const auto line = mobjWidget.Control().ChartArea.ctlLine.New();
@@ -108,7 +108,10 @@ class SceneChart {
  public:
   explicit SceneChart(Scope pScope) : mobjView(&mobjScene) {
     for (int i = 0; i < kNodes; ++i) AddNode(i);
-    for (int i = 0; i < kLines; ++i) mobjScene.addLine(LineOf(i), QPen(Qt::black, 1));
+    for (int i = 0; i < kLines; ++i) {
+      QGraphicsLineItem* const line = mobjScene.addLine(LineOf(i), QPen(Qt::black, 1));
+      if (i == kMoved) mobjLine = line;
+    }
     mobjView.resize(kWindow);
     mobjView.setRenderHint(QPainter::Antialiasing);
     mobjView.show();
@@ -119,6 +122,8 @@ class SceneChart {
   void Repaint() { mobjView.viewport()->repaint(); }
   void MoveOne(double pdblBy) {
     mobjNode->moveBy(pdblBy, 0);
+    const QLineF way = mobjLine->line();
+    mobjLine->setLine(QLineF(way.p1() + QPointF(pdblBy, 0), way.p2()));
     QApplication::processEvents();
   }
 
@@ -138,7 +143,7 @@ class SceneChart {
     caption->setFont(mobjFont);
     caption->setPos(0, 34);
     mobjScene.addItem(node);
-    if (plngNode == 2 * kColumns + 3) mobjNode = node;
+    if (plngNode == kMoved) mobjNode = node;
   }
 
   ImageList mobjList = ImageList::VantrelImages();
@@ -147,6 +152,7 @@ class SceneChart {
   QGraphicsScene mobjScene;
   QGraphicsView mobjView;
   QGraphicsItem* mobjNode = nullptr;
+  QGraphicsLineItem* mobjLine = nullptr;
 };
 
 template <class Chart>
