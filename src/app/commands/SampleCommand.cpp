@@ -23,9 +23,7 @@ namespace {
 
 constexpr char kSampleName[] = "order-handling";
 
-std::shared_ptr<Workflow> MakeSample() {
-  return BuildWorkflow(PnmlReader().ReadBytes(SampleNet(), std::string(kSampleName) + ".pnml")).Workflow;
-}
+ImportedNet MakeSample() { return BuildWorkflow(PnmlReader().ReadBytes(SampleNet(), std::string(kSampleName) + ".pnml")); }
 
 }  // namespace
 
@@ -45,7 +43,7 @@ int SampleCommand::Design() {
   const WorkflowStore store(address);
   DesignRequest request{address, 0, {}, {}};
   if (store.List().empty()) {
-    const auto sample = MakeSample();
+    const auto sample = MakeSample().Workflow;
     store.Save(sample);
     request.Id = sample->RecId;
   }
@@ -61,7 +59,7 @@ int SampleCommand::Design() { return DrawAndPlay(); }
 int SampleCommand::DrawAndPlay() {
   PlayOptions options;
   options.KeepTrace = true;
-  const Account account = Player(BuildWorkflow(PnmlReader().ReadBytes(SampleNet(), "order-handling.pnml")), options).Play();
+  const Account account = Player(MakeSample(), options).Play();
   std::cout << "A case of the sample net:\n\n";
   WriteText(std::cout, account);
 #if VANTREL_HAS_QT
@@ -69,7 +67,7 @@ int SampleCommand::DrawAndPlay() {
   MakeDefaultFolder(database);
   const auto picture = std::filesystem::path(database).replace_filename(std::string(kSampleName) + ".png").string();
   const OffscreenApplication application;
-  DrawWorkflow(MakeSample(), picture, 2);
+  DrawWorkflow(MakeSample().Workflow, picture, 2);
   std::cout << "\nA picture of it: " << picture << '\n';
 #endif
   std::cout << "\nPlay a net of your own with `vantrel play NET.pnml`, draw it with `vantrel draw NET.pnml OUT.png`; `vantrel --help` "
