@@ -128,7 +128,7 @@ bool FileCommands::SaveBy(void (WorkflowStore::*pSave)(const std::shared_ptr<Wor
   const auto workflow = mobjWidget.Control().Workflow();
   if (!workflow) return false;
   const auto before = workflow->RecId;
-  const bool isDone = Try(ShownName() + " was not saved.", [&] { (mobjStore.*pSave)(workflow); });
+  const bool isDone = Try(QString("Cannot save %1.").arg(ShownName()), [&] { (mobjStore.*pSave)(workflow); });
   workflow->Dirty(!isDone);
   if (!isDone) return false;
   mstrFile.clear();

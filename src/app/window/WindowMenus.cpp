@@ -26,7 +26,8 @@ auto& LastOf(const Objects& pcolObjects) {
 // What was inserted is what the user goes on with.
 void ChooseInserted(Vantrel& pobjControl, const std::string& pstrCaption) {
   const auto workflow = pobjControl.Workflow();
-  if (!workflow) return;
+  if (!workflow || (pstrCaption != "Insert Place" && pstrCaption != "Insert Transition" && pstrCaption != "Add Notation")) return;
+  pobjControl.Selection(nullptr);  // what was chosen before would be moved and deleted along with it
   if (pstrCaption == "Insert Place") {
     pobjControl.CurrentControl(LastOf(workflow->Places).Image.get());
   } else if (pstrCaption == "Insert Transition") {

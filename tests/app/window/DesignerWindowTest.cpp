@@ -78,6 +78,7 @@ TEST_F(DesignerWindowTest, InsertedObjectsLieInViewAndNotOnEachOther) {
     EXPECT_NE(places.Item(i)->Left(), places.Item(i - 1)->Left()) << i;
   }
   EXPECT_EQ(Control().CurrentControl().get(), places.Item(5)->Image.get());
+  EXPECT_EQ(Control().Selection()->Count(), 1) << "the earlier ones would be deleted along with it";
 }
 
 TEST_F(DesignerWindowTest, ANewNoteIsWrittenAtOnce) {

@@ -50,7 +50,7 @@ TEST_F(SavingTest, AFailedSaveSaysSoAndKeepsTheChartDirty) {
   for (const char* command : {"Save", "Save as new"}) {
     AnswerNext(QMessageBox::Ok);
     Action(command)->trigger();
-    EXPECT_THAT(mstrAsked, HasSubstr("workflow 1 was not saved")) << command;
+    EXPECT_THAT(mstrAsked, HasSubstr("Cannot save workflow 1.")) << command;
     EXPECT_THAT(mstrAsked, HasSubstr("test.db")) << command;
     EXPECT_TRUE(mobjWindow->isWindowModified()) << command;
     EXPECT_EQ(Control().Workflow()->RecId, 1) << command;
