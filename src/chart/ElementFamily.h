@@ -19,7 +19,7 @@ class ElementFamily {
 
   /// A new hidden element, in front of all others. The family owns it.
   std::shared_ptr<E> New() {
-    const auto element = Append();
+    auto element = Append();
     element->CopySettings(*mElements.front());
     return element;
   }

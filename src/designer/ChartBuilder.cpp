@@ -120,7 +120,7 @@ void ChartBuilder::Build() {
 }
 
 void ChartBuilder::Show(const std::shared_ptr<Workflow>& pobjWorkflow) {
-  const auto workflow = pobjWorkflow;  // the caller's may be the control's own share
+  const auto workflow = pobjWorkflow;  // NOLINT(performance-unnecessary-copy-initialization): the caller's may be the control's own share
   if (workflow) {
     RequirePictures(*workflow);
     mobjControl.mobjState->TakeFromOthers(workflow);

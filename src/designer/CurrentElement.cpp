@@ -40,7 +40,7 @@ void CurrentElement::Mark(Element& pobjElement, const std::shared_ptr<ModelObjec
 }
 
 void CurrentElement::Set(const Ref<Element>& pobjElement) {
-  const auto element = pobjElement;  // the caller's may be the control's own
+  const auto element = pobjElement;  // NOLINT(performance-unnecessary-copy-initialization): the caller's may be the control's own
   DropHighlight();
   if (!element) {
     mobjControl.FocusFrame.SelectedControl(nullptr);

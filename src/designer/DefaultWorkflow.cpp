@@ -14,7 +14,7 @@ struct NodeText {
 
 template <class N>
 std::shared_ptr<N> AddNode(Workflow& pobjWorkflow, Collection<N>& pcolNodes, const NodeText& pobjText, float psngLeft, float psngTop) {
-  const auto node = std::make_shared<N>();
+  auto node = std::make_shared<N>();
   node->Workflow = &pobjWorkflow;
   node->Left(psngLeft);
   node->Top(psngTop);
@@ -28,7 +28,7 @@ std::shared_ptr<N> AddNode(Workflow& pobjWorkflow, Collection<N>& pcolNodes, con
 }  // namespace
 
 std::shared_ptr<Workflow> MakeDefaultWorkflow(float psngTop) {
-  const auto workflow = std::make_shared<Workflow>();
+  auto workflow = std::make_shared<Workflow>();
   const auto start = AddNode(*workflow, workflow->Places, {"Place1", "StartPlace", "Start"}, kStartLeft, psngTop);
   workflow->StartPlace = start;
   const auto begin =

@@ -10,7 +10,7 @@ namespace vantrel {
 namespace {
 
 std::vector<std::shared_ptr<ModelObject>> Doomed(const Vantrel& pobjControl) {
-  const auto selection = pobjControl.Selection();
+  const auto& selection = pobjControl.Selection();
   std::vector<std::shared_ptr<ModelObject>> objects;
   for (const auto& object : *selection) objects.push_back(object);
   return objects;
@@ -19,7 +19,7 @@ std::vector<std::shared_ptr<ModelObject>> Doomed(const Vantrel& pobjControl) {
 }  // namespace
 
 void Deleting::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
-  const auto object = pobjObject;  // the caller's share may be the selection's, which goes
+  const auto object = pobjObject;  // NOLINT(performance-unnecessary-copy-initialization): it may be the selection's share, which goes
   const auto workflow = mobjControl.Workflow();
   if (!workflow) throw Error(vntErrObjectNotSet);
   const StillShown shown(mobjControl);

@@ -30,7 +30,7 @@ Workflow& Inserting::Chart() const { return *Ref<Workflow>(mobjControl.Workflow(
 template <class N>
 std::shared_ptr<N> Inserting::InsertNode(Collection<N>& pcolNodes, const std::string& pstrCaption) {
   RequirePosition(mobjControl);
-  const auto node = std::make_shared<N>();
+  auto node = std::make_shared<N>();
   node->Workflow = mobjControl.Workflow();
   node->Key = NextKey(pcolNodes, pcolNodes.KeyWord());
   node->AssignName(NextName(pcolNodes, pcolNodes.KeyWord()));
@@ -46,14 +46,14 @@ std::shared_ptr<N> Inserting::InsertNode(Collection<N>& pcolNodes, const std::st
 }
 
 std::shared_ptr<Place> Inserting::InsertPlace(const std::string& pstrCaption) {
-  const auto place = InsertNode(Chart().Places, pstrCaption);
+  auto place = InsertNode(Chart().Places, pstrCaption);
   place->Dirty(true);
   Chart().Dirty(true);
   return place;
 }
 
 std::shared_ptr<Transition> Inserting::InsertTransition(const std::string& pstrCaption) {
-  const auto transition = InsertNode(Chart().Transitions, pstrCaption);
+  auto transition = InsertNode(Chart().Transitions, pstrCaption);
   Chart().Dirty(true);
   return transition;
 }
@@ -61,7 +61,7 @@ std::shared_ptr<Transition> Inserting::InsertTransition(const std::string& pstrC
 std::shared_ptr<Notation> Inserting::AddNotation() {
   RequirePosition(mobjControl);
   Workflow& workflow = Chart();
-  const auto note = std::make_shared<Notation>();
+  auto note = std::make_shared<Notation>();
   note->Workflow = &workflow;
   note->Key = NextKey(workflow.Notations, workflow.Notations.KeyWord());
   MoveTo(*note, mobjControl.CurrentX, mobjControl.CurrentY);

@@ -58,7 +58,7 @@ void Selecting::ClearMarks() const {
 }
 
 void Selecting::Set(const std::shared_ptr<ObjectCollection>& pcolObjects) {
-  const auto objects = pcolObjects;  // the caller's may be the control's own
+  const auto objects = pcolObjects;  // NOLINT(performance-unnecessary-copy-initialization): the caller's may be the control's own
   if (!mobjControl.Workflow()) return;
   if (!objects) {
     ClearMarks();

@@ -234,7 +234,7 @@ std::shared_ptr<ObjectCollection> Vantrel::GetSelections() const { return Select
 
 std::shared_ptr<ObjectCollection> Vantrel::SelectAll() {
   const ControlScope scope(*this);
-  const auto objects = Selecting::All(mWorkflow.get());
+  auto objects = Selecting::All(mWorkflow.get());
   Selecting(*this).Set(objects);
   return objects;
 }

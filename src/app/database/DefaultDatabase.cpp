@@ -26,7 +26,7 @@ fs::path FolderOf(const char* pstrVariable) {
 }
 
 fs::path DataFolder() {
-  if (const fs::path data = FolderOf("XDG_DATA_HOME"); !data.empty()) return data;
+  if (fs::path data = FolderOf("XDG_DATA_HOME"); !data.empty()) return data;
   if (const fs::path home = FolderOf("HOME"); !home.empty()) return home / ".local" / "share";
   throw std::runtime_error("no database: neither --db nor HOME nor XDG_DATA_HOME says where it is");
 }

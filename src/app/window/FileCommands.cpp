@@ -162,7 +162,7 @@ QString FileCommands::AskForFile(const QString& pstrTitle, const QString& pstrFi
   if (isExport) dialog->selectFile(QFileInfo(ShownName()).completeBaseName().replace(' ', '-') + '.' + pstrSuffix);
   const bool isAccepted = dialog->exec() == QDialog::Accepted;
   if (!alive || !dialog) return {};
-  const QString file = isAccepted ? dialog->selectedFiles().value(0) : QString();
+  QString file = isAccepted ? dialog->selectedFiles().value(0) : QString();
   if (isAccepted) settings.setValue(kFolderKey, dialog->directory().absolutePath());
   delete dialog.data();
   return file;
