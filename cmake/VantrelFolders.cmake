@@ -34,6 +34,7 @@ function(vantrel_add_library folder)
   target_link_libraries(${target} ${scope} ${arg_LINKS})
   target_compile_features(${target} ${scope} cxx_std_20)
   set_target_properties(${target} PROPERTIES EXPORT_NAME ${name})
+  vantrel_compile_together(${target})
   if(arg_PRECOMPILE AND PROJECT_IS_TOP_LEVEL)
     target_precompile_headers(${target} PRIVATE ${arg_PRECOMPILE})
   endif()
@@ -96,6 +97,15 @@ function(vantrel_install_package)
     DESTINATION ${destination} COMPONENT library)
   install(FILES ${PROJECT_SOURCE_DIR}/data/schema/sqlite.sql ${PROJECT_SOURCE_DIR}/data/schema/postgres.sql
     DESTINATION ${VANTREL_SCHEMA_DIR} COMPONENT library)
+endfunction()
+
+# Half of what a source takes to compile are headers that its neighbours read, too. Names in unnamed namespaces must differ then within a
+# folder; a source that cannot do so sets SKIP_UNITY_BUILD_INCLUSION.
+function(vantrel_compile_together target)
+  get_target_property(type ${target} TYPE)
+  if(VANTREL_COMPILE_TOGETHER AND NOT type STREQUAL "INTERFACE_LIBRARY")
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+  endif()
 endfunction()
 
 function(vantrel_refuse_unknown arguments)

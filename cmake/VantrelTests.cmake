@@ -22,6 +22,10 @@ function(vantrel_add_test folder)
   set_target_properties(${target} PROPERTIES OUTPUT_NAME test_${name})
   target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_link_libraries(${target} PRIVATE vantrel::warnings ${arg_LINKS} GTest::gmock GTest::gtest_main)
+  vantrel_compile_together(${target})
+  if(VANTREL_COMPILE_TOGETHER AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(${target} PRIVATE -Wno-subobject-linkage)  # g++ takes the compiled-together files for headers
+  endif()
   # A test runs once for each time it is compiled: optimising it costs more than it gives. And half of what is left is the test library,
   # which is read once for all of them.
   target_compile_options(${target} PRIVATE -O0)

@@ -11,13 +11,13 @@ namespace vantrel {
 
 namespace {
 
-constexpr double kFarthest = 1e7;  // what ParseCoordinate takes
+constexpr double kFarthestPixel = 1e7;  // what ParseCoordinate takes
 constexpr int kMostDecimals = 17;
 
 double Pixels(float psngTwips, float psngOrigin) {
   if (std::isnan(psngTwips)) return 0;
   const double pixels = (static_cast<double>(psngTwips) + static_cast<double>(psngOrigin)) / static_cast<double>(kFilePixel);
-  return std::clamp(pixels, -kFarthest, kFarthest);
+  return std::clamp(pixels, -kFarthestPixel, kFarthestPixel);
 }
 
 std::string Fixed(double psngNumber, int plngDecimals) {

@@ -12,7 +12,7 @@ namespace vantrel {
 
 namespace {
 
-struct Point {
+struct ArcEnd {
   float X = 0, Y = 0;
 };
 
@@ -27,18 +27,18 @@ void ShowConnectors(const Ends& pobjEnds, const Place& pobjPlace) {
   if (auto* connector = pobjEnds.Source.OutConnector.get()) connector->Visible(pobjPlace.Visible());
 }
 
-std::optional<Point> OutputPoint(const Node& pobjNode) {
+std::optional<ArcEnd> OutputPoint(const Node& pobjNode) {
   if (!pobjNode.OutConnector) return std::nullopt;
-  return Point{OutputConnectorX(pobjNode), OutputConnectorY(pobjNode)};
+  return ArcEnd{OutputConnectorX(pobjNode), OutputConnectorY(pobjNode)};
 }
 
-std::optional<Point> InputPoint(const Node& pobjNode) {
+std::optional<ArcEnd> InputPoint(const Node& pobjNode) {
   if (!pobjNode.InConnector) return std::nullopt;
-  return Point{InputConnectorX(pobjNode), InputConnectorY(pobjNode)};
+  return ArcEnd{InputConnectorX(pobjNode), InputConnectorY(pobjNode)};
 }
 
 // A joint takes the point of whichever of its two segments comes later in the workflow; normally both hold the same.
-void DrawSegments(const std::vector<Vector*>& pcolSegments, std::optional<Point> pStart, std::optional<Point> pEnd) {
+void DrawSegments(const std::vector<Vector*>& pcolSegments, std::optional<ArcEnd> pStart, std::optional<ArcEnd> pEnd) {
   for (Vector* segment : pcolSegments) {
     if (const Vector* before = segment->InVector.get()) {
       segment->Start(before->X2(), before->Y2());
@@ -90,7 +90,7 @@ void ShowLabels(const Arc& pobjArc, const Workflow& pobjWorkflow) {
 
 void Arc::Draw() {
   if (!mblnVisible || SingleDrawing::Postpones(*this)) return;
-  std::optional<Point> start, end;
+  std::optional<ArcEnd> start, end;
   const bool hasDirection = ArcDirection == vntInArc || ArcDirection == vntOutArc;
   if (hasDirection && Place && Transition) {
     const bool inward = ArcDirection == vntInArc;

@@ -7,7 +7,7 @@ namespace vantrel {
 
 namespace {
 
-constexpr int kChartDpi = 96;
+constexpr int kFontDpi = 96;
 constexpr float kPointsPerInch = 72;
 constexpr int kUsualSize = 8;  // points
 
@@ -21,12 +21,12 @@ Color ToColor(const QColor& pobjColor) { return pobjColor.red() | pobjColor.gree
 
 int FontDpi() {
   const QScreen* const screen = QGuiApplication::primaryScreen();
-  return screen ? qRound(screen->logicalDotsPerInchY()) : kChartDpi;
+  return screen ? qRound(screen->logicalDotsPerInchY()) : kFontDpi;
 }
 
 QFont ToQFont(const Font& pobjFont) {
   QFont font(ToQString(pobjFont.Name));
-  font.setPointSizeF(static_cast<qreal>(Points(pobjFont)) * kChartDpi / FontDpi());
+  font.setPointSizeF(static_cast<qreal>(Points(pobjFont)) * kFontDpi / FontDpi());
   font.setBold(pobjFont.Bold);
   font.setItalic(pobjFont.Italic);
   font.setUnderline(pobjFont.Underline);
@@ -35,6 +35,6 @@ QFont ToQFont(const Font& pobjFont) {
   return font;
 }
 
-float PixelSize(const Font& pobjFont) { return Points(pobjFont) * kChartDpi / kPointsPerInch; }
+float PixelSize(const Font& pobjFont) { return Points(pobjFont) * kFontDpi / kPointsPerInch; }
 
 }  // namespace vantrel

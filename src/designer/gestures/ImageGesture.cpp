@@ -47,6 +47,7 @@ void ImageGesture::Drag(const PointerInput& pobjInput) {
   if (!IsAlive()) return;
   if (!mblnGathered) Gather();
   mobjGroup.MoveTo(*workflow, pobjInput.X - msngX, pobjInput.Y - msngY);
+  if (mobjControl) mobjControl->FocusFrame.FrameControl();
 }
 
 void ImageGesture::Move(const PointerInput& pobjInput) {

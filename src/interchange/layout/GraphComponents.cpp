@@ -4,11 +4,11 @@
 #include <numeric>
 #include <stdexcept>
 
+#include "interchange/layout/At.h"
+
 namespace vantrel {
 
 namespace {
-
-std::size_t At(std::int32_t plngIndex) { return static_cast<std::size_t>(plngIndex); }
 
 /// Disjoint sets; the lowest node stands for its set.
 class Sets {

@@ -4,13 +4,13 @@
 #include <cstddef>
 #include <utility>
 
+#include "interchange/layout/At.h"
+
 namespace vantrel {
 
 namespace {
 
 using Order = std::vector<std::vector<VertexIndex>>;
-
-std::size_t At(std::int32_t plngIndex) { return static_cast<std::size_t>(plngIndex); }
 
 /// Where each vertex stands in its layer.
 std::vector<std::int32_t> Places(const LayerGraph& pobjGraph) {

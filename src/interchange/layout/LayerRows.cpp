@@ -9,6 +9,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "interchange/layout/At.h"
 #include "interchange/layout/LayerBlocks.h"
 #include "interchange/layout/LayerDistances.h"
 
@@ -17,8 +18,6 @@ namespace vantrel {
 namespace {
 
 using Order = std::vector<std::vector<VertexIndex>>;
-
-std::size_t At(std::int32_t plngIndex) { return static_cast<std::size_t>(plngIndex); }
 
 /// Edges that cross a straight run between two joints and so must not be straight themselves ("type 1 conflicts").
 class Conflicts {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "interchange/BendPoints.h"
+#include "interchange/layout/At.h"
 #include "interchange/layout/GraphComponents.h"
 #include "interchange/layout/LayerDistances.h"
 #include "interchange/layout/LayerGraph.h"
@@ -19,8 +20,6 @@ constexpr double kPixel = LayerDistances::kPixel;
 constexpr double kColumnGap = 40 * kPixel;
 constexpr double kRowGap = 15 * kPixel;
 constexpr double kComponentGap = 40 * kPixel;
-
-std::size_t At(std::int32_t plngIndex) { return static_cast<std::size_t>(plngIndex); }
 
 struct Column {
   double Left = 0;

@@ -19,6 +19,16 @@ TEST_F(Dragging, MovesAnObjectAndWhatHangsOnIt) {
   EXPECT_FALSE(Control->FocusFrame.Visible());
 }
 
+TEST_F(Dragging, TheFrameGoesWithItsObject) {
+  const float x = MiddleX(*Begin().Image), y = MiddleY(*Begin().Image);
+  Press(x, y);
+  Move(x + 450, y);
+  Move(x + 900, y);
+  EXPECT_TRUE(Control->FocusFrame.Visible());
+  EXPECT_NEAR(Control->FocusFrame.Outline().Left, Begin().Image->Left(), 1);
+  Release(x + 900, y);
+}
+
 TEST_F(Dragging, AClickAloneMovesAndMarksNothing) {
   Net->Dirty(false);
   const float left = Begin().Left();
