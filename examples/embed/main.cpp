@@ -1,4 +1,4 @@
-// A host of the designer: a window with a tool bar of its own that hears what happens and keeps the workflow in a database file.
+// A host of the designer: a window that hears what happens and keeps the workflow in a database file.
 //
 //   embed FILE.db           shows the workflow stored last; makes the file where there is none
 //   embed --once FILE.db    inserts a place, saves and ends, without waiting for anybody
@@ -7,7 +7,6 @@
 #include <QFile>
 #include <QMainWindow>
 #include <QStatusBar>
-#include <QToolBar>
 #include <cstdio>
 
 #include "database/sqlite/Sqlite.h"
@@ -21,11 +20,10 @@ class HostWindow final : public QMainWindow {
  public:
   /// Throws Error for a file that is no database.
   explicit HostWindow(const QString& pstrFile) {
-    statusBar();  // there from the beginning, or its first message would move the chart
     setWindowTitle(pstrFile + "[*]");
+    statusBar();  // there from the beginning, or its first message would move the chart
     setCentralWidget(mobjDesigner);
     resize(960, 600);
-    AddTools();
     Listen();
     mobjControl.EnablePopups = true;
     mobjControl.MayReplaceWorkflow = [this] { return MayLeave(); };
@@ -65,20 +63,6 @@ class HostWindow final : public QMainWindow {
   }
 
   void closeEvent(QCloseEvent* pobjEvent) override { pobjEvent->setAccepted(MayLeave()); }
-
-  // The entries of the design pop-up serve a tool bar as well: they know when they are allowed, and show their own errors.
-  void AddTools() {
-    QToolBar* const tools = addToolBar("Design");
-    for (const char* caption : {"New", "Save", "Insert Place", "Insert Transition", "Insert Arc", "Delete"}) {
-      tools->addAction(caption, this, [this, caption] {
-        const MenuItem& entry = *mobjControl.DesignMenu().Find(caption);
-        if (entry.Enabled)
-          entry.OnClick.Raise();
-        else
-          Say(std::string(caption) + ": select an object first");
-      });
-    }
-  }
 
   void Listen() {
     connect(mobjDesigner, &VantrelWidget::DirtyChange, this, &QWidget::setWindowModified);

@@ -1,8 +1,12 @@
 #include "qt/ChartView.h"
 
 #include <QElapsedTimer>
+#include <QGestureEvent>
 #include <QLineEdit>
+#include <QNativeGestureEvent>
 #include <QPaintEvent>
+#include <QPinchGesture>
+#include <QPointingDevice>
 #include <QScrollBar>
 #include <string>
 #include <vector>
@@ -121,6 +125,18 @@ TEST_F(ChartViewTest, ZoomsAboutThePointer) {
   const QPointF after = mobjView.Transform().ToChart(at);
   EXPECT_NEAR(before.x(), after.x(), 15);
   EXPECT_NEAR(before.y(), after.y(), 15);
+}
+
+TEST_F(ChartViewTest, ZoomsByPinching) {
+  QNativeGestureEvent pad(Qt::ZoomNativeGesture, QPointingDevice::primaryPointingDevice(), 2, {100, 100}, {100, 100}, {100, 100}, 0.5, {});
+  QApplication::sendEvent(&Canvas(), &pad);
+  EXPECT_DOUBLE_EQ(mobjView.Zoom(), 1.5);
+  auto* const pinch = new QPinchGesture;
+  pinch->setScaleFactor(2);
+  QGestureEvent screen({pinch});
+  QApplication::sendEvent(&Canvas(), &screen);
+  EXPECT_DOUBLE_EQ(mobjView.Zoom(), 3);
+  delete pinch;
 }
 
 TEST_F(ChartViewTest, ZoomsByKeysWithinItsLimits) {
