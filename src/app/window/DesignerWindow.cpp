@@ -98,9 +98,7 @@ void DesignerWindow::Settle() {
 }
 
 void DesignerWindow::ShownChanged() {
-  QString name = mobjFiles.ShownName();
-  name[0] = name[0].toUpper();
-  setWindowTitle(name + "[*]");
+  setWindowTitle(mobjFiles.ShownTitle() + "[*]");
   setWindowModified(mobjDesigner->Control().Workflow() && mobjDesigner->Control().Dirty());
   mobjStored->ShowOpened(mobjFiles.ShownId());
   mobjMenus->Follow();

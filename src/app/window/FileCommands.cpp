@@ -73,6 +73,12 @@ QString FileCommands::ShownName() const {
   return mstrFile.isEmpty() ? QString("new workflow") : QFileInfo(mstrFile).fileName();
 }
 
+QString FileCommands::ShownTitle() const {
+  QString title = ShownName();
+  if (ShownId() != 0 || mstrFile.isEmpty()) title[0] = title[0].toUpper();
+  return title;
+}
+
 bool FileCommands::MayLeave() {
   if (mblnAsking) return false;
   mobjWidget.View().FinishEditing();

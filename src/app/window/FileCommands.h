@@ -22,6 +22,8 @@ class FileCommands final : public QObject {
 
   /// For titles and questions: "workflow 3", a file's name, or "new workflow".
   QString ShownName() const;
+  /// The same at the beginning of a line; a file's name stays as it is.
+  QString ShownTitle() const;
   /// The id under which the chart shown is stored, or 0.
   std::int32_t ShownId() const;
   const WorkflowStore& Store() const { return mobjStore; }

@@ -146,7 +146,7 @@ TEST_F(DesignerWindowTest, AFileIsImportedAndDroppedFilesAreToo) {
   Drop({QUrl("https://example.org/net.pnml")});
   EXPECT_THAT(mobjWindow->statusBar()->currentMessage().toStdString(), HasSubstr("Only files"));
   Drop({QUrl::fromLocalFile(ToQString(file))});
-  EXPECT_EQ(mobjWindow->windowTitle(), "Order.pnml[*]");
+  EXPECT_EQ(mobjWindow->windowTitle(), "order.pnml[*]");
   EXPECT_EQ(Control().Workflow()->Transitions.Count(), 9);
   Control().DesignMenu().Find("New")->OnClick.Raise();
   EXPECT_EQ(mobjWindow->windowTitle(), "New workflow[*]") << "the file has nothing to do with it";
