@@ -1,5 +1,7 @@
 #include "designer/Deleting.h"
 
+#include <utility>
+
 #include "designer/ChartObjects.h"
 #include "designer/ObjectRemoval.h"
 #include "designer/Selecting.h"
@@ -7,16 +9,16 @@
 
 namespace vantrel {
 
-namespace {
-
-std::vector<std::shared_ptr<ModelObject>> Doomed(const Vantrel& pobjControl) {
-  const auto& selection = pobjControl.Selection();
+std::vector<std::shared_ptr<ModelObject>> Deleting::Doomed() const {
   std::vector<std::shared_ptr<ModelObject>> objects;
+  const auto selection = mobjControl.Selection();
   for (const auto& object : *selection) objects.push_back(object);
+  const Element* current = mobjControl.CurrentControl().get();
+  if (objects.empty() && current) {
+    if (auto object = mobjControl.GetVNTRObject(current->Tag())) objects.push_back(std::move(object));
+  }
   return objects;
 }
-
-}  // namespace
 
 void Deleting::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
   const auto object = pobjObject;  // NOLINT(performance-unnecessary-copy-initialization): it may be the selection's share, which goes
@@ -35,13 +37,10 @@ void Deleting::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
 void Deleting::DeleteSelection() {
   const StillShown shown(mobjControl);
   const auto workflow = mobjControl.Workflow();
-  auto objects = Doomed(mobjControl);
-  if (objects.empty() && mobjControl.CurrentControl()) {
-    objects.push_back(mobjControl.GetVNTRObject(mobjControl.CurrentControl()->Tag()));
-  }
+  const auto objects = Doomed();
   mobjControl.Selection(nullptr);
   for (const auto& object : objects) {
-    if (!object || !IsPartOf(*object, *workflow)) continue;
+    if (!IsPartOf(*object, *workflow)) continue;
     DeleteObject(object);
     if (!shown) return;
   }

@@ -97,6 +97,11 @@ void ElementBinding::RequirePicture(const Place& pobjPlace) const {
   if (!mobjControl.ImageList->Find(key)) throw Error(vntErrElementNotFound, "Element not found: the picture \"" + key + "\"");
 }
 
+void ElementBinding::RequirePicture(const Transition& pobjTransition) const {
+  if (mobjControl.ImageList->Find(pobjTransition.DisabledImageKey) || mobjControl.ImageList->Find("Transition")) return;
+  throw Error(vntErrElementNotFound);
+}
+
 void ElementBinding::Bind(Place& pobjPlace) {
   RequirePicture(pobjPlace);
   BindNode(pobjPlace, mobjControl.ImageList->Find(pobjPlace.DisabledImageKey));
@@ -105,12 +110,12 @@ void ElementBinding::Bind(Place& pobjPlace) {
 }
 
 void ElementBinding::Bind(Transition& pobjTransition) {
+  RequirePicture(pobjTransition);
   auto picture = mobjControl.ImageList->Find(pobjTransition.DisabledImageKey);
   if (!picture) {
     pobjTransition.DisabledImageKey = "Transition";
     pobjTransition.EnabledImageKey = "TransitionEnabled";
     picture = mobjControl.ImageList->Find(pobjTransition.DisabledImageKey);
-    if (!picture) throw Error(vntErrElementNotFound);
   }
   BindNode(pobjTransition, picture);
   pobjTransition.Image->BringToFront();

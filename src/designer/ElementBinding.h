@@ -16,6 +16,8 @@ class ElementBinding {
 
   /// Error 35601 when the image list lacks the place's picture: to be asked before something else is changed for the place's sake.
   void RequirePicture(const Place& pobjPlace) const;
+  /// A transition can do with the usual picture, so this throws only when the list lacks that, too.
+  void RequirePicture(const Transition& pobjTransition) const;
   /// Throws as RequirePicture does, with nothing bound.
   void Bind(Place& pobjPlace);
   /// A transition with an unknown picture takes the usual ones.

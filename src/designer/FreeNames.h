@@ -9,15 +9,18 @@
 
 namespace vantrel {
 
-/// Answers like IsNameFree and NextName for the collection as it was, with the names taken since, and looks through it once.
+/// Answers like IsNameFree and NextName for the collection as it was, with the names taken since. Looks through it once.
 class FreeNames {
  public:
-  template <class T>
-  explicit FreeNames(const Collection<T>& pcolItems) : mPrefix(pcolItems.KeyWord()) {
-    for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) Note(item->Name());
+  /// Items for which the predicate is true do not count.
+  template <class T, class Skip>
+  FreeNames(const Collection<T>& pcolItems, Skip&& pSkip) : mPrefix(pcolItems.KeyWord()) {
+    for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) {
+      if (!pSkip(*item)) Note(item->Name());
+    }
   }
 
-  /// The name itself when it is free, else the next one behind the class word.
+  /// The name itself when it is free, else the class word with the next number. Throws Error 6 when there is none.
   std::string Take(const std::string& pstrName) {
     if (!mTaken.contains(pstrName)) return Note(pstrName);
     if (mLargest == 0x7FFFFFFF) throw Error(vntErrOverflow);

@@ -3,14 +3,64 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <unordered_set>
 
 #include "designer/ChartObjects.h"
 #include "designer/CurrentPosition.h"
+#include "designer/Deleting.h"
 #include "designer/ElementBinding.h"
+#include "designer/FreeNames.h"
 #include "designer/PopupMenus.h"
 #include "designer/StillShown.h"
 
 namespace vantrel {
+
+namespace {
+
+template <class T>
+void RequireKeysFor(std::size_t plngCount, const Collection<T>& pcolItems) {
+  constexpr std::int32_t kLargest = std::numeric_limits<std::int32_t>::max();
+  if (plngCount > static_cast<std::size_t>(kLargest - pcolItems.LargestKeyNumber())) throw Error(vntErrOverflow);
+}
+
+}  // namespace
+
+void Pasting::RequirePictures(const Objects& pcolObjects) const {
+  const ElementBinding binding(mobjControl);
+  for (const auto& object : pcolObjects) {
+    if (const auto* place = dynamic_cast<const Place*>(object.get())) binding.RequirePicture(*place);
+    if (const auto* transition = dynamic_cast<const Transition*>(object.get())) binding.RequirePicture(*transition);
+  }
+}
+
+// More than is needed when what is deleted has the largest keys.
+void Pasting::RequireKeys(const Objects& pcolObjects) const {
+  std::size_t segments = 0;
+  for (const auto& object : pcolObjects) {
+    const auto* arc = dynamic_cast<const Arc*>(object.get());
+    if (arc) arc = mobjControl.mobjCopied->CopyOf(*arc);
+    if (arc) segments += arc->Segments().size();
+  }
+  RequireKeysFor(pcolObjects.size(), mobjWorkflow->Places);
+  RequireKeysFor(pcolObjects.size(), mobjWorkflow->Transitions);
+  RequireKeysFor(pcolObjects.size(), mobjWorkflow->Notations);
+  RequireKeysFor(pcolObjects.size(), mobjWorkflow->Arcs);
+  RequireKeysFor(segments, mobjWorkflow->Vectors);
+  RequireKeysFor(segments, mobjWorkflow->Elbows);
+}
+
+// The names of what will be deleted are free.
+void Pasting::ChooseNames(const Objects& pcolObjects) {
+  std::unordered_set<const ModelObject*> leaving;
+  for (const auto& object : Deleting(mobjControl).Doomed()) leaving.insert(object.get());
+  const auto leaves = [&](const ModelObject& object) { return leaving.contains(&object); };
+  FreeNames places(mobjWorkflow->Places, leaves), transitions(mobjWorkflow->Transitions, leaves);
+  for (const auto& object : pcolObjects) {
+    const auto* node = dynamic_cast<const Node*>(object.get());
+    if (!node) continue;
+    mNames.emplace(node, (dynamic_cast<const Place*>(node) ? places : transitions).Take(node->Name()));
+  }
+}
 
 void Pasting::TakeCorner(const Objects& pcolObjects) {
   float left = std::numeric_limits<float>::max(), top = left;
@@ -43,10 +93,10 @@ void Pasting::PasteNotation(const std::shared_ptr<Notation>& pobjFrom) {
 }
 
 template <class N>
-void Pasting::PasteNode(const std::shared_ptr<N>& pobjFrom, Collection<N>& pcolNodes, FreeNames& pobjNames) {
+void Pasting::PasteNode(const std::shared_ptr<N>& pobjFrom, Collection<N>& pcolNodes) {
   const auto copy = pobjFrom->Clone();
   copy->Workflow = mobjWorkflow;
-  copy->AssignName(pobjNames.Take(pobjFrom->Name()));
+  copy->AssignName(mNames.at(pobjFrom.get()));
   copy->Key = NextKey(pcolNodes, pcolNodes.KeyWord());
   copy->Left(copy->Left() - msngShiftX);
   copy->Top(copy->Top() - msngShiftY);
@@ -74,14 +124,13 @@ void Pasting::PasteArc(const Arc& pobjFrom) {
 }
 
 void Pasting::PasteAll(const Objects& pcolObjects) {
-  FreeNames placeNames(mobjWorkflow->Places), transitionNames(mobjWorkflow->Transitions);
   for (const auto& object : pcolObjects) {
     if (const auto note = std::dynamic_pointer_cast<Notation>(object)) {
       PasteNotation(note);
     } else if (const auto transition = std::dynamic_pointer_cast<Transition>(object)) {
-      PasteNode(transition, mobjWorkflow->Transitions, transitionNames);
+      PasteNode(transition, mobjWorkflow->Transitions);
     } else if (const auto place = std::dynamic_pointer_cast<Place>(object)) {
-      PasteNode(place, mobjWorkflow->Places, placeNames);
+      PasteNode(place, mobjWorkflow->Places);
     }
   }
   for (const auto& object : pcolObjects) {
@@ -97,17 +146,17 @@ void Pasting::Paste() {
   }
   RequirePosition(mobjControl);
   Objects objects;  // as they are now: deleting and listeners change selection and clipboard
-  for (const auto& object : *clipboard) {
-    objects.push_back(object);
-    if (const auto* place = dynamic_cast<const Place*>(object.get())) ElementBinding(mobjControl).RequirePicture(*place);
-  }
-  const Ref<Vantrel> control(&mobjControl);
-  if (!mobjControl.Workflow()) mobjControl.Workflow(std::make_shared<Workflow>());
-  if (!control || !mobjControl.Workflow()) return;
-  mobjWorkflow = mobjControl.Workflow();
-  const StillShown shown(mobjControl);
+  for (const auto& object : *clipboard) objects.push_back(object);
+  mobjWorkflow = mobjControl.Workflow() ? mobjControl.Workflow() : std::make_shared<Workflow>();
   mobjControl.mobjCopied->Keep(*clipboard);
+  RequirePictures(objects);
+  RequireKeys(objects);
+  ChooseNames(objects);
   TakeCorner(objects);
+  const Ref<Vantrel> control(&mobjControl);
+  if (!mobjControl.Workflow()) mobjControl.Workflow(mobjWorkflow);
+  if (!control || mobjControl.Workflow() != mobjWorkflow) return;
+  const StillShown shown(mobjControl);
   mobjControl.Delete();
   if (!shown) return;
   PasteAll(objects);

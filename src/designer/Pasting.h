@@ -2,18 +2,18 @@
 #pragma once
 
 #include <memory>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
 #include "designer/CopiedArcs.h"
-#include "designer/FreeNames.h"
 #include "designer/Vantrel.h"
 
 namespace vantrel {
 
 /// The group keeps its layout; its top-left corner comes to the control's current position. What is selected goes first, and the
 /// copies of places, transitions and notes are the selection then. Arcs are pasted between copies of both their ends alone.
-/// One pass over the clipboard and one over the workflow.
+/// Everything that can fail is done before anything is deleted.
 class Pasting {
  public:
   explicit Pasting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
@@ -24,17 +24,21 @@ class Pasting {
   using Objects = std::vector<std::shared_ptr<ModelObject>>;
 
   void TakeCorner(const Objects& pcolObjects);
+  void RequirePictures(const Objects& pcolObjects) const;
+  void RequireKeys(const Objects& pcolObjects) const;
+  void ChooseNames(const Objects& pcolObjects);
   void PasteAll(const Objects& pcolObjects);
   void PasteNotation(const std::shared_ptr<Notation>& pobjFrom);
   template <class N>
-  void PasteNode(const std::shared_ptr<N>& pobjFrom, Collection<N>& pcolNodes, FreeNames& pobjNames);
+  void PasteNode(const std::shared_ptr<N>& pobjFrom, Collection<N>& pcolNodes);
   void PasteArc(const Arc& pobjFrom);
   /// The selection lists it under the key of the object that it was copied from.
   void SelectCopy(const ModelObject& pobjFrom, const std::shared_ptr<ModelObject>& pobjCopy);
 
   Vantrel& mobjControl;
   std::shared_ptr<Workflow> mobjWorkflow;
-  std::unordered_map<const ModelObject*, std::shared_ptr<ModelObject>> mCopies;
+  std::unordered_map<const ModelObject*, std::string> mNames;                    // of the copies
+  std::unordered_map<const ModelObject*, std::shared_ptr<ModelObject>> mCopies;  // by what they were copied from
   float msngShiftX = 0, msngShiftY = 0;
 };
 

@@ -9,7 +9,8 @@ std::int32_t NameNumber(std::string_view pstrPrefix, std::string_view pstrName) 
   if (pstrName.size() == pstrPrefix.size()) return 0;
   double number = 0;
   if (!ParseNumber(pstrName.substr(pstrPrefix.size()), number)) return -1;
-  return Variant(number).ToInt32();
+  constexpr double kEnd = 2147483647.5;  // rounds to the first number beyond the range
+  return number > -1 && number < kEnd ? Variant(number).ToInt32() : -1;
 }
 
 bool IsBetween(const Variant& pvarValue, const Variant& pvarA, const Variant& pvarB) {

@@ -63,7 +63,8 @@ bool IsNameFree(const Collection<T>& pcolItems, std::string_view pstrName) {
   return FindByName(pcolItems, pstrName) == nullptr;
 }
 
-/// The number that a name has behind a prefix in the numbering of names: 0 for the prefix alone, -1 for no such name.
+/// The number after a prefix in the numbering of names: 0 for the prefix alone, -1 for a name that does not count, such as one with a
+/// number beyond 32 bits.
 std::int32_t NameNumber(std::string_view pstrPrefix, std::string_view pstrName);
 
 /// The prefix alone when no name counts, else the prefix and one more than the largest number behind it (the prefix alone

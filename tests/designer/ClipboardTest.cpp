@@ -144,13 +144,47 @@ TEST_F(ClipboardTest, PastesIntoAnotherControlAndWithoutWorkflow) {
   EXPECT_EQ(Invariants(other).Faults(), "");
 }
 
-TEST_F(ClipboardTest, DeletesNothingForWhatItCannotPaste) {
+TEST_F(ClipboardTest, NamesWithNumbersBeyondTheRangeAreNamesLikeAnyOther) {
+  Net().Places.First()->AssignName("Place20230101120000");
+  Net().Transitions.First()->AssignName("Transition99999999999");
   Control->SelectAll();
   Control->Copy();
-  Net().Places.Last()->DisabledImageKey = "Bucket";
-  EXPECT_THROW(Control->Paste(), Error);
-  EXPECT_EQ(Net().Places.Count(), 2);
-  EXPECT_EQ(Control->Selection()->Count(), 4);
+  Control->Paste();
+  EXPECT_EQ(Net().Places.First()->Name() + " " + Net().Places.Last()->Name(), "Place20230101120000 EndPlace");
+  Click(200, 5000);
+  Control->Paste();
+  EXPECT_EQ(Net().Places.Item(3)->Name() + " " + Net().Transitions.Last()->Name(), "Place Transition");
+  EXPECT_EQ(Control->InsertPlace()->Name(), "Place2");
+}
+
+TEST_F(ClipboardTest, DeletesNothingForWhatItCannotPaste) {
+  static const ImageList kNoPictures;
+  const auto* pictures = Control->ImageList;
+  const std::pair<const char*, std::function<void()>> obstacles[] = {
+      {"an unknown picture", [&] { Net().Places.Last()->DisabledImageKey = "Bucket"; }},
+      {"no pictures at all", [&] { Control->ImageList = &kNoPictures; }},
+      {"no more names", [&] { Net().Places.Last()->AssignName("Place2147483647"); }},
+      {"no more keys",
+       [&] {
+         const auto place = std::make_shared<Place>();
+         place->Key = "Place2147483647";
+         Control->BindPlace(*place);
+         Control->Workflow()->Places.Add(place, place->Key);
+       }},
+  };
+  for (const auto& [what, obstruct] : obstacles) {
+    SCOPED_TRACE(what);
+    Control->NewWorkflow();
+    obstruct();
+    Select({Net().Places.Item("Place2"), Net().Transitions.First()});
+    Control->Copy();
+    Select({Net().Places.First()});
+    const auto count = Net().Places.Count();
+    EXPECT_THROW(Control->Paste(), Error);
+    EXPECT_EQ(Net().Places.Count(), count);
+    EXPECT_EQ(KeysOf(*Control->Selection()), "Place1 ");
+    Control->ImageList = pictures;
+  }
 }
 
 TEST_F(ClipboardTest, PastesNoArcWithoutItsEnds) {

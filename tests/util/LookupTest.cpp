@@ -34,6 +34,7 @@ TEST(NextName, IsThePrefixOrOneMoreThanTheLargestNumberBehindIt) {
       {{"place7", "MyPlace8"}, "Place"},
       {{"Place2.5"}, "Place3"},
       {{"Place-9"}, "Place"},
+      {{"Place3", "Place20230101120000", "Place2147483648", "Place-2147483649", "Place1e300"}, "Place4"},
   };
   for (const auto& [names, next] : cases) {
     Collection<Named> items;
