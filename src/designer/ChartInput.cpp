@@ -23,11 +23,7 @@ namespace {
 bool Serve(Vantrel& pobjControl, const std::function<void()>& pServe) {
   const Ref<Vantrel> control(&pobjControl);
   const ControlScope scope(pobjControl);
-  try {
-    pServe();
-  } catch (const Error& error) {
-    MsgBox(error.Description);
-  }
+  ShowErrors(pServe);
   return static_cast<bool>(control);
 }
 

@@ -9,14 +9,6 @@ namespace vantrel {
 
 namespace {
 
-void RunGuarded(Vantrel& pobjControl, const std::function<void(Vantrel&)>& pCommand) {
-  try {
-    pCommand(pobjControl);
-  } catch (const Error& error) {
-    MsgBox(error.Description);
-  }
-}
-
 // The question may end the control.
 void ReplaceWorkflow(Vantrel& pobjControl) {
   const Ref<Vantrel> control(&pobjControl);
@@ -51,7 +43,7 @@ PopupMenus::PopupMenus(Vantrel& pobjControl) : mobjControl(&pobjControl) {
 MenuItem& PopupMenus::AddCommand(MenuItem& pobjMenu, const std::string& pstrCaption, Command pCommand) {
   MenuItem& item = pobjMenu.Add(pstrCaption);
   mcolSubscriptions.push_back(item.OnClick.Connect([control = mobjControl, command = std::move(pCommand)] {
-    if (control) RunGuarded(*control, command);
+    if (control) ShowErrors([&] { command(*control); });
   }));
   return item;
 }

@@ -12,14 +12,6 @@ void ModelObject::SetProperties(const std::shared_ptr<PropertyCollection>& pcolP
   }
 }
 
-bool ModelObject::Guarded(const std::function<void()>& pStore) {
-  try {
-    pStore();
-    return true;
-  } catch (const Error& error) {
-    MsgBox(error.Description);
-    return false;
-  }
-}
+bool ModelObject::Guarded(const std::function<void()>& pStore) { return ShowErrors(pStore); }
 
 }  // namespace vantrel

@@ -18,11 +18,11 @@
 #include "qt/ChartView.h"
 #include "qt/Conversions.h"
 #include "qt/DraggedData.h"
-#include "qt/Guarded.h"
 #include "qt/InPlaceEditor.h"
 #include "qt/InputTranslation.h"
 #include "qt/ObjectTour.h"
 #include "qt/QtToolkit.h"
+#include "util/MsgBox.h"
 
 namespace vantrel {
 
@@ -177,7 +177,7 @@ void ChartView::keyPressEvent(QKeyEvent* pobjEvent) {
 void ChartView::EditText() {
   if (mobjControl.UseMode() != vntDesign || mobjControl.LockControls() || mobjControl.Input.IsCaptured()) return;
   const QPointer<ChartView> alive(this);
-  Guarded([&] {
+  ShowErrors([&] {
     const Ref<Element> label = TextOnTour(mobjControl);
     if (!label || !label->Visible()) return;
     const Rect bounds = label->Bounds();
@@ -207,7 +207,7 @@ void ChartView::contextMenuEvent(QContextMenuEvent* pobjEvent) {
   const Element* const current = mobjControl.CurrentControl().get();
   const QPoint at = current ? mobjTransform.ToView(current->Bounds()).center().toPoint() : centre;
   if (auto* const toolkit = dynamic_cast<QtToolkit*>(&mobjControl.Tools())) toolkit->PopupPosition = viewport()->mapToGlobal(at);
-  Guarded([&] {
+  ShowErrors([&] {
     if (mobjControl.UseMode() == vntDesign) return mobjControl.ShowDesignMenu();
     if (mobjControl.UseMode() != vntRun) mobjControl.ShowTestMenu();
   });
@@ -233,7 +233,7 @@ bool ChartView::focusNextPrevChild(bool pblnNext) {
   if (!next) return QAbstractScrollArea::focusNextPrevChild(pblnNext);
   const Rect bounds = next->Bounds();
   const QPointer<ChartView> alive(this);
-  Guarded([&] { mobjControl.CurrentControl(next); });
+  ShowErrors([&] { mobjControl.CurrentControl(next); });
   if (alive) Reveal(bounds);
   return true;
 }

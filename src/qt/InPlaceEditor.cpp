@@ -7,8 +7,8 @@
 #include "chart/Label.h"
 #include "designer/FocusFrame.h"
 #include "qt/Conversions.h"
-#include "qt/Guarded.h"
 #include "qt/ViewTransform.h"
+#include "util/MsgBox.h"
 
 namespace vantrel {
 
@@ -58,7 +58,7 @@ void InPlaceEditor::Begin(const ViewTransform& pobjTransform) {
 }
 
 void InPlaceEditor::Commit() {
-  if (mobjFrame.IsEditing()) Guarded([&] { mobjFrame.EndEdit(text().toStdString()); });
+  if (mobjFrame.IsEditing()) ShowErrors([&] { mobjFrame.EndEdit(text().toStdString()); });
 }
 
 void InPlaceEditor::keyPressEvent(QKeyEvent* pobjEvent) {

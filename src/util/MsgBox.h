@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <exception>
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace vantrel {
 
@@ -18,5 +20,30 @@ MsgBoxAnswer MsgBox(const std::string& pstrText, MsgBoxButtons pintButtons = vnt
 /// Replaces who shows message boxes and returns who did so before. The first presenter writes to standard error and
 /// answers OK (Yes where there is no OK); an empty one brings it back.
 MsgBoxPresenter InstallMsgBoxPresenter(MsgBoxPresenter pPresenter);
+
+/// Has message boxes shown by another presenter for as long as it lives. Scopes end in the opposite order of their beginning.
+class MsgBoxScope {
+ public:
+  explicit MsgBoxScope(MsgBoxPresenter pPresenter) : mBefore(InstallMsgBoxPresenter(std::move(pPresenter))) {}
+  ~MsgBoxScope() { InstallMsgBoxPresenter(std::move(mBefore)); }
+  MsgBoxScope(const MsgBoxScope&) = delete;
+  MsgBoxScope& operator=(const MsgBoxScope&) = delete;
+
+ private:
+  MsgBoxPresenter mBefore;
+};
+
+/// Runs what a user started. An error is shown once, in a message box, and goes no further: in the event loop of a window system it
+/// would end the process. The box may run an event loop, so the caller's object may be gone afterwards. False after an error.
+template <class Work>
+bool ShowErrors(Work&& pWork) {
+  try {
+    std::forward<Work>(pWork)();
+    return true;
+  } catch (const std::exception& failure) {
+    MsgBox(failure.what());
+    return false;
+  }
+}
 
 }  // namespace vantrel

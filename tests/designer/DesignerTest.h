@@ -18,16 +18,8 @@ namespace vantrel::test {
 /// A control without a window; what it says in message boxes is noted. Every test ends with the invariants.
 class DesignerTest : public ::testing::Test {
  protected:
-  DesignerTest() : Control(std::make_unique<Vantrel>(Tools)) {
-    mPresenter = InstallMsgBoxPresenter([this](const std::string& text, MsgBoxButtons, const std::string&) {
-      Messages.push_back(text);
-      return vntOK;
-    });
-  }
-  ~DesignerTest() override {
-    Control.reset();
-    InstallMsgBoxPresenter(mPresenter);
-  }
+  DesignerTest() : Control(std::make_unique<Vantrel>(Tools)) {}
+  ~DesignerTest() override { Control.reset(); }
   void TearDown() override {
     if (Control) {
       EXPECT_EQ(Invariants(*Control).Faults(), "");
@@ -71,7 +63,10 @@ class DesignerTest : public ::testing::Test {
   std::unique_ptr<Vantrel> Control;
 
  private:
-  MsgBoxPresenter mPresenter;
+  const MsgBoxScope mBoxes{[this](const std::string& text, MsgBoxButtons, const std::string&) {
+    Messages.push_back(text);
+    return vntOK;
+  }};
 };
 
 }  // namespace vantrel::test

@@ -144,17 +144,15 @@ class RealGame {
       mHost.Log += "+" + std::to_string(std::stoi(Number(place->Key)) - 1) + ":" + Number(token->Key) + " ";
     });
     mFinished = Net().OnCaseFinished.Connect([this](const auto& token) { mHost.Log += "end:" + Number(token->Key) + " "; });
-    mBefore = InstallMsgBoxPresenter([this](const auto&, auto, const auto&) {
-      mHost.Log += "box ";
-      return vntOK;
-    });
-    mRestore = Subscription([this] { InstallMsgBoxPresenter(mBefore); });
   }
 
   ScriptedHost mHost;
   std::vector<std::shared_ptr<WorkCase>> mCases;
-  MsgBoxPresenter mBefore;
-  Subscription mAdded, mFinished, mRestore;
+  const MsgBoxScope mBoxes{[this](const auto&, auto, const auto&) {
+    mHost.Log += "box ";
+    return vntOK;
+  }};
+  Subscription mAdded, mFinished;
 };
 
 template <class Game, class Operation>

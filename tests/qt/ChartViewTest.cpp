@@ -245,14 +245,13 @@ TEST_F(ChartViewTest, WritesTheTextOfTheCurrentObjectWithF2) {
 
 TEST_F(ChartViewTest, ShowsTheErrorsOfListenersInsteadOfThrowingThemOn) {
   std::vector<std::string> shown;
-  const auto before = InstallMsgBoxPresenter([&shown](const std::string& text, MsgBoxButtons, const std::string&) {
+  const MsgBoxScope scope([&shown](const std::string& text, MsgBoxButtons, const std::string&) {
     shown.push_back(text);
     return vntOK;
   });
   const auto refusal = mobjControl.OnSelected.Connect([](ModelObject&) { throw Error(vntErrInvalidCall, "not this one"); });
   PressKey(mobjView, Qt::Key_Tab);
   Click(Canvas(), CentreOf(*TheTransition().Image));
-  InstallMsgBoxPresenter(before);
   EXPECT_EQ(shown, (std::vector<std::string>{"not this one", "not this one"}));
 }
 

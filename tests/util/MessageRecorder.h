@@ -12,10 +12,10 @@ namespace vantrel::test {
 class MessageRecorder {
  public:
   MessageRecorder()
-      : mBefore(InstallMsgBoxPresenter([this](const std::string& pstrText, MsgBoxButtons pintButtons, const std::string& pstrTitle) {
+      : mScope([this](const std::string& pstrText, MsgBoxButtons pintButtons, const std::string& pstrTitle) {
           return Show(pstrText, pintButtons, pstrTitle);
-        })) {}
-  ~MessageRecorder() { InstallMsgBoxPresenter(mBefore); }
+        }) {}
+  ~MessageRecorder() = default;
   MessageRecorder(const MessageRecorder&) = delete;
   MessageRecorder& operator=(const MessageRecorder&) = delete;
 
@@ -32,7 +32,7 @@ class MessageRecorder {
     return answer;
   }
 
-  MsgBoxPresenter mBefore;
+  MsgBoxScope mScope;
 };
 
 }  // namespace vantrel::test

@@ -7,8 +7,8 @@
 #include "app/CommandLine.h"
 #include "app/database/Deletion.h"
 #include "app/database/OpenDatabase.h"
-#include "app/database/TransactionScope.h"
 #include "app/database/WorkflowId.h"
+#include "database/TransactionScope.h"
 
 namespace vantrel {
 

@@ -6,9 +6,9 @@
 
 #include "app/CommandLine.h"
 #include "app/database/OpenDatabase.h"
-#include "app/database/TransactionScope.h"
 #include "app/database/WorkflowId.h"
 #include "app/show/StoredWorkflow.h"
+#include "database/TransactionScope.h"
 
 namespace vantrel {
 

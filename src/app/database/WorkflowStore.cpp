@@ -3,7 +3,7 @@
 #include "app/database/AsNew.h"
 #include "app/database/Deletion.h"
 #include "app/database/OpenDatabase.h"
-#include "app/database/TransactionScope.h"
+#include "database/TransactionScope.h"
 #include "persistence/SavedMarks.h"
 #include "persistence/WholeSave.h"
 

@@ -6,7 +6,7 @@
 #include <unordered_set>
 #include <utility>
 
-#include "app/database/TransactionScope.h"
+#include "database/TransactionScope.h"
 
 namespace vantrel {
 

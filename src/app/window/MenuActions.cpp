@@ -4,7 +4,7 @@
 
 #include "qt/ChartView.h"
 #include "qt/Conversions.h"
-#include "qt/Guarded.h"
+#include "util/MsgBox.h"
 
 namespace vantrel {
 
@@ -18,7 +18,7 @@ QAction* MenuActions::Action(const std::string& pstrCaption, const QString& pstr
   action->setShortcut(pobjShortcut);
   action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
   mobjWidget.addAction(action);
-  connect(action, &QAction::triggered, this, [this, pstrCaption] { Guarded([&] { Run(pstrCaption); }); });
+  connect(action, &QAction::triggered, this, [this, pstrCaption] { ShowErrors([&] { Run(pstrCaption); }); });
   mcolEntries.push_back({pstrCaption, action});
   return action;
 }

@@ -8,7 +8,7 @@
 #include "app/window/HelpTexts.h"
 #include "app/window/InsertPosition.h"
 #include "qt/ChartView.h"
-#include "qt/Guarded.h"
+#include "util/MsgBox.h"
 
 namespace vantrel {
 
@@ -158,8 +158,8 @@ void WindowMenus::BuildView() {
   Add(menu, "&Actual size", QKeySequence("Ctrl+0"), [&view] { view.Zoom(1); });
   Draw(Add(menu, "&Fit to window", QKeySequence("Ctrl+9"), [&view] { view.FitToWindow(); }), "ZoomFit");
   menu.addSeparator();
-  mobjWeights = Add(menu, "Show &weights", {}, [this] { Guarded([&] { mobjWidget.Control().ShowWeights(mobjWeights->isChecked()); }); });
-  mobjGuards = Add(menu, "Show &guards", {}, [this] { Guarded([&] { mobjWidget.Control().ShowGuards(mobjGuards->isChecked()); }); });
+  mobjWeights = Add(menu, "Show &weights", {}, [this] { ShowErrors([&] { mobjWidget.Control().ShowWeights(mobjWeights->isChecked()); }); });
+  mobjGuards = Add(menu, "Show &guards", {}, [this] { ShowErrors([&] { mobjWidget.Control().ShowGuards(mobjGuards->isChecked()); }); });
   for (QAction* const action : {mobjWeights, mobjGuards}) {
     action->setCheckable(true);
     mcolNeedWorkflow.push_back(action);
