@@ -20,12 +20,19 @@ struct KeyWordOf {
   static constexpr std::string_view Value{};
 };
 
-/// Holds shared items in order of insertion; positions count from 1; keys are optional, case-sensitive and unique.
+/// Holds shared items in order of insertion; positions count from 1; keys are optional, case-sensitive and unique. The key
+/// is the one that the item was added under: whoever changes an item's own `Key` field takes the item out before and adds
+/// it again after.
 ///
-/// Adding, finding and removing by key, the first and the last item cost the same whatever the size. A walk (range-for,
-/// Cursor) survives the removal of any item and visits what is added at the end meanwhile; the collection itself must
-/// outlive it. The key is the one that the item was added under: whoever changes an item's own `Key` field afterwards takes
-/// the item out and adds it again.
+/// Adding, finding and removing by key, the first and the last item cost the same whatever the size; a position among
+/// others costs its logarithm.
+///
+/// Lifetimes: an item lives at least as long as it is in the collection. A `const Pointer&` that a read returns holds until
+/// the next addition or removal; reads never move items. Copy the pointer to keep the item longer. A walk (range-for,
+/// Cursor) survives additions and the removal of any item, and visits what is added at the end meanwhile; the collection
+/// itself must outlive it.
+///
+/// For one thread: reads keep indexes and count walks, so even two reads at the same time are a race.
 template <class T>
 class Collection {
  public:
@@ -37,7 +44,7 @@ class Collection {
 
   std::int32_t Count() const { return static_cast<std::int32_t>(mOrder.Count()); }
   bool IsEmpty() const { return mOrder.Count() == 0; }
-  /// Additions and removals so far: tells whether what was learnt of the collection still holds.
+  /// Additions and removals so far: tells whether what somebody learnt of the collection still holds.
   std::uint64_t Changes() const { return mOrder.Changes(); }
 
   /// Adds at the end. Throws Error 457 when the key is taken, Error 5 for a null item.
@@ -53,63 +60,56 @@ class Collection {
     ItemKey key = ItemKey::Of(kWord, pstrKey);
     if (!mOrder.Find(key)) Append(pMake(), std::move(key));
   }
-  /// Adds at the end under the class word and a number larger than any behind it, see LargestKeyNumber.
+  /// Adds at the end under the class word and a number larger than any after it, see LargestKeyNumber.
   void AddNumbered(Pointer pobjItem, std::int32_t plngNumber) { Append(std::move(pobjItem), ItemKey::OfNumber(plngNumber)); }
 
   /// The item at a position from 1 to Count, or under a key. Throws Error 5 when there is none.
-  const Pointer& Item(std::int32_t plngIndex) const {
-    if (plngIndex < 1 || plngIndex > Count()) throw Error(vntErrInvalidCall);
-    return At(PlaceOf(plngIndex));
-  }
+  const Pointer& Item(std::int32_t plngIndex) const { return At(OrdinalOf(plngIndex)); }
   const Pointer& Item(std::string_view pstrKey) const { return At(Require(pstrKey)); }
+  /// Throw Error 5 when there is no item.
   const Pointer& First() const {
-    if (IsEmpty()) throw Error(vntErrInvalidCall);
+    RequireAny();
     return At(mOrder.Head());
   }
   const Pointer& Last() const {
-    if (IsEmpty()) throw Error(vntErrInvalidCall);
+    RequireAny();
     return At(mOrder.Last());
   }
 
   /// The item under a key, or null.
   Pointer Find(std::string_view pstrKey) const {
-    const auto place = mOrder.Find(ItemKey::Of(kWord, pstrKey));
-    return place ? At(*place) : nullptr;
+    const auto ordinal = mOrder.Find(ItemKey::Of(kWord, pstrKey));
+    return ordinal ? At(*ordinal) : nullptr;
   }
-  bool Contains(std::string_view pstrKey) const { return Find(pstrKey) != nullptr; }
+  bool Contains(std::string_view pstrKey) const { return mOrder.Find(ItemKey::Of(kWord, pstrKey)).has_value(); }
   /// The key of the item at a position; empty when it has none.
-  std::string KeyOf(std::int32_t plngIndex) const {
-    Item(plngIndex);
-    return mOrder.KeyAt(PlaceOf(plngIndex)).ToText(kWord);
-  }
-  /// A number that orders the items under keys as the collection does; -1 when the key leads to another item or to none.
+  std::string KeyOf(std::int32_t plngIndex) const { return mOrder.KeyAt(OrdinalOf(plngIndex)).ToText(kWord); }
+  /// A number that grows with each item's position; -1 when the key leads to another item or to none. Holds until the
+  /// collection is changed.
   std::int64_t RankOf(std::string_view pstrKey, const T* pobjItem) const {
-    const auto place = mOrder.Find(ItemKey::Of(kWord, pstrKey));
-    return place && At(*place).get() == pobjItem ? static_cast<std::int64_t>(*place) : -1;
+    const auto ordinal = mOrder.Find(ItemKey::Of(kWord, pstrKey));
+    return ordinal && At(*ordinal).get() == pobjItem ? static_cast<std::int64_t>(*ordinal) : -1;
   }
 
   /// Throws Error 5 when there is no such item.
   void Remove(std::string_view pstrKey) { RemoveAt(Require(pstrKey)); }
-  void Remove(std::int32_t plngIndex) {
-    Item(plngIndex);
-    RemoveAt(PlaceOf(plngIndex));
-  }
+  void Remove(std::int32_t plngIndex) { RemoveAt(OrdinalOf(plngIndex)); }
   void RemoveIfThere(std::string_view pstrKey) {
     if (IsEmpty()) return;
-    if (const auto place = mOrder.Find(ItemKey::Of(kWord, pstrKey))) RemoveAt(*place);
+    if (const auto ordinal = mOrder.Find(ItemKey::Of(kWord, pstrKey))) RemoveAt(*ordinal);
   }
   /// Removes an item and hands it out. Throws Error 5 when there is none under the key.
   Pointer Take(std::string_view pstrKey) { return TakeAt(Require(pstrKey)); }
   /// Throws Error 5 when there is no item.
   Pointer TakeFirst() {
-    if (IsEmpty()) throw Error(vntErrInvalidCall);
+    RequireAny();
     return TakeAt(mOrder.Head());
   }
   void Clear() {
     while (!IsEmpty()) RemoveAt(mOrder.Head());
   }
 
-  /// The class word of the keys, and the largest number behind it (0 for none): what numbering new keys needs.
+  /// The class word of the keys, and the largest number after it (0 for none): what numbering new keys needs.
   std::string_view KeyWord() const { return kWord; }
   std::int32_t LargestKeyNumber() const { return mOrder.LargestNumber(); }
 
@@ -119,31 +119,31 @@ class Collection {
     explicit Cursor(const Collection& pcolItems) : Cursor(pcolItems, 0) {}
     /// From the first item whose RankOf is not below the given one.
     Cursor(const Collection& pcolItems, std::int64_t plngRank)
-        : mItems(&pcolItems), mNext(std::max(pcolItems.mOrder.Head(), static_cast<KeyedOrder::Place>(plngRank))) {
+        : mItems(&pcolItems), mNext(std::max(pcolItems.mOrder.Head(), static_cast<KeyedOrder::Ordinal>(plngRank))) {
       mItems->mOrder.StartWalk();
     }
     Cursor(const Cursor& pobjOther) : mItems(pobjOther.mItems), mNext(pobjOther.mNext) { mItems->mOrder.StartWalk(); }
     Cursor& operator=(const Cursor&) = delete;
     ~Cursor() { mItems->mOrder.EndWalk(); }
 
-    /// The next item, or null behind the last one. The pointer holds as long as the item is in the collection.
+    /// The next item, or null after the last one.
     T* Next() {
       const auto& order = mItems->mOrder;
       if (mNext < order.Head()) mNext = order.Head();
       while (mNext < order.Tail()) {
-        const auto place = mNext++;
-        if (!order.KeyAt(place).IsHole()) return mItems->At(place).get();
+        const auto ordinal = mNext++;
+        if (!order.KeyAt(ordinal).IsHole()) return mItems->At(ordinal).get();
       }
       return nullptr;
     }
-    /// The rank of the item that Next gave last.
+    /// The RankOf the item that Next gave last.
     std::int64_t Rank() const { return static_cast<std::int64_t>(mNext) - 1; }
-    /// The item that Next gave last, shared.
+    /// The item that Next gave last, shared; null once it is out of the collection.
     const Pointer& Shared() const { return mItems->At(mNext - 1); }
 
    private:
     const Collection* mItems;
-    KeyedOrder::Place mNext;
+    KeyedOrder::Ordinal mNext;
   };
 
   class Iterator {
@@ -166,54 +166,50 @@ class Collection {
  private:
   static constexpr std::string_view kWord = KeyWordOf<T>::Value;
 
-  const Pointer& At(KeyedOrder::Place pPlace) const { return mItems[mOrder.Slot(pPlace)]; }
+  const Pointer& At(KeyedOrder::Ordinal pOrdinal) const { return mItems[mOrder.Slot(pOrdinal)]; }
 
-  KeyedOrder::Place Require(std::string_view pstrKey) const {
-    const auto place = mOrder.Find(ItemKey::Of(kWord, pstrKey));
-    if (!place) throw Error(vntErrInvalidCall);
-    return *place;
+  void RequireAny() const {
+    if (IsEmpty()) throw Error(vntErrInvalidCall);
   }
-
-  KeyedOrder::Place PlaceOf(std::int32_t plngIndex) const {
-    if (plngIndex == 1) return mOrder.Head();
-    if (plngIndex == Count()) return mOrder.Last();
-    if (mOrder.HasHoles() && !mOrder.IsWalked()) Rebuild(mOrder.Capacity());
-    if (!mOrder.HasHoles()) return mOrder.Head() + static_cast<KeyedOrder::Place>(plngIndex - 1);
-    auto place = mOrder.Head();
-    for (std::int32_t seen = mOrder.Holds(place); seen < plngIndex;) seen += mOrder.Holds(++place);
-    return place;
+  KeyedOrder::Ordinal Require(std::string_view pstrKey) const {
+    const auto ordinal = mOrder.Find(ItemKey::Of(kWord, pstrKey));
+    if (!ordinal) throw Error(vntErrInvalidCall);
+    return *ordinal;
+  }
+  KeyedOrder::Ordinal OrdinalOf(std::int32_t plngIndex) const {
+    if (plngIndex < 1 || plngIndex > Count()) throw Error(vntErrInvalidCall);
+    return mOrder.OrdinalOf(static_cast<std::uint32_t>(plngIndex));
   }
 
   void Append(Pointer pobjItem, ItemKey pKey) {
     if (mOrder.IsFull()) Grow();
-    const auto place = mOrder.Append(std::move(pKey));
-    mItems[mOrder.Slot(place)] = std::move(pobjItem);
+    const auto ordinal = mOrder.Append(std::move(pKey));
+    mItems[mOrder.Slot(ordinal)] = std::move(pobjItem);
   }
 
-  Pointer TakeAt(KeyedOrder::Place pPlace) {
-    Pointer item = std::move(mItems[mOrder.Slot(pPlace)]);
-    mOrder.Remove(pPlace);
+  Pointer TakeAt(KeyedOrder::Ordinal pOrdinal) {
+    Pointer item = std::move(mItems[mOrder.Slot(pOrdinal)]);
+    mOrder.Remove(pOrdinal);
     return item;
   }
-  // The item dies behind its removal: its end may look at this collection.
-  void RemoveAt(KeyedOrder::Place pPlace) { TakeAt(pPlace); }
+  // The item dies after its removal: its destructor may look at this collection.
+  void RemoveAt(KeyedOrder::Ordinal pOrdinal) { TakeAt(pOrdinal); }
 
   void Grow() {
     const bool mostlyHoles = mOrder.Capacity() >= 4 && mOrder.Count() * 2 <= mOrder.Capacity() && !mOrder.IsWalked();
     Rebuild(mostlyHoles ? mOrder.Capacity() : std::max<std::uint32_t>(4, mOrder.Capacity() * 2));
   }
 
-  // Closing holes changes no item, no order and no key, so a reader may do it.
-  void Rebuild(std::uint32_t plngCapacity) const {
+  void Rebuild(std::uint32_t plngCapacity) {
     auto items = std::make_unique<Pointer[]>(plngCapacity);
-    mOrder.Rebuild(plngCapacity, [&](KeyedOrder::Place pFrom, KeyedOrder::Place pTo) {
+    mOrder.Rebuild(plngCapacity, [&](KeyedOrder::Ordinal pFrom, KeyedOrder::Ordinal pTo) {
       items[static_cast<std::uint32_t>(pTo) & (plngCapacity - 1)] = std::move(mItems[mOrder.Slot(pFrom)]);
     });
     mItems = std::move(items);
   }
 
-  mutable KeyedOrder mOrder;
-  mutable std::unique_ptr<Pointer[]> mItems;
+  KeyedOrder mOrder;
+  std::unique_ptr<Pointer[]> mItems;
 };
 
 }  // namespace vantrel

@@ -14,7 +14,8 @@ class Date {
 
   /// The moment of the call; resolution of a few milliseconds, cheap enough for every token of a running net.
   static Date Now();
-  /// Days since the zero date, the fraction being the time of day.
+  /// Days since the zero date; the fraction is the time of day. Throws Error 6 for NaN and for days beyond 64 bits of
+  /// milliseconds.
   static Date FromDays(double pdblDays);
   static constexpr Date FromMilliseconds(std::int64_t plngMilliseconds) {
     Date date;
@@ -26,7 +27,8 @@ class Date {
   double Days() const;
   constexpr bool IsZero() const { return mMilliseconds == 0; }
 
-  /// "YYYY-MM-DD HH:MM:SS" of ISO 8601 with a blank for the T; milliseconds are cut off.
+  /// "YYYY-MM-DD HH:MM:SS" of ISO 8601 with a blank for the T; milliseconds are cut off. Years beyond four digits get as
+  /// many as they need, years before 0 a minus.
   std::string ToText() const;
 
   constexpr auto operator<=>(const Date&) const = default;

@@ -9,7 +9,7 @@
 
 namespace vantrel {
 
-/// Keeps a listener connected as long as it lives. Movable, not copyable; may outlive the event.
+/// Keeps a listener connected as long as it lives. May outlive the event. For the thread of the event.
 class Subscription {
  public:
   Subscription() = default;
@@ -29,8 +29,8 @@ class Subscription {
   std::function<void()> mDisconnect;
 };
 
-/// Calls its listeners in the order in which they connected. Listeners may connect, disconnect and raise the event again
-/// while it is being raised; one that connects meanwhile is called from the next time on.
+/// Calls its listeners in the order in which they connected. A listener may connect and disconnect others and itself, and
+/// raise the event again; one that connects meanwhile is called from the next time on. For one thread.
 template <class... Args>
 class Event {
  public:

@@ -12,7 +12,7 @@
 namespace vantrel {
 
 /// A key made of the collection's class word and a number keeps only the number ("Token17" is 17); any other key owns its
-/// text. A third form marks an item without key, a fourth a place that no item holds.
+/// text. A third form marks an item without key, a fourth a slot without item (a hole).
 class ItemKey {
  public:
   ItemKey() = default;
@@ -93,7 +93,7 @@ class KeyText {
   std::size_t mSize;
 };
 
-/// The number behind a prefix as key numbering counts it: digits only, leading zeros allowed, at most 2^31 - 1.
+/// The number after a prefix as key numbering counts it: digits only, leading zeros allowed, at most 2^31 - 1.
 std::optional<std::int32_t> NumberBehind(std::string_view pstrPrefix, std::string_view pstrKey);
 
 }  // namespace vantrel

@@ -29,9 +29,9 @@ void KeyIndex::Resize(std::size_t plngEntries) {
   }
 }
 
-void KeyIndex::Add(const ItemKey& pKey, Place pPlace) {
+void KeyIndex::Add(const ItemKey& pKey, Ordinal pOrdinal) {
   if (pKey.IsText()) {
-    mTexts.emplace(pKey.TextRef(), pPlace);
+    mTexts.emplace(pKey.TextRef(), pOrdinal);
     const auto number = NumberBehind(mWord, pKey.TextRef());
     if (number && mLargestText) mLargestText = std::max(*mLargestText, *number);
     return;
@@ -43,7 +43,7 @@ void KeyIndex::Add(const ItemKey& pKey, Place pPlace) {
   std::size_t i = StartOf(pKey.Number());
   while (mEntries[i].Number >= 0) i = (i + 1) & (mEntries.size() - 1);
   if (mEntries[i].Number == kFree) ++mUsed;
-  mEntries[i] = {pKey.Number(), static_cast<std::uint32_t>(pPlace)};
+  mEntries[i] = {pKey.Number(), static_cast<std::uint32_t>(pOrdinal)};
   ++mLive;
   if (mKeepsNumbers) mNumbers.push(pKey.Number());
 }
@@ -60,20 +60,20 @@ void KeyIndex::Remove(const ItemKey& pKey) {
   }
 }
 
-std::optional<KeyIndex::Place> KeyIndex::Find(const ItemKey& pKey, Place pHead) const {
+std::optional<KeyIndex::Ordinal> KeyIndex::Find(const ItemKey& pKey, Ordinal pHead) const {
   if (pKey.IsText()) {
     const auto found = mTexts.find(pKey.TextRef());
     return found == mTexts.end() ? std::nullopt : std::optional(found->second);
   }
   const Entry* entry = FindNumber(pKey.Number());
   if (!entry) return std::nullopt;
-  return pHead + static_cast<std::uint32_t>(entry->PlaceLow - static_cast<std::uint32_t>(pHead));
+  return pHead + static_cast<std::uint32_t>(entry->OrdinalLow - static_cast<std::uint32_t>(pHead));
 }
 
 std::int32_t KeyIndex::LargestInTexts() {
   if (!mLargestText) {
     std::int32_t largest = 0;
-    for (const auto& [text, place] : mTexts) largest = std::max(largest, NumberBehind(mWord, text).value_or(0));
+    for (const auto& [text, ordinal] : mTexts) largest = std::max(largest, NumberBehind(mWord, text).value_or(0));
     mLargestText = largest;
   }
   return *mLargestText;

@@ -1,4 +1,4 @@
-// From the keys of a large or unordered collection to the places of its items.
+// An index of the keys of a large or unordered collection.
 #pragma once
 
 #include <cstdint>
@@ -12,25 +12,25 @@
 
 namespace vantrel {
 
-/// A hash over numbers (open addressing, eight bytes an entry) and one over texts. Remembers what it takes to tell the
-/// largest number behind the class word, also after removals.
+/// Finds the ordinal of a key: one hash table for numbers (open addressing, eight bytes an entry), one for texts. Also tells
+/// the largest number after the class word when keys have been removed.
 class KeyIndex {
  public:
-  using Place = std::uint64_t;
+  using Ordinal = std::uint64_t;
 
   explicit KeyIndex(std::string_view pstrWord) : mWord(pstrWord) {}
 
-  void Add(const ItemKey& pKey, Place pPlace);
+  void Add(const ItemKey& pKey, Ordinal pOrdinal);
   void Remove(const ItemKey& pKey);
-  /// `pHead` is the collection's first place; all places lie less than 2^32 behind it.
-  std::optional<Place> Find(const ItemKey& pKey, Place pHead) const;
-  /// The largest number behind the class word over the keys that are in; 0 for none.
+  /// `pHead` is the collection's first ordinal; no ordinal is 2^32 or more above it.
+  std::optional<Ordinal> Find(const ItemKey& pKey, Ordinal pHead) const;
+  /// The largest number after the class word in the keys that are in; 0 for none.
   std::int32_t LargestNumber();
 
  private:
   struct Entry {
     std::int32_t Number = kFree;
-    std::uint32_t PlaceLow = 0;
+    std::uint32_t OrdinalLow = 0;
   };
   static constexpr std::int32_t kFree = -1;
   static constexpr std::int32_t kRemoved = -2;
@@ -45,7 +45,7 @@ class KeyIndex {
   std::vector<Entry> mEntries;
   std::size_t mUsed = 0;  // entries that hold a number or held one
   std::size_t mLive = 0;
-  std::unordered_map<std::string_view, Place> mTexts;  // views into the keys, whose text never moves
+  std::unordered_map<std::string_view, Ordinal> mTexts;  // views into the keys, whose text never moves
   std::optional<std::int32_t> mLargestText;
   bool mKeepsNumbers = false;
   std::priority_queue<std::int32_t> mNumbers;  // every number that is in, and some that were

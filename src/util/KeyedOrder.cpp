@@ -1,6 +1,7 @@
 #include "util/KeyedOrder.h"
 
 #include "util/KeyIndex.h"
+#include "util/RankIndex.h"
 
 namespace vantrel {
 
@@ -8,40 +9,51 @@ KeyedOrder::KeyedOrder(std::string_view pstrWord) : mWordSize(static_cast<std::u
 
 KeyedOrder::~KeyedOrder() = default;
 
-std::optional<KeyedOrder::Place> KeyedOrder::Scan(const ItemKey& pKey) const {
-  for (Place place = mHead; place < mTail; ++place) {
-    if (KeyAt(place) == pKey) return place;
+std::optional<KeyedOrder::Ordinal> KeyedOrder::Scan(const ItemKey& pKey) const {
+  for (Ordinal ordinal = mHead; ordinal < mTail; ++ordinal) {
+    if (KeyAt(ordinal) == pKey) return ordinal;
   }
   return std::nullopt;
 }
 
-std::optional<KeyedOrder::Place> KeyedOrder::Search(const ItemKey& pKey) const {
+std::optional<KeyedOrder::Ordinal> KeyedOrder::Search(const ItemKey& pKey) const {
   if (!mIndex && mTail - mHead <= kScanLimit) return Scan(pKey);
   if (mAscending && pKey.IsNumber() && pKey.Number() > KeyAt(Last()).Number()) return std::nullopt;
   return Index().Find(pKey, mHead);
 }
 
-std::int32_t KeyedOrder::LargestNumber() const {
-  if (mCount == 0) return 0;
-  if (mAscending) return KeyAt(Last()).Number();
-  return Index().LargestNumber();
+std::int32_t KeyedOrder::LargestOfIndex() const { return Index().LargestNumber(); }
+
+KeyedOrder::Ordinal KeyedOrder::OrdinalAmongHoles(std::uint32_t plngPosition) const {
+  if (plngPosition == 1) return mHead;
+  if (plngPosition == mCount) return Last();
+  if (!mRanks) {
+    mRanks = std::make_unique<RankIndex>(mHead, Ordinal{mCapacity} * 2);
+    for (Ordinal ordinal = mHead; ordinal < mTail; ++ordinal) {
+      if (Holds(ordinal)) mRanks->Add(ordinal);
+    }
+  }
+  const auto [first, before] = mRanks->Find(plngPosition);
+  Ordinal ordinal = first;
+  for (std::uint32_t seen = before + Holds(ordinal); seen < plngPosition;) seen += Holds(++ordinal);
+  return ordinal;
 }
 
 KeyIndex& KeyedOrder::Index() const {
   if (!mIndex) {
     mIndex = std::make_unique<KeyIndex>(Word());
-    for (Place place = mHead; place < mTail; ++place) mIndex->Add(KeyAt(place), place);
+    for (Ordinal ordinal = mHead; ordinal < mTail; ++ordinal) mIndex->Add(KeyAt(ordinal), ordinal);
   }
   return *mIndex;
 }
 
-void KeyedOrder::DropIndex() { mIndex.reset(); }
+void KeyedOrder::DropIndexes() {
+  mIndex.reset();
+  mRanks.reset();
+}
 
 void KeyedOrder::NoteOrder(const ItemKey& pKey) {
-  if (mCount == 0) {
-    mDense = mAscending = true;
-    DropIndex();
-  }
+  if (mCount == 0) mDense = mAscending = true;
   if (!pKey.IsNumber()) {
     mDense = mAscending = false;
   } else if (mCount != 0) {
@@ -50,20 +62,23 @@ void KeyedOrder::NoteOrder(const ItemKey& pKey) {
   }
 }
 
-KeyedOrder::Place KeyedOrder::Append(ItemKey pKey) {
+KeyedOrder::Ordinal KeyedOrder::Append(ItemKey pKey) {
   NoteOrder(pKey);
-  const Place place = mTail;
-  if (mIndex) mIndex->Add(pKey, place);
-  mKeys[Slot(place)] = std::move(pKey);
+  const Ordinal ordinal = mTail;
+  if (mIndex) mIndex->Add(pKey, ordinal);
+  if (mRanks && !mRanks->Covers(ordinal)) mRanks.reset();
+  if (mRanks) mRanks->Add(ordinal);
+  mKeys[Slot(ordinal)] = std::move(pKey);
   ++mTail;
   ++mCount;
   ++mChanges;
-  return place;
+  return ordinal;
 }
 
-void KeyedOrder::Remove(Place pPlace) {
-  ItemKey& key = mKeys[Slot(pPlace)];
+void KeyedOrder::Remove(Ordinal pOrdinal) {
+  ItemKey& key = mKeys[Slot(pOrdinal)];
   if (mIndex) mIndex->Remove(key);
+  if (mRanks) mRanks->Remove(pOrdinal);
   ItemKey hole;
   key = std::move(hole);
   --mCount;
@@ -74,11 +89,11 @@ void KeyedOrder::Remove(Place pPlace) {
 void KeyedOrder::Trim() {
   if (mCount == 0) {
     mHead = mTail;
-    DropIndex();
+    DropIndexes();
     return;
   }
   while (KeyAt(mHead).IsHole()) ++mHead;
-  if (IsWalked()) return;  // an addition must not take a place that a walker has passed
+  if (IsWalked()) return;  // an addition must not take the ordinal of an item that a walker has passed
   while (KeyAt(mTail - 1).IsHole()) --mTail;
 }
 

@@ -222,6 +222,33 @@ TEST(Collection, WhatIsNotThereIsAnInvalidCall) {
   EXPECT_EQ(things.Count(), 2);
 }
 
+TEST(Collection, ReadsLeaveWhatOtherReadsReturnedWhereItIs) {
+  Things things;
+  for (int i = 0; i < 8; ++i) Add(things, NextKey(things, "Thing"));
+  things.Remove("Thing3");
+  things.Remove("Thing6");
+  const auto& first = things.First();
+  const auto& last = things.Last();
+  const auto& fourth = things.Item("Thing4");
+  EXPECT_EQ(things.Item(4)->Key, "Thing5");
+  EXPECT_EQ(things.KeyOf(5), "Thing7");
+  EXPECT_EQ(first->Key + last->Key + fourth->Key, "Thing1Thing8Thing4");
+}
+
+TEST(Collection, PositionsAmongHolesAreFoundWhileTheQueueMovesOn) {
+  Things things;
+  std::list<std::string> keys;
+  for (int i = 0; i < 20'000; ++i) {
+    Add(things, NextKey(things, "Thing"));
+    keys.push_back("Thing" + std::to_string(i + 1));
+    if (i < 1000 || i % 97 == 0) continue;
+    const int at = i % 5 == 0 ? i % 300 : 0;
+    ASSERT_EQ(things.Item(at + 1)->Key, *std::next(keys.begin(), at)) << i;
+    things.Remove(at + 1);
+    keys.erase(std::next(keys.begin(), at));
+  }
+}
+
 TEST(Collection, LoopMayRemoveWhatItLooksAtAndAddWhatItWillSee) {
   Things things;
   for (int i = 0; i < 5; ++i) Add(things, NextKey(things, "Thing"));

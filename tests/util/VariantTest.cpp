@@ -1,5 +1,7 @@
 #include "util/Variant.h"
 
+#include <cmath>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -104,6 +106,17 @@ TEST(Date, TextFollowsTheCalendarOnBothSidesOfTheZeroDate) {
   const std::vector<std::pair<double, const char*>> dates = {
       {0, "1899-12-30 00:00:00"}, {36584.75, "2000-02-28 18:00:00"}, {36585.999994, "2000-02-29 23:59:59"}, {-0.5, "1899-12-29 12:00:00"}};
   for (const auto& [days, text] : dates) EXPECT_EQ(Date::FromDays(days).ToText(), text);
+}
+
+TEST(Date, HasATextAtBothEndsOfItsRange) {
+  using Limits = std::numeric_limits<std::int64_t>;
+  EXPECT_EQ(Date::FromMilliseconds(Limits::max()).ToText(), "292278924-08-15 07:12:55");
+  EXPECT_EQ(Date::FromMilliseconds(Limits::min()).ToText(), "-292275125-05-14 16:47:04");
+  EXPECT_EQ(Date::FromDays(-694'324).ToText(), "-0001-01-01 00:00:00");
+  EXPECT_EQ(Date::FromDays(2'958'466).ToText(), "10000-01-01 00:00:00");
+  for (const double days : {1e20, -1e20, 1.1e11, std::nan(""), HUGE_VAL}) {
+    EXPECT_EQ(Outcome([&] { return Variant(days).ToDate().IsZero(); }), "!6") << days;
+  }
 }
 
 }  // namespace
