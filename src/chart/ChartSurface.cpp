@@ -7,7 +7,14 @@ namespace vantrel {
 
 namespace {
 
-constexpr float kEverything = 1e12F;
+bool IsBox(const Element& pobjElement) { return pobjElement.Family() != ctlLineFamily && pobjElement.Index() != 0; }
+
+template <class E, class Take>
+void ForEach(const ElementFamily<E>& pobjFamily, Take&& pTake) {
+  for (std::int32_t i = 0; i <= pobjFamily.UpperBound(); ++i) {
+    if (const auto& element = pobjFamily.At(i)) pTake(*element);
+  }
+}
 
 }  // namespace
 
@@ -35,49 +42,116 @@ void ChartSurface::Adopt(Element& pobjElement, ElementFamilyId pFamily, std::int
   pobjElement.mFamily = pFamily;
   pobjElement.mIndex = plngIndex;
   pobjElement.mZOrder = ++mFront;
+  if (IsBox(pobjElement)) mBoxBounds.Add(pobjElement.Bounds());
 }
 
 void ChartSurface::ElementChanged(Element& pobjElement, const Rect& pobjBefore, bool pblnWasVisible, bool pblnIsVisible) {
-  if (!pblnWasVisible && !pblnIsVisible) return;
   const Rect after = pobjElement.Bounds();
-  const bool moved = pblnWasVisible != pblnIsVisible || pobjBefore != after;
-  if (moved && pblnWasVisible) mGrid.Remove(&pobjElement, pobjBefore);
-  if (moved && pblnIsVisible) mGrid.Insert(&pobjElement, after);
-  if (pblnWasVisible) OnDamaged.Raise(pobjBefore);
-  if (pblnIsVisible && (moved || !pblnWasVisible)) OnDamaged.Raise(after);
+  const bool moved = pobjBefore != after;
+  if (moved && IsBox(pobjElement)) {
+    mBoxBounds.Add(after);
+    mBoxBounds.Remove(pobjBefore);
+  }
+  if (moved || pblnWasVisible != pblnIsVisible) Arrange(pobjElement, pobjBefore, after, pblnWasVisible, pblnIsVisible);
+  if (pblnWasVisible && pblnIsVisible && pobjBefore.Touches(after)) return Damage(pobjBefore.United(after));
+  if (pblnWasVisible) Damage(pobjBefore);
+  if (pblnIsVisible) Damage(after);
+}
+
+// Keeps grid and bounds true to what is visible where.
+void ChartSurface::Arrange(Element& pobjElement, const Rect& pobjBefore, const Rect& pobjAfter, bool pblnWasVisible, bool pblnIsVisible) {
+  if (pblnWasVisible && pblnIsVisible) {
+    mGrid.Move(&pobjElement, pobjBefore, pobjAfter);
+  } else if (pblnWasVisible) {
+    mGrid.Remove(&pobjElement, pobjBefore);
+  } else if (pblnIsVisible) {
+    mGrid.Insert(&pobjElement, pobjAfter);
+  }
+  const bool grew = pblnIsVisible && mVisibleBounds.Add(pobjAfter);
+  if (pblnWasVisible) mVisibleBounds.Remove(pobjBefore);
+  if (grew) OnGrown.Raise(pobjAfter);
+}
+
+void ChartSurface::Damage(const Rect& pobjArea) const {
+  if (pobjArea.Touches(mWatched)) OnDamaged.Raise(pobjArea);
+}
+
+std::optional<Rect> ChartSurface::VisibleBounds() const {
+  if (mVisibleBounds.IsKnown()) return mVisibleBounds.Value();
+  RunningBounds bounds;
+  const auto add = [&bounds](const Element& element) {
+    if (element.Visible()) bounds.Add(element.Bounds());
+  };
+  ForEach(ctlImage, add);
+  ForEach(ctlLabel, add);
+  ForEach(lblCount, add);
+  ForEach(ctlLine, add);
+  ForEach(ctlHandle, add);
+  mVisibleBounds = bounds;
+  return bounds.Value();
+}
+
+std::optional<Rect> ChartSurface::BoxBounds() const {
+  if (mBoxBounds.IsKnown()) return mBoxBounds.Value();
+  RunningBounds bounds;
+  const auto add = [&bounds](const Element& element) {
+    if (IsBox(element)) bounds.Add(element.Bounds());
+  };
+  ForEach(ctlImage, add);
+  ForEach(ctlLabel, add);
+  ForEach(lblCount, add);
+  ForEach(ctlHandle, add);
+  mBoxBounds = bounds;
+  return bounds.Value();
 }
 
 void ChartSurface::BringToFront(Element& pobjElement) {
   if (pobjElement.mZOrder == mFront) return;
   pobjElement.mZOrder = ++mFront;
-  if (pobjElement.Visible()) OnDamaged.Raise(pobjElement.Bounds());
+  if (pobjElement.Visible()) Damage(pobjElement.Bounds());
 }
 
+// Whoever hears of the damage may take the element's index again, or the surface away: that is the last step.
 void ChartSurface::Unload(Element& pobjElement) {
   if (pobjElement.Index() == 0) return;
   const std::shared_ptr<Element> keeper = pobjElement.shared_from_this();
-  pobjElement.Visible(false);
+  const Rect bounds = pobjElement.Bounds();
+  const bool wasVisible = std::exchange(pobjElement.mVisible, false);
+  if (wasVisible) Arrange(pobjElement, bounds, bounds, true, false);
+  if (IsBox(pobjElement)) mBoxBounds.Remove(bounds);
   pobjElement.mSurface = nullptr;
+  Drop(pobjElement);
+  if (wasVisible) Damage(bounds);
+}
+
+void ChartSurface::Drop(const Element& pobjElement) {
   const std::int32_t index = pobjElement.Index();
   switch (pobjElement.Family()) {
     case ctlImageFamily:
-      return ctlImage.Remove(index);
+      return ctlImage.Drop(index);
     case ctlLabelFamily:
-      return ctlLabel.Remove(index);
+      return ctlLabel.Drop(index);
     case lblCountFamily:
-      return lblCount.Remove(index);
+      return lblCount.Drop(index);
     case ctlLineFamily:
-      return ctlLine.Remove(index);
+      return ctlLine.Drop(index);
     case ctlHandleFamily:
-      return ctlHandle.Remove(index);
+      return ctlHandle.Drop(index);
   }
 }
 
 std::vector<Element*> ChartSurface::ElementsIn(const Rect& pobjArea) const {
   std::vector<Element*> found;
   mGrid.Collect(pobjArea, found);
-  std::erase_if(found, [&](const Element* element) { return !element->Bounds().Touches(pobjArea); });
-  std::sort(found.begin(), found.end(), [](const Element* a, const Element* b) { return a->ZOrder() < b->ZOrder(); });
+  std::vector<std::pair<std::int64_t, Element*>> layers;  // beside the pointers: sorting must not go to each element again and again
+  layers.reserve(found.size());
+  for (Element* element : found) {
+    if (element->Bounds().Touches(pobjArea)) layers.emplace_back(element->ZOrder(), element);
+  }
+  std::sort(layers.begin(), layers.end());
+  layers.erase(std::unique(layers.begin(), layers.end()), layers.end());
+  found.clear();
+  for (const auto& [order, element] : layers) found.push_back(element);
   return found;
 }
 
@@ -103,12 +177,12 @@ void ChartSurface::Origin(float psngLeft, float psngTop) {
 
 void ChartSurface::BackColor(Color plngColor) {
   if (std::exchange(mBackColor, plngColor) == plngColor) return;
-  OnDamaged.Raise({-kEverything, -kEverything, kEverything, kEverything});
+  Damage(kEverything);
 }
 
 void ChartSurface::Visible(bool pblnOn) {
   if (std::exchange(mVisible, pblnOn) == pblnOn) return;
-  OnDamaged.Raise({-kEverything, -kEverything, kEverything, kEverything});
+  Damage(kEverything);
 }
 
 void ChartSurface::Measure(std::shared_ptr<const TextMeasure> pobjMeasure) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "chart/Element.h"
@@ -9,6 +10,7 @@
 #include "chart/Image.h"
 #include "chart/Label.h"
 #include "chart/Line.h"
+#include "chart/RunningBounds.h"
 #include "chart/SpatialGrid.h"
 #include "chart/TextMeasure.h"
 #include "util/Event.h"
@@ -18,11 +20,14 @@ namespace vantrel {
 /// Owns the element families, knows every visible element's rectangle and tells views what to paint again. Views ask it
 /// for elements; they never ask the model.
 class ChartSurface {
+  static constexpr Rect kEverything{-1e12F, -1e12F, 1e12F, 1e12F};
   // Before the families: their templates are numbered and stacked while they are made.
   SpatialGrid mGrid;
+  mutable RunningBounds mVisibleBounds, mBoxBounds;  // a question settles what is unknown
   std::shared_ptr<const TextMeasure> mMeasure;
   std::int64_t mFront = 0;
   float mScaleLeft = 0, mScaleTop = 0, mScaleWidth = 0, mScaleHeight = 0;
+  Rect mWatched = kEverything;
   Color mBackColor = kWhite;
   bool mVisible = true;
 
@@ -42,6 +47,12 @@ class ChartSurface {
   /// The visible element nearest to the front under a point, or null. The tolerance widens lines only, twips.
   Element* ElementAt(float psngX, float psngY, float psngTolerance = 0) const;
 
+  /// The rectangle around all visible elements, twips; nothing for an empty chart. Costs a look at every element only after one
+  /// went from the edge.
+  std::optional<Rect> VisibleBounds() const;
+  /// The same of all elements but lines and templates, hidden ones included: they show up later where they are now.
+  std::optional<Rect> BoxBounds() const;
+
   float ScaleLeft() const { return mScaleLeft; }  ///< the part in view, twips
   float ScaleTop() const { return mScaleTop; }
   float ScaleWidth() const { return mScaleWidth; }
@@ -57,8 +68,13 @@ class ChartSurface {
   /// Takes another text measure; null brings the built-in one back. Labels are not measured again by this.
   void Measure(std::shared_ptr<const TextMeasure> pobjMeasure);
 
+  /// Restricts OnDamaged to what touches this rectangle, twips: a view needs to hear only of what it shows. Everything at first.
+  void Watch(const Rect& pobjArea) { mWatched = pobjArea; }
+
   /// Raised with each rectangle (twips) that has to be painted again.
   Event<const Rect&> OnDamaged;
+  /// Raised after VisibleBounds grew, with the rectangle that they did not hold.
+  Event<const Rect&> OnGrown;
 
  private:
   friend class Element;
@@ -67,8 +83,11 @@ class ChartSurface {
 
   void Adopt(Element& pobjElement, ElementFamilyId pFamily, std::int32_t plngIndex);
   void ElementChanged(Element& pobjElement, const Rect& pobjBefore, bool pblnWasVisible, bool pblnIsVisible);
+  void Arrange(Element& pobjElement, const Rect& pobjBefore, const Rect& pobjAfter, bool pblnWasVisible, bool pblnIsVisible);
+  void Damage(const Rect& pobjArea) const;
   void BringToFront(Element& pobjElement);
   void Unload(Element& pobjElement);
+  void Drop(const Element& pobjElement);
 };
 
 template <class E>

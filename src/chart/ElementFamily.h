@@ -32,11 +32,9 @@ class ElementFamily {
   /// Elements in use, the template included.
   std::int32_t Count() const { return mCount; }
 
+  /// Takes an element off the surface, as Element::Unload does. Nothing for the template and for an index without an element.
   void Remove(std::int32_t plngIndex) {
-    if (plngIndex <= 0 || !At(plngIndex)) return;
-    mElements[static_cast<std::size_t>(plngIndex)] = nullptr;
-    --mCount;
-    while (!mElements.back()) mElements.pop_back();
+    if (const auto element = At(plngIndex)) element->Unload();
   }
 
   /// Cuts the ties to a surface that goes away.
@@ -47,7 +45,13 @@ class ElementFamily {
   }
 
  private:
+  friend class ChartSurface;
   std::shared_ptr<E> Append();
+  void Drop(std::int32_t plngIndex) {
+    mElements[static_cast<std::size_t>(plngIndex)] = nullptr;
+    --mCount;
+    while (!mElements.back()) mElements.pop_back();
+  }
 
   ChartSurface& mSurface;
   std::vector<std::shared_ptr<E>> mElements;

@@ -16,6 +16,14 @@ struct Rect {
   bool Touches(const Rect& pobjOther) const {
     return Left <= pobjOther.Right && pobjOther.Left <= Right && Top <= pobjOther.Bottom && pobjOther.Top <= Bottom;
   }
+  /// True when the other lies inside or touches the edge from inside.
+  bool Encloses(const Rect& pobjOther) const {
+    return pobjOther.Left >= Left && pobjOther.Right <= Right && pobjOther.Top >= Top && pobjOther.Bottom <= Bottom;
+  }
+  /// The same without touching the edge.
+  bool EnclosesInside(const Rect& pobjOther) const {
+    return pobjOther.Left > Left && pobjOther.Right < Right && pobjOther.Top > Top && pobjOther.Bottom < Bottom;
+  }
   Rect United(const Rect& pobjOther) const {
     return {std::min(Left, pobjOther.Left), std::min(Top, pobjOther.Top), std::max(Right, pobjOther.Right),
             std::max(Bottom, pobjOther.Bottom)};

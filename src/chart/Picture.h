@@ -1,10 +1,11 @@
 // Pictures that images show, and lists of them.
 #pragma once
 
-#include <map>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace vantrel {
@@ -22,17 +23,21 @@ class ImageList {
     auto picture = std::make_shared<const Picture>(Picture{pstrKey, psngWidth, psngHeight});
     mPictures.insert_or_assign(std::move(pstrKey), std::move(picture));
   }
-  /// The picture, or null when the list has none of that name.
-  std::shared_ptr<const Picture> Find(std::string_view pstrKey) const {
+  /// The picture, or null when the list has none of that name. The reference holds until the key is added again.
+  const std::shared_ptr<const Picture>& Find(std::string_view pstrKey) const {
+    static const std::shared_ptr<const Picture> none;
     const auto found = mPictures.find(pstrKey);
-    return found == mPictures.end() ? nullptr : found->second;
+    return found == mPictures.end() ? none : found->second;
   }
 
   /// The list of the designer's own pictures ("VantrelImages"): objects of 32 pixels, connectors of 8, handles of 6.
   static ImageList VantrelImages();
 
  private:
-  std::map<std::string, std::shared_ptr<const Picture>, std::less<>> mPictures;
+  struct Hash : std::hash<std::string_view> {
+    using is_transparent = void;
+  };
+  std::unordered_map<std::string, std::shared_ptr<const Picture>, Hash, std::equal_to<>> mPictures;
 };
 
 }  // namespace vantrel

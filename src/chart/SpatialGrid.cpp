@@ -1,17 +1,20 @@
 #include "chart/SpatialGrid.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace vantrel {
 
 namespace {
 
-// Coordinates that no chart reaches (or that are no numbers) must not leave the range of cell numbers.
+// Coordinates that no chart reaches, and NaN, must not leave the range of cell numbers. (std::floor is a call and took a tenth of
+// the time of a drag.)
 std::int32_t CellOf(float psngAt, float psngCell) {
-  const float cell = std::floor(psngAt / psngCell);
-  if (!(cell > -1e9F)) return -1'000'000'000;
-  return cell < 1e9F ? static_cast<std::int32_t>(cell) : 1'000'000'000;
+  constexpr float kFarthest = 1e9F;
+  const float cell = psngAt / psngCell;
+  if (!(cell > -kFarthest)) return -1'000'000'000;
+  if (cell >= kFarthest) return 1'000'000'000;
+  const auto whole = static_cast<std::int32_t>(cell);
+  return static_cast<float>(whole) > cell ? whole - 1 : whole;
 }
 
 }  // namespace
@@ -28,25 +31,34 @@ bool SpatialGrid::Drop(std::vector<Element*>& pcolCell, const Element* pobjEleme
   return true;
 }
 
-void SpatialGrid::Insert(Element* pobjElement, const Rect& pobjBounds) {
-  const Range range = RangeOf(pobjBounds);
-  if (range.IsLarge()) {
+void SpatialGrid::Insert(Element* pobjElement, const Rect& pobjBounds) { Insert(pobjElement, RangeOf(pobjBounds)); }
+
+void SpatialGrid::Remove(Element* pobjElement, const Rect& pobjBounds) { Remove(pobjElement, RangeOf(pobjBounds)); }
+
+void SpatialGrid::Move(Element* pobjElement, const Rect& pobjBefore, const Rect& pobjAfter) {
+  const Range before = RangeOf(pobjBefore), after = RangeOf(pobjAfter);
+  if (before == after || (before.IsLarge() && after.IsLarge())) return;
+  Remove(pobjElement, before);
+  Insert(pobjElement, after);
+}
+
+void SpatialGrid::Insert(Element* pobjElement, const Range& pobjRange) {
+  if (pobjRange.IsLarge()) {
     mLarge.push_back(pobjElement);
     return;
   }
-  for (std::int32_t y = range.Top; y <= range.Bottom; ++y) {
-    for (std::int32_t x = range.Left; x <= range.Right; ++x) mCells[CellKey(x, y)].push_back(pobjElement);
+  for (std::int32_t y = pobjRange.Top; y <= pobjRange.Bottom; ++y) {
+    for (std::int32_t x = pobjRange.Left; x <= pobjRange.Right; ++x) mCells[CellKey(x, y)].push_back(pobjElement);
   }
 }
 
-void SpatialGrid::Remove(Element* pobjElement, const Rect& pobjBounds) {
-  const Range range = RangeOf(pobjBounds);
-  if (range.IsLarge()) {
+void SpatialGrid::Remove(Element* pobjElement, const Range& pobjRange) {
+  if (pobjRange.IsLarge()) {
     Drop(mLarge, pobjElement);
     return;
   }
-  for (std::int32_t y = range.Top; y <= range.Bottom; ++y) {
-    for (std::int32_t x = range.Left; x <= range.Right; ++x) {
+  for (std::int32_t y = pobjRange.Top; y <= pobjRange.Bottom; ++y) {
+    for (std::int32_t x = pobjRange.Left; x <= pobjRange.Right; ++x) {
       const auto cell = mCells.find(CellKey(x, y));
       if (cell == mCells.end()) continue;
       Drop(cell->second, pobjElement);
@@ -73,8 +85,6 @@ void SpatialGrid::Collect(const Rect& pobjArea, std::vector<Element*>& pcolFound
       }
     }
   }
-  std::sort(pcolFound.begin(), pcolFound.end());
-  pcolFound.erase(std::unique(pcolFound.begin(), pcolFound.end()), pcolFound.end());
 }
 
 }  // namespace vantrel

@@ -17,7 +17,9 @@ class SpatialGrid {
  public:
   void Insert(Element* pobjElement, const Rect& pobjBounds);
   void Remove(Element* pobjElement, const Rect& pobjBounds);
-  /// Every element whose cell the rectangle touches, each once; the caller still has to compare the bounds.
+  /// Costs next to nothing while the element stays in the same cells.
+  void Move(Element* pobjElement, const Rect& pobjBefore, const Rect& pobjAfter);
+  /// Every element whose cell the rectangle touches, in no order and possibly several times. The caller compares the bounds.
   void Collect(const Rect& pobjArea, std::vector<Element*>& pcolFound) const;
 
  private:
@@ -26,9 +28,12 @@ class SpatialGrid {
 
   struct Range {
     std::int32_t Left, Top, Right, Bottom;
+    bool operator==(const Range&) const = default;
     bool IsLarge() const { return (std::int64_t{Right} - Left + 1) * (std::int64_t{Bottom} - Top + 1) > kManyCells; }
   };
   static Range RangeOf(const Rect& pobjBounds);
+  void Insert(Element* pobjElement, const Range& pobjRange);
+  void Remove(Element* pobjElement, const Range& pobjRange);
   static std::int64_t CellKey(std::int32_t plngX, std::int32_t plngY) {
     return std::int64_t{plngX} << 32 | static_cast<std::uint32_t>(plngY);
   }

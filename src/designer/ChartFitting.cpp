@@ -9,13 +9,6 @@ namespace vantrel {
 
 namespace {
 
-template <class E>
-void Extend(Rect& pobjExtent, const ElementFamily<E>& pobjFamily) {
-  for (std::int32_t index = 1; index <= pobjFamily.UpperBound(); ++index) {
-    if (const auto element = pobjFamily.At(index)) pobjExtent = pobjExtent.United(element->Bounds());
-  }
-}
-
 template <class T>
 void MoveEach(const Collection<T>& pcolObjects, float psngX, float psngY) {
   for (typename Collection<T>::Cursor cursor(pcolObjects); T* object = cursor.Next();) {
@@ -30,15 +23,8 @@ void Widen(ScrollBar& pobjBar, float psngMin, float psngMax) {
 
 }  // namespace
 
-Rect ChartFitting::Extent() const {
-  const auto& surface = mobjControl.ChartArea;
-  Rect extent;
-  Extend(extent, surface.ctlImage);
-  Extend(extent, surface.ctlLabel);
-  Extend(extent, surface.lblCount);
-  Extend(extent, surface.ctlHandle);
-  return extent;
-}
+// What lies right of and below the origin does not narrow it.
+Rect ChartFitting::Extent() const { return Rect().United(mobjControl.ChartArea.BoxBounds().value_or(Rect())); }
 
 // Bend points first: the arcs draw themselves when their ends move.
 void ChartFitting::MoveAll(float psngX, float psngY) {

@@ -5,7 +5,6 @@
 
 namespace vantrel {
 
-/// Each operation is one pass over the elements, hidden ones included: they show up later where they are now.
 class ChartFitting {
  public:
   explicit ChartFitting(Vantrel& pobjControl) : mobjControl(pobjControl) {}

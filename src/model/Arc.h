@@ -114,6 +114,7 @@ class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
  private:
+  friend class SingleDrawing;
   friend class Vector;
 
   void ShowFocus(bool pblnOn);
@@ -128,6 +129,7 @@ class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
   float msngWeightOffsetX = 0, msngWeightOffsetY = 200;
   float msngCaptionHeight = 0, msngCaptionWidth = 0;
   float msngWeightHeight = 0, msngWeightWidth = 0;
+  std::size_t mlngTurn = 0;  // in a SingleDrawing
   bool mblnVisible = false;
   bool mblnSelected = false;
 };

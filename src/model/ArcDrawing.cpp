@@ -40,16 +40,18 @@ std::optional<ArcEnd> InputPoint(const Node& pobjNode) {
 // A joint takes the point of whichever of its two segments comes later in the workflow; normally both hold the same.
 void DrawSegments(const std::vector<Vector*>& pcolSegments, std::optional<ArcEnd> pStart, std::optional<ArcEnd> pEnd) {
   for (Vector* segment : pcolSegments) {
+    ArcEnd from{segment->X1(), segment->Y1()}, to{segment->X2(), segment->Y2()};
     if (const Vector* before = segment->InVector.get()) {
-      segment->Start(before->X2(), before->Y2());
+      from = {before->X2(), before->Y2()};
     } else if (pStart) {
-      segment->Start(pStart->X, pStart->Y);
+      from = *pStart;
     }
     if (const Vector* behind = segment->OutVector.get()) {
-      segment->End(behind->X1(), behind->Y1());
+      to = {behind->X1(), behind->Y1()};
     } else if (pEnd) {
-      segment->End(pEnd->X, pEnd->Y);
+      to = *pEnd;
     }
+    segment->Place(from.X, from.Y, to.X, to.Y);
     segment->Draw();
   }
 }

@@ -30,6 +30,14 @@ void Vector::End(float psngX2, float psngY2) {
   if (Line* line = LineControl.get()) line->Place(line->X1(), line->Y1(), msngX2, msngY2);
 }
 
+void Vector::Place(float psngX1, float psngY1, float psngX2, float psngY2) {
+  msngX1 = psngX1;
+  msngY1 = psngY1;
+  msngX2 = psngX2;
+  msngY2 = psngY2;
+  if (Line* line = LineControl.get()) line->Place(msngX1, msngY1, msngX2, msngY2);
+}
+
 void Vector::LineWidth(std::int16_t& pintPixels) {
   pintPixels = std::max<std::int16_t>(1, pintPixels);
   mintLineWidth = pintPixels;

@@ -49,6 +49,8 @@ class Vector final : public ModelObject, public std::enable_shared_from_this<Vec
   void Y2(float psngY) { End(msngX2, psngY); }
   void Start(float psngX1, float psngY1);
   void End(float psngX2, float psngY2);
+  /// Both ends at once.
+  void Place(float psngX1, float psngY1, float psngX2, float psngY2);
 
   std::int16_t LineWidth() const { return mintLineWidth; }
   /// Pixels; a value below 1 becomes 1, for the caller's variable too.

@@ -13,7 +13,6 @@
 
 #include "chart/ChartSurface.h"
 #include "qt/ChartPainter.h"
-#include "qt/ContentBounds.h"
 #include "qt/Conversions.h"
 #include "util/Error.h"
 
@@ -110,7 +109,7 @@ Format FormatFor(const QString& pstrPath) {
 }
 
 Rect AreaOf(const ChartSurface& pobjSurface) {
-  const Rect content = ContentBounds(pobjSurface).value_or(Rect());
+  const Rect content = pobjSurface.VisibleBounds().value_or(Rect());
   return {content.Left - kMargin, content.Top - kMargin, content.Right + kMargin, content.Bottom + kMargin};
 }
 

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "qt/ContentBounds.h"
 #include "qt/Conversions.h"
 #include "qt/FramePainter.h"
 #include "qt/InPlaceEditor.h"
@@ -63,7 +62,7 @@ ChartView::ChartView(Vantrel& pobjControl, QWidget* pobjParent)
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
   viewport()->grabGesture(Qt::PinchGesture);
-  mobjContents = ContentBounds(pobjControl.ChartArea).value_or(Rect());
+  mobjContents = pobjControl.ChartArea.VisibleBounds().value_or(Rect());
   Listen();
   OriginChanged();
 }
@@ -74,10 +73,8 @@ void ChartView::FinishEditing() { mobjEditor->Commit(); }
 
 void ChartView::Listen() {
   const auto damaged = [this](int reach) { return [this, reach](const Rect& rect) { Damaged(rect, reach); }; };
-  mcolSubscriptions.push_back(mobjControl.ChartArea.OnDamaged.Connect([this](const Rect& rect) {
-    Damaged(rect, kReach);
-    GrowContents(rect);
-  }));
+  mcolSubscriptions.push_back(mobjControl.ChartArea.OnDamaged.Connect(damaged(kReach)));
+  mcolSubscriptions.push_back(mobjControl.ChartArea.OnGrown.Connect([this](const Rect& rect) { GrowContents(rect); }));
   mcolSubscriptions.push_back(mobjControl.MultiSelect.OnDamaged.Connect(damaged(kFrameReach)));
   mcolSubscriptions.push_back(mobjControl.FocusFrame.OnDamaged.Connect(damaged(kFrameReach)));
   mcolSubscriptions.push_back(mobjControl.FocusFrame.OnEditing.Connect([this] { mobjEditor->Follow(mobjTransform); }));
@@ -94,10 +91,8 @@ void ChartView::Damaged(const Rect& pobjRect, int plngReach) {
 
 // What was taken away is noticed when the zoom or the size changes: until then there is only more room to scroll.
 void ChartView::GrowContents(const Rect& pobjRect) {
-  const Rect grown = mobjContents.United(pobjRect);
-  constexpr float kNowhere = 1e9F;  // a damaged everything
-  if (grown == mobjContents || std::abs(pobjRect.Left) > kNowhere) return;
-  mobjContents = grown;
+  if (mobjContents.Encloses(pobjRect)) return;
+  mobjContents = mobjContents.United(pobjRect);
   UpdateRange();
 }
 
@@ -111,6 +106,7 @@ void ChartView::OriginChanged() {
   mobjTransform.OriginX = mobjControl.HScroll.Value();
   mobjTransform.OriginY = mobjControl.VScroll.Value();
   mobjTransform.Ratio = devicePixelRatioF();
+  mobjControl.ChartArea.Watch(mobjTransform.ToChart(QRectF(viewport()->rect()).adjusted(-kReach, -kReach, kReach, kReach)));
   if (mobjControl.FocusFrame.IsEditing()) mobjEditor->Follow(mobjTransform);
   viewport()->update();
 }
@@ -128,7 +124,7 @@ void ChartView::Zoom(double pdblZoom, const QPointF& pobjAnchor) {
   const bool isNew = zoom != Zoom();
   const QPointF kept = mobjTransform.ToChart(pobjAnchor);
   mobjTransform.Zoom = zoom;
-  mobjContents = ContentBounds(mobjControl.ChartArea).value_or(Rect());
+  mobjContents = mobjControl.ChartArea.VisibleBounds().value_or(Rect());
   const Rect view = InView();
   mobjControl.ChartArea.Scale(view.Right - view.Left, view.Bottom - view.Top);
   if (isNew) {
@@ -141,7 +137,7 @@ void ChartView::Zoom(double pdblZoom, const QPointF& pobjAnchor) {
 }
 
 void ChartView::FitToWindow() {
-  const auto content = ContentBounds(mobjControl.ChartArea);
+  const auto content = mobjControl.ChartArea.VisibleBounds();
   if (!content) return Zoom(1);
   const QSizeF size = ToPixels(*content).size();
   const double wide = (viewport()->width() - 2 * kFitMargin) / std::max(1.0, size.width());
@@ -153,7 +149,7 @@ void ChartView::FitToWindow() {
 }
 
 void ChartView::ShowBeginning() {
-  mobjContents = ContentBounds(mobjControl.ChartArea).value_or(Rect());
+  mobjContents = mobjControl.ChartArea.VisibleBounds().value_or(Rect());
   mobjControl.HScroll.Value(std::min(0.0F, mobjContents.Left));
   mobjControl.VScroll.Value(std::min(0.0F, mobjContents.Top));
   UpdateRange();

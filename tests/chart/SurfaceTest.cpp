@@ -43,6 +43,8 @@ class RandomChart {
     const auto at =
         Expected([&](const Element& element) { return element.Covers(left, top, element.Family() == ctlLineFamily ? 45.0F : 0.0F); });
     EXPECT_EQ(mSurface.ElementAt(left, top, 45), at.empty() ? nullptr : at.back());
+    EXPECT_EQ(mSurface.VisibleBounds(), Around(Expected([](const Element&) { return true; })));
+    EXPECT_EQ(mSurface.BoxBounds(), Around(mImages));
   }
 
  private:
@@ -68,6 +70,13 @@ class RandomChart {
     return found;
   }
 
+  template <class Pointer>
+  static std::optional<Rect> Around(const std::vector<Pointer>& pcolElements) {
+    std::optional<Rect> around;
+    for (const auto& element : pcolElements) around = around ? around->United(element->Bounds()) : element->Bounds();
+    return around;
+  }
+
   std::mt19937 mRandom{7};
   ChartSurface mSurface;
   std::vector<std::shared_ptr<Image>> mImages;
@@ -80,6 +89,19 @@ TEST(ChartSurface, FindsWhatALookAtEveryElementFinds) {
     chart.ChangeOne();
     chart.Ask();
   }
+}
+
+TEST(ChartSurface, HasNoBoundsAfterTheLastElementWent) {
+  ChartSurface surface;
+  const auto image = surface.ctlImage.New();
+  EXPECT_EQ(surface.VisibleBounds(), std::nullopt);
+  image->MoveTo(500, 500);
+  image->Visible(true);
+  EXPECT_EQ(surface.VisibleBounds(), image->Bounds());
+  EXPECT_EQ(surface.BoxBounds(), image->Bounds());
+  image->Unload();
+  EXPECT_EQ(surface.VisibleBounds(), std::nullopt);
+  EXPECT_EQ(surface.BoxBounds(), std::nullopt);
 }
 
 TEST(ChartSurface, LineIsHitNearItsCourseAndNotInItsBox) {
@@ -121,6 +143,40 @@ TEST(Damage, CoversWhereTheElementWasAndWhereItIs) {
   image->Visible(true);
   image->MoveTo(0, 0);
   EXPECT_TRUE(damage.Take().empty());
+}
+
+TEST(Damage, IsToldOfTheWatchedPartAloneAndGrowthOfAll) {
+  ChartSurface surface;
+  const auto near = surface.ctlImage.New(), far = surface.ctlImage.New();
+  for (const auto& image : {near, far}) image->Resize(100, 100);
+  surface.Watch({0, 0, 1000, 1000});
+  Damage damage(surface);
+  std::vector<Rect> grown;
+  const Subscription growth = surface.OnGrown.Connect([&](const Rect& rect) { grown.push_back(rect); });
+  far->MoveTo(5000, 5000);
+  far->Visible(true);
+  near->Visible(true);
+  EXPECT_EQ(damage.Take(), std::vector<Rect>{near->Bounds()});
+  EXPECT_EQ(grown, (std::vector<Rect>{far->Bounds(), near->Bounds()}));
+  near->MoveTo(900, 4000);
+  far->MoveTo(900, 900);
+  EXPECT_EQ(damage.Take(), (std::vector<Rect>{{0, 0, 100, 100}, far->Bounds()}));
+  EXPECT_EQ(grown.size(), 2U);
+}
+
+TEST(Damage, OfAnElementThatGoesComesWhenItsIndexIsFree) {
+  ChartSurface surface;
+  const auto gone = surface.ctlLine.New();
+  gone->Place(0, 0, 100, 100);
+  gone->Visible(true);
+  std::shared_ptr<Line> next;
+  const Subscription listener = surface.OnDamaged.Connect([&](const Rect&) {
+    gone->Unload();
+    if (!next) next = surface.ctlLine.New();
+  });
+  gone->Unload();
+  EXPECT_EQ(next->Index(), 1);
+  EXPECT_EQ(surface.ctlLine.At(1), next) << "the listener's element was taken for the one that went";
 }
 
 TEST(Damage, SettingWhatIsSetIsSilent) {
@@ -166,6 +222,21 @@ TEST(ElementFamily, NewIndexIsOneAboveTheHighestInUse) {
   EXPECT_EQ(family.UpperBound(), 1);
   EXPECT_EQ(family.New()->Index(), 2);
   EXPECT_EQ(family.Count(), 3);
+}
+
+TEST(ElementFamily, RemovedElementIsOffTheSurface) {
+  ChartSurface surface;
+  const auto image = surface.ctlImage.New();
+  image->Resize(100, 100);
+  image->Visible(true);
+  Damage damage(surface);
+  surface.ctlImage.Remove(image->Index());
+  EXPECT_TRUE(surface.ElementsIn(image->Bounds()).empty());
+  EXPECT_EQ(damage.Take(), std::vector<Rect>{image->Bounds()});
+  EXPECT_EQ(image->Surface(), nullptr);
+  surface.ctlImage.Remove(0);
+  surface.ctlImage.Remove(7);
+  EXPECT_EQ(surface.ctlImage.Count(), 1);
 }
 
 TEST(ElementFamily, TemplateStaysAndLendsItsSettings) {
