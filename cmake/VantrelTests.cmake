@@ -1,5 +1,8 @@
 # Tests, script tests and fuzz targets.
 
+# Seconds. It ends what hangs; on a busy machine the slowest test takes a tenth of it.
+set(VANTREL_TEST_TIMEOUT 600)
+
 set(vantrel_nets "${VANTREL_NETS_DIR}")
 if(NOT vantrel_nets)
   set(vantrel_nets "$ENV{VANTREL_NETS}")
@@ -40,12 +43,12 @@ function(vantrel_add_test folder)
     set_property(GLOBAL PROPERTY VANTREL_FIRST_TEST ${target})
   endif()
 
-  set(properties LABELS ${name} TIMEOUT 120)
+  set(properties LABELS ${name} TIMEOUT ${VANTREL_TEST_TIMEOUT})
   if(vantrel_nets)
     list(APPEND properties ENVIRONMENT "VANTREL_NETS=${vantrel_nets}")
   endif()
   # Listing the tests when they are run, not when they are linked, lets a build finish though a test program cannot start.
-  gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES ${properties})
+  gtest_discover_tests(${target} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT ${VANTREL_TEST_TIMEOUT} PROPERTIES ${properties})
 endfunction()
 
 # vantrel_add_script_test(<Subject.Outcome> <script> [<argument>...])
@@ -58,7 +61,7 @@ function(vantrel_add_script_test name script)
     list(APPEND environment "VANTREL_NETS=${vantrel_nets}")
   endif()
   set_tests_properties(${name} PROPERTIES
-    ENVIRONMENT "${environment}" SKIP_RETURN_CODE 77 TIMEOUT 120 LABELS e2e)
+    ENVIRONMENT "${environment}" SKIP_RETURN_CODE 77 TIMEOUT ${VANTREL_TEST_TIMEOUT} LABELS e2e)
 endfunction()
 
 # vantrel_add_fuzzer(<name> SOURCES <file>... [LINKS <target>...] [CORPUS <folder>])
@@ -77,6 +80,6 @@ function(vantrel_add_fuzzer name)
   if(arg_CORPUS)
     add_test(NAME Fuzz.${name}SurvivesItsCorpus
       COMMAND ${target} -runs=0 ${CMAKE_CURRENT_SOURCE_DIR}/${arg_CORPUS})
-    set_tests_properties(Fuzz.${name}SurvivesItsCorpus PROPERTIES LABELS fuzz TIMEOUT 120)
+    set_tests_properties(Fuzz.${name}SurvivesItsCorpus PROPERTIES LABELS fuzz TIMEOUT ${VANTREL_TEST_TIMEOUT})
   endif()
 endfunction()

@@ -79,9 +79,9 @@ void EngineConnection::CommitTrans() {
     return;
   }
   if (IsTransactionLost()) {
-    const Error error(vntErrDatabase, ReasonOfLoss() + " Nothing of the transaction was saved.");
+    const std::string reason = ReasonOfLoss();
     EndTransaction();
-    throw error;
+    throw Error(vntErrDatabase, reason + " Nothing of the transaction was saved.");
   }
   try {
     mobjSession->Commit();
