@@ -3,7 +3,6 @@
 #include <unordered_set>
 
 #include "designer/CopiedArcs.h"
-#include "designer/PopupMenus.h"
 #include "designer/Selecting.h"
 
 namespace vantrel {
@@ -28,7 +27,6 @@ void Copying::Copy() {
     AddInnerArcs(*selection);
   }
   mobjControl.mobjCopied->Keep(*mobjControl.Clipboard);
-  mobjControl.mobjMenus->Paste().Enabled = !selection->IsEmpty();
 }
 
 }  // namespace vantrel

@@ -10,7 +10,6 @@
 #include "designer/Deleting.h"
 #include "designer/ElementBinding.h"
 #include "designer/FreeNames.h"
-#include "designer/PopupMenus.h"
 #include "designer/StillShown.h"
 
 namespace vantrel {
@@ -140,10 +139,7 @@ void Pasting::PasteAll(const Objects& pcolObjects) {
 
 void Pasting::Paste() {
   const auto clipboard = mobjControl.Clipboard;
-  if (!clipboard || clipboard->IsEmpty()) {
-    mobjControl.mobjMenus->Paste().Enabled = false;
-    return;
-  }
+  if (!clipboard || clipboard->IsEmpty()) return;
   RequirePosition(mobjControl);
   Objects objects;  // as they are now: deleting and listeners change selection and clipboard
   for (const auto& object : *clipboard) objects.push_back(object);

@@ -1,109 +1,97 @@
 #include "designer/PopupMenus.h"
 
-#include <utility>
+#include <string>
 
-#include "designer/StillShown.h"
-#include "util/MsgBox.h"
+#include "designer/Commands.h"
 
 namespace vantrel {
 
 namespace {
 
-// The question may end the control.
-void ReplaceWorkflow(Vantrel& pobjControl) {
-  const Ref<Vantrel> control(&pobjControl);
-  const auto ask = pobjControl.MayReplaceWorkflow;
-  if ((!ask || ask()) && control) control->NewWorkflow();
-}
+namespace Ids = CommandIds;
 
-void ToggleLock(Vantrel& pobjControl) {
-  pobjControl.LockControls(!pobjControl.LockControls());
-  if (const auto workflow = pobjControl.Workflow()) workflow->Dirty(true);
-}
+constexpr std::string_view kSeparator = "-", kFormat = "Format";
 
-// The commands may be replaced while one of them runs.
-auto TestCommand(void (TestCommands::*pCommand)(Vantrel&)) {
-  return [pCommand](Vantrel& control) {
-    const auto commands = control.TestCommands;
-    ((*commands).*pCommand)(control);
-  };
+constexpr std::string_view kDesignMenu[] = {
+    Ids::New,
+    Ids::Save,
+    kSeparator,
+    Ids::Copy,
+    Ids::Paste,
+    Ids::Delete,
+    Ids::SelectAll,
+    kSeparator,
+    Ids::InsertArc,
+    Ids::InsertPlace,
+    Ids::InsertTransition,
+    kSeparator,
+    Ids::InsertElbow,
+    Ids::RemoveElbow,
+    kSeparator,
+    Ids::AddNotation,
+    kSeparator,
+    kFormat,
+    kSeparator,
+    Ids::Test,
+    kSeparator,
+    Ids::Properties,
+};
+constexpr std::string_view kFormatMenu[] = {Ids::AlignHorizontal, Ids::AlignVertical, kSeparator,
+                                            Ids::Backcolor,       kSeparator,         Ids::LockControls};
+constexpr std::string_view kTestMenu[] = {Ids::StartCase, kSeparator, Ids::AddToken, Ids::RemoveToken, kSeparator, Ids::StopTesting};
+constexpr std::string_view kRoleMenu[] = {Ids::DeleteRole};
+
+// "Test", with the separator before it.
+void ShowTestCommand(const MenuItem& pobjDesign, bool pblnOn) {
+  for (std::size_t i = 1; i < pobjDesign.Items.size(); ++i) {
+    if (pobjDesign.Items[i]->Id != Ids::Test) continue;
+    pobjDesign.Items[i - 1]->Visible = pblnOn;
+    pobjDesign.Items[i]->Visible = pblnOn;
+  }
 }
 
 }  // namespace
 
 PopupMenus::PopupMenus(Vantrel& pobjControl) : mobjControl(&pobjControl) {
-  BuildDesign();
-  BuildTest();
-  AddCommand(mRole, "Delete", [](Vantrel& control) {
-    const auto dialogs = control.Dialogs;
-    dialogs->DeleteRole(control);
-  });
+  Build(mDesign, kDesignMenu);
+  Build(mTest, kTestMenu);
+  Build(mRole, kRoleMenu);
 }
 
-MenuItem& PopupMenus::AddCommand(MenuItem& pobjMenu, const std::string& pstrCaption, Command pCommand) {
-  MenuItem& item = pobjMenu.Add(pstrCaption);
-  mcolSubscriptions.push_back(item.OnClick.Connect([control = mobjControl, command = std::move(pCommand)] {
-    if (control) ShowErrors([&] { command(*control); });
-  }));
-  return item;
+void PopupMenus::Build(MenuItem& pobjMenu, Ids pcolIds) {
+  for (const std::string_view id : pcolIds) {
+    if (const ControlCommand* const command = FindCommand(id)) {
+      MenuItem& item = pobjMenu.Add(std::string(command->Caption), id);
+      mcolSubscriptions.push_back(item.OnClick.Connect([control = mobjControl, id] {
+        if (control) RunCommand(*control, id);
+      }));
+    } else if (id == kFormat) {
+      Build(pobjMenu.Add(std::string(kFormat)), kFormatMenu);
+    } else {
+      pobjMenu.AddSeparator();
+    }
+  }
 }
 
-void PopupMenus::BuildDesign() {
-  AddCommand(mDesign, "New", ReplaceWorkflow);
-  mDesign.Add("Save");
-  mDesign.AddSeparator();
-  AddCommand(mDesign, "Copy", [](Vantrel& control) { control.Copy(); });
-  mPaste = &AddCommand(mDesign, "Paste", [](Vantrel& control) { control.Paste(); });
-  AddCommand(mDesign, "Delete", [](Vantrel& control) { control.Delete(); });
-  AddCommand(mDesign, "Select All", [](Vantrel& control) { control.SelectAll(); });
-  mDesign.AddSeparator();
-  AddCommand(mDesign, "Insert Arc", [](Vantrel& control) { control.StartArcInsert(); });
-  AddCommand(mDesign, "Insert Place", [](Vantrel& control) { control.InsertPlace(); });
-  AddCommand(mDesign, "Insert Transition", [](Vantrel& control) { control.InsertTransition(); });
-  mDesign.AddSeparator();
-  AddCommand(mDesign, "Insert Elbow", [](Vantrel& control) { control.InsertElbow(); });
-  AddCommand(mDesign, "Remove Elbow", [](Vantrel& control) { control.RemoveElbow(); });
-  mDesign.AddSeparator();
-  AddCommand(mDesign, "Add Notation", [](Vantrel& control) { control.AddNotation(); });
-  mDesign.AddSeparator();
-  BuildFormat();
-  mTestSeparator = &mDesign.AddSeparator();
-  mTestCommand = &AddCommand(mDesign, "Test", TestCommand(&TestCommands::StartTest));
-  mDesign.AddSeparator();
-  AddCommand(mDesign, "Properties", [](Vantrel& control) { control.ShowObjectProperties(); });
+void PopupMenus::Follow(const MenuItem& pobjMenu) const {
+  for (const auto& item : pobjMenu.Items) {
+    Follow(*item);
+    const ControlCommand* const command = FindCommand(item->Id);
+    if (!command) continue;
+    item->Enabled = command->IsEnabled(*mobjControl);
+    item->Checked = command->IsChecked && command->IsChecked(*mobjControl);
+  }
 }
 
-void PopupMenus::BuildFormat() {
-  MenuItem& format = mDesign.Add("Format");
-  AddCommand(format, "Align Horizontal", [](Vantrel& control) { control.AlignSelection("Horizontal"); });
-  AddCommand(format, "Align Vertical", [](Vantrel& control) { control.AlignSelection("Vertical"); });
-  format.AddSeparator();
-  AddCommand(format, "Backcolor", [](Vantrel& control) { control.SetBackcolor(); });
-  format.AddSeparator();
-  mLockControls = &AddCommand(format, "Lock controls", ToggleLock);
+MenuItem& PopupMenus::Design() {
+  Follow(mDesign);
+  ShowTestCommand(mDesign, !mobjControl->RestrictTesting());
+  return mDesign;
 }
 
-void PopupMenus::BuildTest() {
-  AddCommand(mTest, "Start case", TestCommand(&TestCommands::StartTestCase));
-  mTest.AddSeparator();
-  AddCommand(mTest, "Add Token", TestCommand(&TestCommands::AddToken));
-  AddCommand(mTest, "Remove Token", TestCommand(&TestCommands::RemoveToken));
-  mTest.AddSeparator();
-  AddCommand(mTest, "Stop Testing", TestCommand(&TestCommands::StopTest));
-}
-
-void PopupMenus::ShowTestCommand(bool pblnOn) {
-  mTestSeparator->Visible = pblnOn;
-  mTestCommand->Visible = pblnOn;
-}
-
-void PopupMenus::EnableTestMenu() {
-  if (!mobjControl) return;
-  const auto place = std::dynamic_pointer_cast<Place>(mobjControl->CurrentObject());
-  const auto workflow = mobjControl->Workflow();
-  mTest.Find("Start case")->Enabled = !place || (workflow && workflow->StartPlace == place);
-  mTest.Find("Add Token")->Enabled = place != nullptr;
-  mTest.Find("Remove Token")->Enabled = place && !place->Tokens().IsEmpty();
+MenuItem& PopupMenus::Test() {
+  Follow(mTest);
+  return mTest;
 }
 
 }  // namespace vantrel

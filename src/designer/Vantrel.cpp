@@ -13,7 +13,6 @@
 #include "designer/CurrentElement.h"
 #include "designer/DefaultWorkflow.h"
 #include "designer/Deleting.h"
-#include "designer/DesignMenuRules.h"
 #include "designer/ElementBinding.h"
 #include "designer/Inserting.h"
 #include "designer/Pasting.h"
@@ -93,12 +92,6 @@ void Vantrel::RunStyle(RunStyleConstant pStyle) {
 void Vantrel::LockControls(bool pblnOn) {
   mblnLockControls = pblnOn;
   if (mWorkflow) mWorkflow->LockControls = pblnOn;
-  mobjMenus->LockControls().Checked = pblnOn;
-}
-
-void Vantrel::RestrictTesting(bool pblnOn) {
-  mblnRestrictTesting = pblnOn;
-  mobjMenus->ShowTestCommand(!pblnOn);
 }
 
 void Vantrel::CurrentControl(const Ref<Element>& pobjElement) {
@@ -261,15 +254,9 @@ void Vantrel::AlignSelection(const std::string& pstrDirection) {
   Aligning(*this).Align(pstrDirection);
 }
 
-MenuItem& Vantrel::DesignMenu() {
-  EnableDesignMenu(*this, mobjMenus->Design());
-  return mobjMenus->Design();
-}
+MenuItem& Vantrel::DesignMenu() { return mobjMenus->Design(); }
 
-MenuItem& Vantrel::TestMenu() {
-  mobjMenus->EnableTestMenu();
-  return mobjMenus->Test();
-}
+MenuItem& Vantrel::TestMenu() { return mobjMenus->Test(); }
 
 MenuItem& Vantrel::RoleMenu() { return mobjMenus->Role(); }
 

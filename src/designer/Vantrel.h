@@ -87,7 +87,7 @@ class Vantrel final : public ModelObject {
   bool ContentsEnabled() const { return mblnContentsEnabled; }
   void ContentsEnabled(bool pblnOn) { mblnContentsEnabled = pblnOn; }
   bool RestrictTesting() const { return mblnRestrictTesting; }
-  void RestrictTesting(bool pblnOn);
+  void RestrictTesting(bool pblnOn) { mblnRestrictTesting = pblnOn; }
   const std::shared_ptr<vantrel::Object>& CurrentObject() const { return mobjCurrentObject; }
   void CurrentObject(const std::shared_ptr<vantrel::Object>& pobjObject) { mobjCurrentObject = pobjObject; }
   /// The element that the user clicked last: making it current selects its object and frames it.

@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QColorDialog>
 #include <QCursor>
-#include <QEventLoop>
 #include <QFontDatabase>
 #include <QMenu>
 #include <algorithm>
@@ -16,8 +15,6 @@
 namespace vantrel {
 
 namespace {
-
-constexpr qint64 kProcessInterval = 20;  // milliseconds; whoever asks in a loop over a whole chart must not stop for each object
 
 // A dialog belongs to its owner as well, which may die while the dialog is open.
 template <class Widget>
@@ -37,10 +34,7 @@ class OwnedWidget {
 
 }  // namespace
 
-QtToolkit::QtToolkit(QWidget* pobjOwner) : mobjOwner(pobjOwner) {
-  static const auto before = InstallMsgBoxPresenter(ShowMessageBox);
-  mobjProcessed.start();
-}
+QtToolkit::QtToolkit(QWidget* pobjOwner) : mobjOwner(pobjOwner) { static const auto before = InstallMsgBoxPresenter(ShowMessageBox); }
 
 QtToolkit::~QtToolkit() { Pointer(vntPointerDefault); }
 
@@ -67,12 +61,6 @@ Color QtToolkit::SelectColor(Color plngColor, CustomColors& pcolCustom) {
   const bool isAccepted = dialog->exec() == QDialog::Accepted;
   for (std::size_t i = 0; i < pcolCustom.size(); ++i) pcolCustom[i] = ToColor(QColorDialog::customColor(static_cast<int>(i)));
   return isAccepted && dialog ? ToColor(dialog->selectedColor()) : plngColor;
-}
-
-void QtToolkit::ProcessEvents() {
-  if (mobjProcessed.elapsed() < kProcessInterval) return;
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  mobjProcessed.start();
 }
 
 std::vector<std::string> QtToolkit::FontNames() const {

@@ -1,7 +1,6 @@
 // The toolkit of the designer on Qt.
 #pragma once
 
-#include <QElapsedTimer>
 #include <QPoint>
 #include <QPointer>
 #include <QWidget>
@@ -25,7 +24,6 @@ class QtToolkit final : public Toolkit {
   void ShowPopup(MenuItem& pobjMenu) override;
   void Pointer(PointerShape pShape) override;
   Color SelectColor(Color plngColor, CustomColors& pcolCustom) override;
-  void ProcessEvents() override;
   std::vector<std::string> FontNames() const override;
 
   std::function<void(PointerShape)> OnPointer;  ///< shows the pointer over the chart
@@ -33,7 +31,6 @@ class QtToolkit final : public Toolkit {
 
  private:
   QPointer<QWidget> mobjOwner;
-  QElapsedTimer mobjProcessed;
   bool mblnHourglass = false;
 };
 

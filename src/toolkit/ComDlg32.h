@@ -5,7 +5,7 @@
 
 namespace vantrel {
 
-/// Opens the choice of a colour, for the control and for hosts that want the same one. Custom colours live as long as the object.
+/// Lets the user choose a colour: for the control, and for hosts that want the same dialog. Custom colours live as long as the object.
 class ComDlg32 {
  public:
   /// The toolkit must outlive the object.
@@ -13,8 +13,8 @@ class ComDlg32 {
 
   Toolkit::CustomColors CustomColors;  ///< white where the user has set none
 
-  /// The colour that the user chooses; the given one when he cancels.
-  Color SelectColor(Color plngColor) { return mobjToolkit.SelectColor(plngColor, CustomColors); }
+  /// The colour that the user chooses; the given one when they cancel.
+  [[nodiscard]] Color SelectColor(Color plngColor) { return mobjToolkit.SelectColor(plngColor, CustomColors); }
 
  private:
   Toolkit& mobjToolkit;

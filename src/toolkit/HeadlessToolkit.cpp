@@ -2,11 +2,11 @@
 
 namespace vantrel {
 
-bool HeadlessToolkit::Choose(const MenuItem& pobjMenu, std::string_view pstrCaption) {
+bool HeadlessToolkit::Choose(const MenuItem& pobjMenu, std::string_view pstrId) {
   for (const auto& item : pobjMenu.Items) {
     if (!item->Enabled || !item->Visible) continue;
-    if (item->Caption != pstrCaption) {
-      if (Choose(*item, pstrCaption)) return true;
+    if (item->Id != pstrId) {
+      if (Choose(*item, pstrId)) return true;
     } else if (item->Items.empty() && !item->IsSeparator()) {
       item->OnClick.Raise();
       return true;

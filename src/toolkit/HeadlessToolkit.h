@@ -13,25 +13,24 @@
 namespace vantrel {
 
 /// Answers from a script and notes what it is asked: for tests, and for hosts that drive the designer without showing it.
-/// Nobody is there to choose anything, so pop-ups close at once and colours stay, unless the script says otherwise.
+/// Without a script pop-ups close at once and colours stay.
 class HeadlessToolkit final : public Toolkit {
  public:
-  std::function<void(MenuItem&)> OnPopup;             ///< plays the user before an open pop-up; see Choose
-  std::optional<Color> ChosenColor;                   ///< what the user chooses; nothing: he cancels
-  std::vector<std::string> Fonts = {"Arial"};         ///< of this system
-  std::vector<PointerShape> Pointers;                 ///< every pointer shown, oldest first; repetitions count once
-  std::int32_t PopupsShown = 0, EventsProcessed = 0;  ///< calls of ShowPopup and of ProcessEvents
+  std::function<void(MenuItem&)> OnPopup;      ///< plays the user of an open pop-up; see Choose
+  std::optional<Color> ChosenColor;            ///< what the user chooses; without it they cancel
+  std::vector<std::string> Fonts = {"Arial"};  ///< of this system
+  std::vector<PointerShape> Pointers;          ///< every pointer shown, oldest first; repetitions count once
+  std::int32_t PopupsShown = 0;                ///< calls of ShowPopup
 
-  PointerShape CurrentPointer() const { return Pointers.empty() ? vntPointerDefault : Pointers.back(); }
+  [[nodiscard]] PointerShape CurrentPointer() const { return Pointers.empty() ? vntPointerDefault : Pointers.back(); }
 
-  /// Clicks the entry with that caption, here or in a sub-menu, as a user can: only what is enabled and visible, down from
+  /// Clicks the entry with that id, here or in a sub-menu, as a user can: only what is enabled and visible, down from
   /// the menu itself. False when there was nothing to click. The menu may be gone afterwards.
-  static bool Choose(const MenuItem& pobjMenu, std::string_view pstrCaption);
+  static bool Choose(const MenuItem& pobjMenu, std::string_view pstrId);
 
   void ShowPopup(MenuItem& pobjMenu) override;
   void Pointer(PointerShape pShape) override;
   Color SelectColor(Color plngColor, CustomColors&) override { return ChosenColor.value_or(plngColor); }
-  void ProcessEvents() override { ++EventsProcessed; }
   std::vector<std::string> FontNames() const override { return Fonts; }
 };
 

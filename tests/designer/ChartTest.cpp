@@ -248,7 +248,7 @@ TEST_F(ChartTest, TakesSettingsFromTheWorkflow) {
   Control->Workflow(net);
   EXPECT_EQ(Control->RunStyle(), vntHidden);
   EXPECT_TRUE(Control->LockControls());
-  EXPECT_TRUE(Control->DesignMenu().Find("Lock controls")->Checked);
+  EXPECT_TRUE(Control->DesignMenu().Find(CommandIds::LockControls)->Checked);
 }
 
 TEST_F(ChartTest, PassesOnTokensOfTheShownWorkflowAlone) {

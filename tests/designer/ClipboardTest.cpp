@@ -59,7 +59,7 @@ TEST_F(ClipboardTest, CopiesArcsBetweenSelectedObjectsIntoTheSelectionItself) {
   Control->Selection(nullptr);
   Control->Copy();
   EXPECT_TRUE(Control->Clipboard->IsEmpty());
-  EXPECT_FALSE(Control->DesignMenu().Find("Paste")->Enabled);
+  EXPECT_FALSE(Control->DesignMenu().Find(CommandIds::Paste)->Enabled);
 }
 
 TEST_F(ClipboardTest, PastesTheGroupAtTheCurrentPosition) {

@@ -156,6 +156,19 @@ TEST_F(ControlTest, OffersTheMenus) {
   EXPECT_TRUE(Picture(Control->DesignMenu()).ends_with("Lock controls}, -, (Properties)"));
 }
 
+TEST_F(ControlTest, CommandsHaveIdsAndKeysOfTheirOwn) {
+  std::multiset<std::string_view> ids, keys;
+  for (const ControlCommand& command : AllCommands()) {
+    ids.insert(command.Id);
+    if (!command.Keys.empty()) keys.insert(command.Keys);
+  }
+  for (const ControlCommand& command : AllCommands()) {
+    EXPECT_EQ(ids.count(command.Id), 1U) << command.Id;
+    EXPECT_LE(keys.count(command.Keys), 1U) << command.Keys;
+  }
+  EXPECT_THROW(RunCommand(*Control, "no-such-command"), Error);
+}
+
 TEST_F(ControlTest, EnablesDesignCommandsForTheSituation) {
   constexpr const char* kAlways = "Select All|Insert Place|Insert Transition|Add Notation|Backcolor|Lock controls||Test|";
   Control->NewWorkflow();
@@ -175,7 +188,7 @@ TEST_F(ControlTest, EnablesDesignCommandsForTheSituation) {
       situation([&] { Control->CurrentControl(line); }),
       "New|Save|Delete|Select All|Insert Place|Insert Transition|Insert Elbow|Add Notation|Backcolor|Lock controls||Test|Properties|");
   Control->InsertElbow();
-  EXPECT_TRUE(Control->DesignMenu().Find("Remove Elbow")->Enabled);
+  EXPECT_TRUE(Control->DesignMenu().Find(CommandIds::RemoveElbow)->Enabled);
   EXPECT_EQ(situation([&] { Select({Net().Places.First()}); }),
             "New|Save|Delete|Select All|Insert Place|Insert Transition|Add Notation|Backcolor|Lock controls||Test|");
   Control->SelectAll();
@@ -184,7 +197,7 @@ TEST_F(ControlTest, EnablesDesignCommandsForTheSituation) {
       situation([&] { Control->SelectAll(); }),
       "New|Save|Copy|Paste|Delete|Select All|Insert Place|Insert Transition|Add Notation|Align Horizontal|Align Vertical|Backcolor|Lock "
       "controls||Test|");
-  EXPECT_TRUE(HeadlessToolkit::Choose(Control->DesignMenu(), "Lock controls"));
+  EXPECT_TRUE(HeadlessToolkit::Choose(Control->DesignMenu(), CommandIds::LockControls));
   EXPECT_EQ(situation([&] { Control->CurrentControl(line); }), "New|Save|Select All|Lock controls||Test|Properties|");
   EXPECT_TRUE(Control->Workflow()->LockControls);
 }
@@ -206,7 +219,7 @@ TEST_F(ControlTest, SurvivesItsEndWhileAMenuIsOpen) {
   Control->NewWorkflow();
   Tools.OnPopup = [&](MenuItem& menu) {
     Control.reset();
-    HeadlessToolkit::Choose(menu, "Insert Place");
+    HeadlessToolkit::Choose(menu, CommandIds::InsertPlace);
   };
   Control->ShowDesignMenu();
   EXPECT_EQ(Control, nullptr);

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include "designer/Commands.h"
 #include "designer/Invariants.h"
 #include "designer/Vantrel.h"
 #include "model/DesignerState.h"

@@ -74,7 +74,7 @@ class RandomUser {
     if (pobjMenu.Items.empty() || Chance(5)) return;
     const MenuItem& item = *pobjMenu.Items[static_cast<std::size_t>(Below(static_cast<int>(pobjMenu.Items.size())))];
     if (!item.Items.empty()) return Choose(item);
-    HeadlessToolkit::Choose(pobjMenu, item.Caption);
+    HeadlessToolkit::Choose(pobjMenu, item.Id);
   }
 
   // Another control takes what is shown away, or nothing.

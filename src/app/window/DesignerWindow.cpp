@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include "app/window/Questions.h"
+#include "designer/Commands.h"
 #include "qt/ChartView.h"
 #include "qt/Conversions.h"
 #include "qt/DraggedData.h"
@@ -31,7 +32,7 @@ DesignerWindow::DesignerWindow(const WorkflowStore& pobjStore)
       mobjFiles(*mobjDesigner, pobjStore, this),
       mobjStored(new StoredList),
       mobjDock(new QDockWidget("Stored workflows", this)),
-      mobjMenus(new WindowMenus(*this, *mobjDesigner, mobjFiles, *mobjStored)),
+      mobjMenus(new WindowMenus({*this, *mobjDesigner, mobjFiles, *mobjStored})),
       mobjStatus(new StatusLine(*mobjDesigner, this)),
       mobjActivity(*mobjDesigner, this) {
   setObjectName("DesignerWindow");
@@ -54,9 +55,9 @@ DesignerWindow::~DesignerWindow() {
 void DesignerWindow::SetUpDesigner() {
   Vantrel& control = mobjDesigner->Control();
   control.EnablePopups = true;
-  control.RestrictTesting(true);                             // nothing plays the tests yet
-  control.DesignMenu().Find("Properties")->Visible = false;  // nor is there a dialog
-  mobjSaveEntry = control.DesignMenu().Find("Save")->OnClick.Connect([this] { mobjFiles.Save(); });
+  control.RestrictTesting(true);                                       // nothing plays the tests yet
+  control.DesignMenu().Find(CommandIds::Properties)->Visible = false;  // nor is there a dialog
+  mobjSaveEntry = control.DesignMenu().Find(CommandIds::Save)->OnClick.Connect([this] { mobjFiles.Save(); });
 }
 
 void DesignerWindow::SetUpList() {

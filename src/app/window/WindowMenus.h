@@ -2,27 +2,24 @@
 #pragma once
 
 #include <QAction>
-#include <QMainWindow>
 #include <QMenu>
 #include <QObject>
-#include <QPointer>
 #include <QToolBar>
-#include <string>
-#include <utility>
+#include <cstddef>
+#include <string_view>
 #include <vector>
 
-#include "app/window/FileCommands.h"
-#include "app/window/MenuActions.h"
-#include "app/window/StoredList.h"
+#include "app/window/WindowCommands.h"
 
 namespace vantrel {
 
-/// Builds them for a window around a designer; everything that the designer's pop-ups offer is here, too.
+/// Makes an action of every command of the window and puts it into its menu; those with a picture are in the tool bar, too. The
+/// name of an action is its command's id. What the designer's pop-ups offer is here as well, enabled, checked and visible as there.
 class WindowMenus final : public QObject {
   Q_OBJECT
 
  public:
-  WindowMenus(QMainWindow& pobjWindow, VantrelWidget& pobjWidget, FileCommands& pobjFiles, StoredList& pobjStored);
+  explicit WindowMenus(const WindowParts& pobjParts);
 
   /// Takes over what changed on the chart.
   void Follow();
@@ -36,31 +33,22 @@ class WindowMenus final : public QObject {
   void Ran();
 
  private:
-  QAction* Add(QMenu& pobjMenu, const QString& pstrText, const QKeySequence& pobjShortcut, const std::function<void()>& pRun);
-  QAction* Entry(QMenu& pobjMenu, const std::string& pstrCaption, const QString& pstrText = {}, const QKeySequence& pobjShortcut = {});
-  void BuildFile();
-  void BuildEdit();
-  void BuildInsert();
-  void BuildFormat();
-  void BuildView();
-  void BuildHelp();
-  void BuildToolBar();
-  void Draw(QAction* pobjAction, const char* pstrIcon) { mcolIcons.emplace_back(pobjAction, pstrIcon); }
-  void DeleteChosen();
+  struct Entry {
+    const WindowCommand* Command;
+    QAction* Action;
+  };
 
-  QMainWindow& mobjWindow;
-  VantrelWidget& mobjWidget;
-  FileCommands& mobjFiles;
-  StoredList& mobjStored;
-  MenuActions mobjEntries;
+  void BuildMenu(const WindowMenu& pobjMenu);
+  void BuildToolBar(std::size_t plngFirst);
+  QAction* MakeAction(const WindowCommand& pobjCommand);
+  void BindKeys(QAction& pobjAction, const WindowCommand& pobjCommand);
+  void Run(const WindowCommand& pobjCommand);
+  void RunEntry(std::string_view pstrId);
+
+  WindowParts mobjParts;
   QToolBar* mobjToolBar = nullptr;
   QMenu* mobjViewMenu = nullptr;
-  QAction* mobjSave = nullptr;
-  QAction* mobjText = nullptr;
-  QAction* mobjWeights = nullptr;
-  QAction* mobjGuards = nullptr;
-  std::vector<QAction*> mcolNeedWorkflow;
-  std::vector<std::pair<QAction*, std::string>> mcolIcons;
+  std::vector<Entry> mcolEntries;
 };
 
 }  // namespace vantrel

@@ -22,11 +22,11 @@ class SavingTest : public WindowTest {
 TEST_F(SavingTest, WhatWasDrawnIsThereAfterTheProgramWasClosed) {
   Files().New();
   EXPECT_FALSE(mobjWindow->isWindowModified());
-  Action("Insert Place")->trigger();
+  Action(CommandIds::InsertPlace)->trigger();
   EXPECT_TRUE(mobjWindow->isWindowModified());
   const auto drawn = Control().Workflow()->Places.Item(3);
   const float left = drawn->Left(), top = drawn->Top();
-  Action("Save")->trigger();
+  Action(CommandIds::Save)->trigger();
   EXPECT_FALSE(mobjWindow->isWindowModified());
   EXPECT_EQ(mobjWindow->windowTitle(), "Workflow 1[*]");
 
@@ -45,9 +45,9 @@ TEST_F(SavingTest, WhatWasDrawnIsThereAfterTheProgramWasClosed) {
 TEST_F(SavingTest, AFailedSaveSaysSoAndKeepsTheChartDirty) {
   Files().New();
   ASSERT_TRUE(Files().Save());
-  Action("Insert Transition")->trigger();
+  Action(CommandIds::InsertTransition)->trigger();
   std::filesystem::remove(File("test.db"));
-  for (const char* command : {"Save", "Save as new"}) {
+  for (const char* command : {"save", "save-as-new"}) {
     AnswerNext(QMessageBox::Ok);
     Action(command)->trigger();
     EXPECT_THAT(mstrAsked, HasSubstr("Cannot save workflow 1.")) << command;
@@ -61,8 +61,8 @@ TEST_F(SavingTest, AFailedSaveSaysSoAndKeepsTheChartDirty) {
 TEST_F(SavingTest, SavingAsNewLeavesWhatWasStored) {
   Files().New();
   ASSERT_TRUE(Files().Save());
-  Action("Insert Place")->trigger();
-  Action("Save as new")->trigger();
+  Action(CommandIds::InsertPlace)->trigger();
+  Action("save-as-new")->trigger();
   EXPECT_EQ(StoredIds(), (std::vector<std::int32_t>{1, 2}));
   EXPECT_EQ(Store().Read(1)->Places.Count(), 2);
   EXPECT_EQ(Store().Read(2)->Places.Count(), 3);
@@ -72,7 +72,7 @@ TEST_F(SavingTest, SavingAsNewLeavesWhatWasStored) {
 TEST_F(SavingTest, AWorkflowThatSomebodyDeletedIsSavedAnew) {
   Files().New();
   ASSERT_TRUE(Files().Save());
-  Action("Insert Place")->trigger();
+  Action(CommandIds::InsertPlace)->trigger();
   ASSERT_TRUE(Files().SaveAsNew());  // takes the id that would be free again
   ASSERT_TRUE(Files().Open(1));
   Store().Delete(1);
@@ -123,7 +123,7 @@ TEST_F(SavingTest, NothingReplacesUnsavedChangesUnasked) {
   Control().InsertPlace();
   const auto shown = Control().Workflow();
   const std::vector<std::function<void()>> ways = {[&] { Files().New(); }, [&] { Files().Open(1); }, [&] { Files().Import("net.pnml"); },
-                                                   [&] { Control().DesignMenu().Find("New")->OnClick.Raise(); }};
+                                                   [&] { Control().DesignMenu().Find(CommandIds::New)->OnClick.Raise(); }};
   for (const auto& way : ways) {
     AnswerNext(QMessageBox::Cancel);
     way();

@@ -11,11 +11,13 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include <gtest/gtest.h>
 
 #include "app/database/Engines.h"
 #include "app/window/DesignerWindow.h"
+#include "designer/Commands.h"
 
 namespace vantrel {
 
@@ -42,12 +44,11 @@ class WindowTest : public testing::Test {
   FileCommands& Files() { return mobjWindow->Files(); }
   Vantrel& Control() { return mobjWindow->Designer().Control(); }
 
-  QAction* Action(const QString& pstrText) {
-    for (QAction* const action : mobjWindow->findChildren<QAction*>()) {
-      if (action->text().remove('&').remove("…") == pstrText) return action;
-    }
-    ADD_FAILURE() << "no action " << pstrText.toStdString();
-    return nullptr;
+  /// Of the command with that id.
+  QAction* Action(std::string_view pstrId) {
+    auto* const action = mobjWindow->findChild<QAction*>(QString::fromUtf8(pstrId.data(), static_cast<qsizetype>(pstrId.size())));
+    if (!action) ADD_FAILURE() << "no action " << pstrId;
+    return action;
   }
 
   template <class W>

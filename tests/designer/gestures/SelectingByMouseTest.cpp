@@ -110,7 +110,7 @@ TEST_F(SelectingByMouse, PopupsShowWhereTheModeHasOne) {
 
 TEST_F(SelectingByMouse, ARightClickPlacesWhatIsInsertedNextBesideTheObject) {
   Control->EnablePopups = true;
-  Tools.OnPopup = [](MenuItem& menu) { EXPECT_TRUE(HeadlessToolkit::Choose(menu, "Insert Place")); };
+  Tools.OnPopup = [](MenuItem& menu) { EXPECT_TRUE(HeadlessToolkit::Choose(menu, CommandIds::InsertPlace)); };
   std::vector<ModelObject*> clicked;
   const auto listening = Control->OnRightClick.Connect([&](ModelObject& object) { clicked.push_back(&object); });
   Click(*Begin().Image, vntRightButton);
@@ -126,7 +126,7 @@ TEST_F(SelectingByMouse, ARightClickPlacesWhatIsInsertedNextBesideTheObject) {
 TEST_F(SelectingByMouse, APopupMayDeleteWhatWasClicked) {
   Control->EnablePopups = true;
   Click(*Begin().Image);
-  Tools.OnPopup = [](MenuItem& menu) { EXPECT_TRUE(HeadlessToolkit::Choose(menu, "Delete")); };
+  Tools.OnPopup = [](MenuItem& menu) { EXPECT_TRUE(HeadlessToolkit::Choose(menu, CommandIds::Delete)); };
   Click(*Begin().Image, vntRightButton);
   EXPECT_TRUE(Net->Transitions.IsEmpty());
   EXPECT_TRUE(Net->Arcs.IsEmpty());
