@@ -9,10 +9,10 @@
 #include <QStatusBar>
 #include <cstdio>
 
-#include "database/sqlite/Sqlite.h"
-#include "persistence/WorkflowList.h"
-#include "qt/VantrelWidget.h"
-#include "util/MsgBox.h"
+#include <vantrel/database/sqlite/Sqlite.h>
+#include <vantrel/persistence/WorkflowList.h>
+#include <vantrel/qt/VantrelWidget.h>
+#include <vantrel/util/MsgBox.h>
 
 using namespace vantrel;
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <CLI/CLI.hpp>
+#include <vantrel/version.h>
 
 #include "app/Lines.h"
 #include "app/commands/CopyCommand.h"

@@ -1,3 +1,3 @@
-#include "model/Workflow.h"
+#include <vantrel/model/Workflow.h>
 
 int main() { return vantrel::Workflow().Places.IsEmpty() ? 0 : 1; }
