@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <algorithm>
+
 #include <vantrel/version.h>
 
 #include "app/CommandLine.h"
