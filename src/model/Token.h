@@ -25,8 +25,8 @@ class Token final : public ModelObject {
   Token();
   ~Token() override;
 
-  std::string Key;                    ///< in the workflow's Tokens and the place's Tokens; "Token" and a number
-  std::string Name;                   ///< equal to Key when nobody gave another
+  KeyField<Token> Key;                ///< in the workflow's Tokens and the place's Tokens; "Token" and a number
+  KeyField<Token> Name;               ///< equal to Key when nobody gave another
   CaseLink WorkCase;                  ///< nothing for an anonymous token
   Ref<vantrel::Place> Place;          ///< where it lies
   Ref<Transition> CreateTransition;   ///< nothing for start tokens

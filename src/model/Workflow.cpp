@@ -47,9 +47,7 @@ std::shared_ptr<Token> Workflow::CreateToken(const Ref<vantrel::Place>& pobjPlac
                                              const std::shared_ptr<WorkCase>& pobjWorkcase) {
   auto token = std::make_shared<Token>();
   const std::int32_t number = NextKeyNumber(Tokens);
-  const KeyText key(KeyWordOf<Token>::Value, number);
-  token->Key = key.View();
-  token->Name = key.View();
+  token->Key = token->Name = KeyField<Token>::OfNumber(number);
   token->Place = pobjPlace;
   token->CreateTransition = pobjCreateTransition;
   token->WorkCase.Begin(pobjWorkcase);

@@ -3,11 +3,14 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 #include "util/Error.h"
+#include "util/KeyField.h"
 #include "util/KeyedOrder.h"
 
 namespace vantrel {
@@ -33,8 +36,13 @@ struct KeyWordOf {
 /// itself must outlive it.
 ///
 /// For one thread: reads keep indexes and count walks, so even two reads at the same time are a race.
+///
+/// A key is given as a text or as a KeyField<T>.
 template <class T>
 class Collection {
+  template <class Key>
+  static constexpr bool kIsKey = std::is_convertible_v<const Key&, std::string_view> || std::is_same_v<Key, KeyField<T>>;
+
  public:
   using Pointer = std::shared_ptr<T>;
 
@@ -48,24 +56,27 @@ class Collection {
   std::uint64_t Changes() const { return mOrder.Changes(); }
 
   /// Adds at the end. Throws Error 457 when the key is taken, Error 5 for a null item.
-  void Add(Pointer pobjItem, std::string_view pstrKey = {}) {
+  template <class Key>
+  requires kIsKey<Key>
+  void Add(Pointer pobjItem, const Key& pstrKey) {
     if (!pobjItem) throw Error(vntErrInvalidCall);
-    ItemKey key = ItemKey::Of(kWord, pstrKey);
-    if (mOrder.Find(key)) throw Error(vntErrDuplicateKey);
-    Append(std::move(pobjItem), std::move(key));
+    AddUnder(std::move(pobjItem), Copy(pstrKey));
   }
+  void Add(Pointer pobjItem) { Add(std::move(pobjItem), std::string_view()); }
   /// Adds what `pMake` gives unless the key is taken.
-  template <class Make>
-  void AddIfMissing(std::string_view pstrKey, Make&& pMake) {
-    ItemKey key = ItemKey::Of(kWord, pstrKey);
+  template <class Key, class Make>
+  void AddIfMissing(const Key& pstrKey, Make&& pMake) {
+    ItemKey key = Copy(pstrKey);
     if (!mOrder.Find(key)) Append(pMake(), std::move(key));
   }
-  /// Adds at the end under the class word and a number larger than any after it, see LargestKeyNumber.
-  void AddNumbered(Pointer pobjItem, std::int32_t plngNumber) { Append(std::move(pobjItem), ItemKey::OfNumber(plngNumber)); }
+  /// Adds at the end under the class word and a number larger than LargestKeyNumber.
+  void AddNumbered(Pointer pobjItem, std::int32_t plngNumber) { Append(std::move(pobjItem), ItemKey::Of(kWord, plngNumber)); }
 
   /// The item at a position from 1 to Count, or under a key. Throws Error 5 when there is none.
   const Pointer& Item(std::int32_t plngIndex) const { return At(OrdinalOf(plngIndex)); }
-  const Pointer& Item(std::string_view pstrKey) const { return At(Require(pstrKey)); }
+  template <class Key>
+  requires kIsKey<Key>
+  const Pointer& Item(const Key& pstrKey) const { return At(Require(pstrKey)); }
   /// Throw Error 5 when there is no item.
   const Pointer& First() const {
     RequireAny();
@@ -77,29 +88,40 @@ class Collection {
   }
 
   /// The item under a key, or null.
-  Pointer Find(std::string_view pstrKey) const {
-    const auto ordinal = mOrder.Find(ItemKey::Of(kWord, pstrKey));
+  template <class Key>
+  Pointer Find(const Key& pstrKey) const {
+    const auto ordinal = OrdinalUnder(pstrKey);
     return ordinal ? At(*ordinal) : nullptr;
   }
-  bool Contains(std::string_view pstrKey) const { return mOrder.Find(ItemKey::Of(kWord, pstrKey)).has_value(); }
+  template <class Key>
+  bool Contains(const Key& pstrKey) const {
+    return OrdinalUnder(pstrKey).has_value();
+  }
   /// The key of the item at a position; empty when it has none.
   std::string KeyOf(std::int32_t plngIndex) const { return mOrder.KeyAt(OrdinalOf(plngIndex)).ToText(kWord); }
   /// A number that grows with each item's position; -1 when the key leads to another item or to none. Holds until the
   /// collection is changed.
-  std::int64_t RankOf(std::string_view pstrKey, const T* pobjItem) const {
-    const auto ordinal = mOrder.Find(ItemKey::Of(kWord, pstrKey));
+  template <class Key>
+  std::int64_t RankOf(const Key& pstrKey, const T* pobjItem) const {
+    const auto ordinal = OrdinalUnder(pstrKey);
     return ordinal && At(*ordinal).get() == pobjItem ? static_cast<std::int64_t>(*ordinal) : -1;
   }
 
   /// Throws Error 5 when there is no such item.
-  void Remove(std::string_view pstrKey) { RemoveAt(Require(pstrKey)); }
+  template <class Key>
+  requires kIsKey<Key>
+  void Remove(const Key& pstrKey) { RemoveAt(Require(pstrKey)); }
   void Remove(std::int32_t plngIndex) { RemoveAt(OrdinalOf(plngIndex)); }
-  void RemoveIfThere(std::string_view pstrKey) {
+  template <class Key>
+  void RemoveIfThere(const Key& pstrKey) {
     if (IsEmpty()) return;
-    if (const auto ordinal = mOrder.Find(ItemKey::Of(kWord, pstrKey))) RemoveAt(*ordinal);
+    if (const auto ordinal = OrdinalUnder(pstrKey)) RemoveAt(*ordinal);
   }
   /// Removes an item and hands it out. Throws Error 5 when there is none under the key.
-  Pointer Take(std::string_view pstrKey) { return TakeAt(Require(pstrKey)); }
+  template <class Key>
+  Pointer Take(const Key& pstrKey) {
+    return TakeAt(Require(pstrKey));
+  }
   /// Throws Error 5 when there is no item.
   Pointer TakeFirst() {
     RequireAny();
@@ -171,8 +193,13 @@ class Collection {
   void RequireAny() const {
     if (IsEmpty()) throw Error(vntErrInvalidCall);
   }
-  KeyedOrder::Ordinal Require(std::string_view pstrKey) const {
-    const auto ordinal = mOrder.Find(ItemKey::Of(kWord, pstrKey));
+  static ItemKey Copy(std::string_view pstrKey) { return ItemKey::Of(kWord, pstrKey); }
+  static ItemKey Copy(const KeyField<T>& pstrKey) { return pstrKey.Item().Copy(); }
+  std::optional<KeyedOrder::Ordinal> OrdinalUnder(std::string_view pstrKey) const { return mOrder.Find(Copy(pstrKey)); }
+  std::optional<KeyedOrder::Ordinal> OrdinalUnder(const KeyField<T>& pstrKey) const { return mOrder.Find(pstrKey.Item()); }
+  template <class Key>
+  KeyedOrder::Ordinal Require(const Key& pstrKey) const {
+    const auto ordinal = OrdinalUnder(pstrKey);
     if (!ordinal) throw Error(vntErrInvalidCall);
     return *ordinal;
   }
@@ -181,6 +208,10 @@ class Collection {
     return mOrder.OrdinalOf(static_cast<std::uint32_t>(plngIndex));
   }
 
+  void AddUnder(Pointer pobjItem, ItemKey pKey) {
+    if (mOrder.Find(pKey)) throw Error(vntErrDuplicateKey);
+    Append(std::move(pobjItem), std::move(pKey));
+  }
   void Append(Pointer pobjItem, ItemKey pKey) {
     if (mOrder.IsFull()) Grow();
     const auto ordinal = mOrder.Append(std::move(pKey));

@@ -14,6 +14,8 @@ std::optional<std::int32_t> NumberBehind(std::string_view pstrPrefix, std::strin
   return number;
 }
 
+ItemKey ItemKey::OfLongNumber(std::string_view pstrWord, std::int32_t plngNumber) { return OfText(KeyText(pstrWord, plngNumber).View()); }
+
 std::string ItemKey::ToText(std::string_view pstrWord) const {
   if (IsText()) return TextRef();
   if (!IsNumber()) return {};

@@ -26,13 +26,17 @@ class ItemKey {
   }
 
   static ItemKey Unkeyed() { return ItemKey(kUnkeyed); }
-  static ItemKey OfNumber(std::int32_t plngNumber) { return ItemKey(static_cast<std::uintptr_t>(plngNumber) << 2 | kNumberTag); }
   static ItemKey OfText(std::string_view pstrText) { return ItemKey(reinterpret_cast<std::uintptr_t>(new std::string(pstrText))); }
   /// The shortest form of a key text under a class word.
   [[gnu::always_inline]] static ItemKey Of(std::string_view pstrWord, std::string_view pstrKey) {
     const std::int32_t number = ShortNumber(pstrWord, pstrKey);
     return number >= 0 ? OfNumber(number) : pstrKey.empty() ? Unkeyed() : OfText(pstrKey);
   }
+
+  static ItemKey Of(std::string_view pstrWord, std::int32_t plngNumber) {
+    return plngNumber <= kLargestShort ? OfNumber(plngNumber) : OfLongNumber(pstrWord, plngNumber);
+  }
+  ItemKey Copy() const { return IsText() ? OfText(*Text()) : ItemKey(mBits); }
 
   bool IsHole() const { return mBits == kHole; }
   bool IsUnkeyed() const { return mBits == kUnkeyed; }
@@ -54,11 +58,16 @@ class ItemKey {
   static constexpr std::uintptr_t kUnkeyed = 2;
 
   static_assert(sizeof(std::uintptr_t) == 8, "a 31-bit number and its tag share one word");
+  // The largest number that goes without text: any number of so many digits fits 31 bits.
+  static constexpr std::size_t kMostDigits = 9;
+  static constexpr std::int32_t kLargestShort = 999'999'999;
 
-  // The number of a key made of the word and a number without leading zeros, -1 for any other key. Inline, because every
-  // token that moves comes by here.
+  static ItemKey OfNumber(std::int32_t plngNumber) { return ItemKey(static_cast<std::uintptr_t>(plngNumber) << 2 | kNumberTag); }
+  static ItemKey OfLongNumber(std::string_view pstrWord, std::int32_t plngNumber);
+
+  // The number of a key made of the word and a short number without leading zeros, -1 for any other key. Inline, because
+  // every token that moves comes by here.
   [[gnu::always_inline]] static std::int32_t ShortNumber(std::string_view pstrWord, std::string_view pstrKey) {
-    constexpr std::size_t kMostDigits = 9;  // any such number fits; the few longer ones go as texts
     const std::size_t digits = pstrKey.size() - pstrWord.size();
     if (pstrWord.empty() || pstrKey.size() <= pstrWord.size() || digits > kMostDigits) return -1;
     if (std::char_traits<char>::compare(pstrKey.data(), pstrWord.data(), pstrWord.size()) != 0) return -1;
@@ -79,7 +88,7 @@ class ItemKey {
   std::uintptr_t mBits = kHole;
 };
 
-/// A key made of a class word and a number, written without a detour over the heap.
+/// A key made of a class word and a number, written without using the heap.
 class KeyText {
  public:
   KeyText(std::string_view pstrWord, std::int32_t plngNumber) : mSize(pstrWord.copy(mText.data(), kLongestWord)) {

@@ -19,6 +19,9 @@ std::string_view NameOf(const T& pobjItem) {
     return pobjItem.Name;
   }
 }
+template <class T>
+requires requires(const T& pobjItem) { pobjItem.Name.str(); }
+std::string NameOf(const T& pobjItem) { return pobjItem.Name.str(); }
 
 /// The number of the next key of the usual form: one more than the largest behind the class word. Throws Error 6 behind the
 /// largest 32-bit integer.
@@ -32,7 +35,7 @@ std::int32_t NextKeyNumber(const Collection<T>& pcolItems) {
 /// The key of the usual form with that number.
 template <class T>
 std::string KeyOf(std::int32_t plngNumber) {
-  return ItemKey::OfNumber(plngNumber).ToText(KeyWordOf<T>::Value);
+  return std::string(KeyText(KeyWordOf<T>::Value, plngNumber).View());
 }
 
 /// The prefix and one more than the largest number behind it in the collection's keys; keys of another form do not count.
@@ -43,7 +46,7 @@ std::string NextKey(const Collection<T>& pcolItems, std::string_view pstrPrefix)
   if (pcolItems.KeyWord() == pstrPrefix) return KeyOf<T>(NextKeyNumber(pcolItems));
   std::int32_t largest = 0;
   for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) {
-    largest = std::max(largest, NumberBehind(pstrPrefix, item->Key).value_or(0));
+    largest = std::max(largest, NumberBehind(pstrPrefix, std::string(item->Key)).value_or(0));
   }
   if (largest == 0x7FFFFFFF) throw Error(vntErrOverflow);
   return std::string(pstrPrefix) + std::to_string(largest + 1);

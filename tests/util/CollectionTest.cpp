@@ -249,6 +249,34 @@ TEST(Collection, PositionsAmongHolesAreFoundWhileTheQueueMovesOn) {
   }
 }
 
+TEST(Collection, FindsAKeyFieldWhereItFindsItsText) {
+  const std::vector<std::string> keys = {"Thing1",          "Thing07", "Thing999999999", "Thing1000000000",
+                                         "Thing2147483647", "thing1",  "Thing",          "x"};
+  Things things;
+  for (const auto& key : keys) Add(things, key);
+  for (const auto& key : keys) {
+    const KeyField<Thing> field(key);
+    KeyField<Thing> copy = field;
+    const KeyField<Thing> moved = std::move(copy);
+    EXPECT_EQ(things.Find(moved)->Key, key);
+    EXPECT_TRUE(moved == key && moved == field && !moved.empty()) << moved;
+    EXPECT_EQ(ErrorOf([&] { things.Add(std::make_shared<Thing>(), field); }), vntErrDuplicateKey) << key;
+    const auto taken = things.Take(field);
+    EXPECT_FALSE(things.Contains(key));
+    things.Add(taken, field);
+  }
+  const KeyField<Thing> none;
+  EXPECT_TRUE(none.empty() && !things.Contains(none));
+}
+
+TEST(Collection, NumberedItemsBeyondTheShortNumbersAreFoundByText) {
+  Things things;
+  for (const std::int32_t number : {999'999'999, 1'000'000'000}) things.AddNumbered(std::make_shared<Thing>(), number);
+  EXPECT_TRUE(things.Contains("Thing999999999") && things.Contains("Thing1000000000"));
+  EXPECT_TRUE(things.Contains(KeyField<Thing>::OfNumber(1'000'000'000)));
+  EXPECT_EQ(NextKey(things, "Thing"), "Thing1000000001");
+}
+
 TEST(Collection, LoopMayRemoveWhatItLooksAtAndAddWhatItWillSee) {
   Things things;
   for (int i = 0; i < 5; ++i) Add(things, NextKey(things, "Thing"));
