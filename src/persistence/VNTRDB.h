@@ -1,4 +1,4 @@
-// The database access object: the only class that knows the tables of the system.
+// The database access object: what hosts call to read and save.
 #pragma once
 
 #include <cstdint>
