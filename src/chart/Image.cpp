@@ -12,6 +12,7 @@ void Image::CopySettings(const Image& pobjTemplate) {
   Picture(pobjTemplate.Picture());
   Resize(pobjTemplate.Width(), pobjTemplate.Height());
   BorderStyle(pobjTemplate.BorderStyle());
+  mblnAcceptsDrops = pobjTemplate.mblnAcceptsDrops;
 }
 
 }  // namespace vantrel

@@ -17,10 +17,15 @@ class Image final : public BoxElement {
   /// Takes the picture and its size. Null leaves the picture as it is: a list without that key must not blank the chart.
   void Picture(const std::shared_ptr<const vantrel::Picture>& pobjPicture);
 
+  /// Whether the image takes what the host drags.
+  bool AcceptsDrops() const { return mblnAcceptsDrops; }
+  void AcceptsDrops(bool pblnOn) { mblnAcceptsDrops = pblnOn; }
+
   void CopySettings(const Image& pobjTemplate);
 
  private:
   std::shared_ptr<const vantrel::Picture> mPicture;
+  bool mblnAcceptsDrops = false;
 };
 
 }  // namespace vantrel

@@ -1,7 +1,7 @@
 #include "designer/ChartBuilder.h"
 
 #include "designer/ChartFitting.h"
-#include "designer/ControlState.h"
+#include "designer/ControlScope.h"
 #include "designer/ElementBinding.h"
 #include "designer/StillShown.h"
 #include "model/DesignerState.h"
@@ -85,10 +85,12 @@ void ChartBuilder::LetGo() {
 }
 
 void ChartBuilder::Take(const std::shared_ptr<Workflow>& pobjWorkflow) {
+  if (mobjControl.mWorkflow) mobjControl.mWorkflow->ShownBy(nullptr);
   mobjControl.mWorkflow = pobjWorkflow;
-  gobjWorkflow = pobjWorkflow;
+  mobjControl.mobjState->Workflow = pobjWorkflow;
   mobjControl.mTokenAdded = Subscription();
   if (!pobjWorkflow) return;
+  pobjWorkflow->ShownBy(mobjControl.mobjState.get());
   Vantrel& control = mobjControl;
   mobjControl.mTokenAdded = pobjWorkflow->OnTokenAdded.Connect(
       [&control](const std::shared_ptr<Place>& place, const std::shared_ptr<Token>& token) { control.OnTokenAdded.Raise(place, token); });
@@ -123,7 +125,7 @@ void ChartBuilder::Show(const std::shared_ptr<Workflow>& pobjWorkflow) {
   const auto workflow = pobjWorkflow;  // NOLINT(performance-unnecessary-copy-initialization): the caller's may be the control's own share
   if (workflow) {
     RequirePictures(*workflow);
-    mobjControl.mobjState->TakeFromOthers(workflow);
+    if (workflow->IsShown() && workflow != mobjControl.mWorkflow) workflow->Designer().Host->LetGo();
   }
   mobjControl.FocusFrame.SelectedControl(nullptr);
   const HiddenChart hidden(mobjControl);

@@ -28,8 +28,8 @@ Rect ChartFitting::Extent() const { return Rect().United(mobjControl.ChartArea.B
 
 // Bend points first: the arcs draw themselves when their ends move.
 void ChartFitting::MoveAll(float psngX, float psngY) {
-  const Workflow& workflow = *mobjControl.Workflow();
-  SingleDrawing arcsOnce;
+  Workflow& workflow = *mobjControl.Workflow();
+  SingleDrawing arcsOnce(workflow);
   MoveEach(workflow.Elbows, psngX, psngY);
   MoveEach(workflow.Transitions, psngX, psngY);
   MoveEach(workflow.Places, psngX, psngY);

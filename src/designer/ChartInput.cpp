@@ -4,7 +4,7 @@
 #include <functional>
 #include <utility>
 
-#include "designer/ControlState.h"
+#include "designer/ControlScope.h"
 #include "designer/Vantrel.h"
 #include "designer/gestures/DoubleClicks.h"
 #include "designer/gestures/Drops.h"

@@ -6,8 +6,8 @@ namespace vantrel {
 
 namespace {
 
-void DrawAll(const Workflow& pobjWorkflow) {
-  SingleDrawing arcsOnce;
+void DrawAll(Workflow& pobjWorkflow) {
+  SingleDrawing arcsOnce(pobjWorkflow);
   for (Collection<Place>::Cursor places(pobjWorkflow.Places); Place* place = places.Next();) {
     if (place->Visible()) place->Draw();
   }

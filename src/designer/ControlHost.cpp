@@ -1,6 +1,5 @@
 #include "designer/ControlHost.h"
 
-#include "designer/ControlState.h"
 #include "designer/Vantrel.h"
 
 namespace vantrel {
@@ -13,10 +12,9 @@ float ControlHost::CurrentX() const { return mobjControl.CurrentX; }
 
 float ControlHost::CurrentY() const { return mobjControl.CurrentY; }
 
-void ControlHost::Dirty(vantrel::Workflow& pobjWorkflow, bool pblnDirty) {
-  Vantrel* const showing = ControlState::Showing(pobjWorkflow);
-  (showing ? *showing : mobjControl).Dirty(pblnDirty);
-}
+void ControlHost::LetGo() { mobjControl.Workflow(nullptr); }
+
+void ControlHost::Dirty(vantrel::Workflow&, bool pblnDirty) { mobjControl.Dirty(pblnDirty); }
 
 void ControlHost::UseMode(UseModeConstant pintMode) { mobjControl.UseMode(pintMode); }
 

@@ -20,7 +20,7 @@ class ControlHost final : public DesignerHost {
   Ref<vantrel::Workflow> Workflow() const override;
   float CurrentX() const override;
   float CurrentY() const override;
-  /// Goes to the control that shows the workflow, whichever is entered; otherwise to its own: what is embedded belongs to what is shown.
+  void LetGo() override;
   void Dirty(vantrel::Workflow& pobjWorkflow, bool pblnDirty) override;
   void UseMode(UseModeConstant pintMode) override;
   void CurrentControl(const Ref<Element>& pobjElement) override;
@@ -34,8 +34,6 @@ class ControlHost final : public DesignerHost {
   std::vector<std::string> FontNames() const override;
   std::optional<std::string> SelectOption(const std::string& pstrPrompt, const std::vector<std::string>& pcolOptions) override;
   void SelectTokens(vantrel::Workflow& pobjWorkflow, Transition& pobjTransition) override;
-  // ProcessEvents stays empty: labels measure themselves, and a timer of the host that fired in the middle of a redraw could
-  // take away what is being drawn.
 
  private:
   Vantrel& mobjControl;

@@ -37,7 +37,7 @@ std::string ControlProperties::UseModeName(std::int32_t plngMode) {
 }
 
 void ControlProperties::UseMode(UseModeConstant pintMode) {
-  gintUseMode = pintMode;
+  mobjControl.mobjState->UseMode = pintMode;
   if (const auto workflow = mobjControl.Workflow()) {
     if (pintMode == vntDesign) {
       for (Collection<Place>::Cursor cursor(workflow->Places); const Place* place = cursor.Next();) {

@@ -1,33 +1,16 @@
-// The paths of the arcs on a clipboard.
+// The paths of the arcs on clipboards.
 #pragma once
-
-#include <memory>
-#include <unordered_map>
 
 #include "designer/Vantrel.h"
 
 namespace vantrel {
 
-/// An arc's segments and bend points live with its workflow and go when the arc is deleted or the workflow is closed. For an arc
-/// on the clipboard this keeps a copy on a chart of its own, which can be cloned then.
-class CopiedArcs {
- public:
-  /// Copies the paths of the collection's arcs as they are now; keeps earlier copies of those that are gone already, and forgets
-  /// arcs that are not in the collection.
-  void Keep(const ObjectCollection& pcolObjects);
-  /// What to clone for that arc, or null when nothing of it is known.
-  const Arc* CopyOf(const Arc& pobjArc) const;
+/// An arc's segments and bend points belong to its workflow and go when the arc is deleted or the workflow is closed. This keeps a
+/// copy of the path for every arc of the collection, as long as the arc lives: a host may hand the clipboard to another control. An arc
+/// that has lost its path already keeps the copy that was made before.
+void KeepPaths(const ObjectCollection& pcolObjects);
 
- private:
-  struct Copy {
-    std::shared_ptr<Workflow> Chart;
-    std::shared_ptr<Place> End;
-    std::shared_ptr<Transition> OtherEnd;
-    std::shared_ptr<Arc> Path;
-  };
-  static Copy Take(const Arc& pobjArc, const std::shared_ptr<Workflow>& pobjChart);
-
-  std::unordered_map<const ModelObject*, Copy> mCopies;  // by arcs that the clipboard shares
-};
+/// An arc with the path that was kept for this one, to be cloned; null when no path was kept.
+const Arc* KeptPathOf(const Arc& pobjArc);
 
 }  // namespace vantrel

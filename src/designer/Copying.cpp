@@ -26,7 +26,7 @@ void Copying::Copy() {
     mobjControl.Clipboard = selection;
     AddInnerArcs(*selection);
   }
-  mobjControl.mobjCopied->Keep(*mobjControl.Clipboard);
+  KeepPaths(*mobjControl.Clipboard);
 }
 
 }  // namespace vantrel

@@ -48,8 +48,7 @@ Elbow* BendPointBetween(const Workflow& pobjWorkflow, const Vector& pobjBefore, 
 }
 
 Elbow& NewBendPoint(Workflow& pobjWorkflow, Vector& pobjBefore, Vector& pobjBehind) {
-  const auto elbow = std::make_shared<Elbow>();
-  elbow->Key = NextKey(pobjWorkflow.Elbows, "Elbow");
+  const auto elbow = std::make_shared<Elbow>(&pobjWorkflow);
   elbow->InVector(&pobjBefore);
   elbow->OutVector(&pobjBehind);
   pobjWorkflow.Elbows.Add(elbow, elbow->Key);

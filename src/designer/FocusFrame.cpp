@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "designer/ControlState.h"
+#include "designer/ControlScope.h"
 #include "designer/LabelText.h"
 #include "designer/Vantrel.h"
 #include "designer/gestures/ElementUnder.h"

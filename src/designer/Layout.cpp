@@ -1,7 +1,7 @@
 // Where the parts of the control lie in it.
 #include <algorithm>
 
-#include "designer/ControlState.h"
+#include "designer/ControlScope.h"
 #include "designer/Vantrel.h"
 
 namespace vantrel {

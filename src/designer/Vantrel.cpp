@@ -7,8 +7,7 @@
 #include "designer/ChartRefresh.h"
 #include "designer/ControlHost.h"
 #include "designer/ControlProperties.h"
-#include "designer/ControlState.h"
-#include "designer/CopiedArcs.h"
+#include "designer/ControlScope.h"
 #include "designer/Copying.h"
 #include "designer/CurrentElement.h"
 #include "designer/DefaultWorkflow.h"
@@ -22,7 +21,8 @@
 namespace vantrel {
 
 Vantrel::Vantrel(Toolkit& pobjToolkit)
-    : ImageList(gobjImageList),
+    : mobjState(std::make_unique<DesignerState>()),
+      ImageList(mobjState->Images),
       FocusFrame(*this),
       Input(*this),
       VNTRDB(std::make_shared<vantrel::VNTRDB>()),
@@ -32,9 +32,8 @@ Vantrel::Vantrel(Toolkit& pobjToolkit)
       mobjToolkit(pobjToolkit),
       mobjHost(std::make_unique<ControlHost>(*this)),
       mobjMenus(std::make_shared<PopupMenus>(*this)),
-      mobjCopied(std::make_unique<CopiedArcs>()),
       mcolSelection(std::make_shared<ObjectCollection>()) {
-  mobjState = std::make_unique<ControlState>(*this);
+  mobjState->Host = mobjHost.get();
   BackColor(kWhite);
 }
 
@@ -42,6 +41,7 @@ Vantrel::~Vantrel() {
   const auto dialogs = Dialogs;
   dialogs->CloseAll();
   mTokenAdded.Disconnect();
+  if (mWorkflow) mWorkflow->ShownBy(nullptr);
   mobjState = nullptr;
 }
 
@@ -49,8 +49,6 @@ void Vantrel::Workflow(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow) {
   const ControlScope scope(*this);
   ChartBuilder(*this).Show(pobjWorkflow);
 }
-
-UseModeConstant Vantrel::UseMode() const { return mobjState->UseMode(); }
 
 void Vantrel::UseMode(UseModeConstant pintMode) {
   const ControlScope scope(*this);

@@ -21,25 +21,25 @@
 namespace vantrel {
 
 class ControlHost;
-class ControlState;
-class CopiedArcs;
 class PopupMenus;
 
 /// What a control's selection and clipboard hold: model objects under their keys.
 using ObjectCollection = Collection<ModelObject>;
 
 /// A control is a plain object; a view (the Qt widget, or a test) shows its parts and feeds Input. Several may live in one
-/// process: each keeps its own state, and makes it the process-wide one while it is called. For one thread.
+/// process: each has a state of its own, which the objects of its workflow use. For one thread.
 ///
 /// Fields may be read and written by the host without side effects. Operations throw Error as they say; what users do by mouse
 /// and keyboard never throws: its errors are shown in message boxes.
 class Vantrel final : public ModelObject {
+  std::unique_ptr<DesignerState> mobjState;  // shared with the model
+
  public:
-  /// The toolkit must outlive the control. The newest control's state is the process-wide one until another is entered.
+  /// The toolkit must outlive the control. Between two calls the newest control's state is the process-wide one.
   explicit Vantrel(Toolkit& pobjToolkit);
   ~Vantrel() override;
 
-  const vantrel::ImageList* ImageList;  ///< VantrelImages at first; never null
+  const vantrel::ImageList*& ImageList;  ///< VantrelImages at first; never null
   const vantrel::ImageList* RolesImageList = nullptr;
   ChartSurface ChartArea;
   vantrel::FocusFrame FocusFrame;
@@ -67,7 +67,7 @@ class Vantrel final : public ModelObject {
   /// Shows a workflow, or none: the only way in which a chart is built. The control shares it with the host.
   const std::shared_ptr<vantrel::Workflow>& Workflow() const { return mWorkflow; }
   void Workflow(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow);
-  UseModeConstant UseMode() const;
+  UseModeConstant UseMode() const { return mobjState->UseMode; }
   void UseMode(UseModeConstant pintMode);
   static std::string UseModeName(std::int32_t plngMode);
   bool Dirty() const { return mblnDirty; }
@@ -84,8 +84,9 @@ class Vantrel final : public ModelObject {
   void RunStyle(RunStyleConstant pStyle);
   bool LockControls() const { return mblnLockControls; }
   void LockControls(bool pblnOn);
-  bool ContentsEnabled() const { return mblnContentsEnabled; }
-  void ContentsEnabled(bool pblnOn) { mblnContentsEnabled = pblnOn; }
+  /// Whether object images that are made from now on take what the host drags.
+  bool ContentsEnabled() const { return ChartArea.ctlImage.Template().AcceptsDrops(); }
+  void ContentsEnabled(bool pblnOn) { ChartArea.ctlImage.Template().AcceptsDrops(pblnOn); }
   bool RestrictTesting() const { return mblnRestrictTesting; }
   void RestrictTesting(bool pblnOn) { mblnRestrictTesting = pblnOn; }
   const std::shared_ptr<vantrel::Object>& CurrentObject() const { return mobjCurrentObject; }
@@ -176,17 +177,14 @@ class Vantrel final : public ModelObject {
   friend class ControlHost;
   friend class ControlProperties;
   friend class ControlScope;
-  friend class ControlState;
   friend class Copying;
   friend class CurrentElement;
   friend class Pasting;
   friend class Selecting;
 
   Toolkit& mobjToolkit;
-  std::unique_ptr<ControlHost> mobjHost;    // what the model reaches as gobjVantrel
-  std::unique_ptr<ControlState> mobjState;  // this control's share of the process-wide state
-  std::shared_ptr<PopupMenus> mobjMenus;    // shared: an entry of a menu that is open may end the control
-  std::unique_ptr<CopiedArcs> mobjCopied;
+  std::unique_ptr<ControlHost> mobjHost;  // what the model reaches as gobjVantrel
+  std::shared_ptr<PopupMenus> mobjMenus;  // shared: an entry of a menu that is open may end the control
   std::shared_ptr<vantrel::Workflow> mWorkflow;
   Subscription mTokenAdded;
   std::shared_ptr<ObjectCollection> mcolSelection;
@@ -195,7 +193,6 @@ class Vantrel final : public ModelObject {
   Color mBackColor = kWhite;
   RunStyleConstant mRunStyle = vntSilent;
   bool mblnLockControls = false;
-  bool mblnContentsEnabled = false;
   bool mblnRestrictTesting = false;
   bool mblnInsertingArc = false;
 };

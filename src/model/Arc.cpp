@@ -72,7 +72,7 @@ std::shared_ptr<Collection<Vector>> Arc::Vectors() const {
 
 std::shared_ptr<Collection<Elbow>> Arc::Elbows() const {
   auto elbows = std::make_shared<Collection<Elbow>>();
-  const auto* workflow = gobjWorkflow ? gobjWorkflow.get() : Workflow.get();
+  const auto* workflow = Workflow ? Workflow.get() : gobjWorkflow.get();
   if (!workflow) return elbows;
   for (Elbow* elbow : InOrderOf(workflow->Elbows, ElbowsOf(mcolSegments))) {
     elbows->Add(elbow->shared_from_this(), elbow->Key);
@@ -102,14 +102,14 @@ void Arc::Weight(const std::string& pstrWeight) {
   mstrWeight = pstrWeight;
   if (Label* label = WeightLabel.get()) {
     label->Caption(pstrWeight);
-    FitLabel(*label);
+    FitLabel(*label, *DesignerOf(Workflow).Host);
     if (pstrWeight.empty()) {
       label->Visible(false);
     } else if (Workflow && Workflow->ShowWeights) {
       label->Visible(true);
     }
   }
-  gobjVantrel->CurrentControl(nullptr);
+  DesignerOf(Workflow).Host->CurrentControl(nullptr);
 }
 
 void Arc::Guard(const std::string& pstrGuard) {

@@ -82,7 +82,7 @@ void ShowLabels(const Arc& pobjArc, const Workflow& pobjWorkflow) {
     } else {
       label->Caption("[" + pobjArc.Guard() + "]");
       label->Visible(true);
-      FitLabel(*label);
+      FitLabel(*label, *pobjWorkflow.Designer().Host);
     }
   }
   if (Label* label = pobjArc.WeightLabel.get()) label->Visible(pobjWorkflow.ShowWeights && !pobjArc.Weight().empty());

@@ -11,14 +11,6 @@ namespace vantrel {
 
 namespace {
 
-// A new bend point numbers itself in the shown workflow; in another one it needs a key of that one.
-std::shared_ptr<Elbow> NewElbowIn(const Workflow& pobjWorkflow) {
-  auto elbow = std::make_shared<Elbow>();
-  if (!(gobjVantrel->Workflow() == &pobjWorkflow)) elbow->Key = NextKey(pobjWorkflow.Elbows, "Elbow");
-  if (auto* handle = elbow->Handle.get()) handle->Tag(elbow->Key);
-  return elbow;
-}
-
 void LinkBehind(Vector& pobjOld, Vector& pobjNew) {
   pobjNew.InVector = &pobjOld;
   if (pobjOld.OutVector) pobjOld.OutVector->InVector = &pobjNew;
@@ -40,14 +32,14 @@ void HalveGeometry(Vector& pobjOld, Vector& pobjNew) {
 std::shared_ptr<Vector> Arc::InsertVector(const std::shared_ptr<Vector>& pobjVector) {
   vantrel::Workflow& workflow = *Workflow;
   auto vector = std::make_shared<Vector>();
-  vector->LineControl = gobjVantrel->NewLine();
+  vector->LineControl = workflow.Chart().NewLine();
   const auto bendPoints = BendPoints();
   vector->Arc(shared_from_this());
   LinkBehind(*pobjVector, *vector);
   for (Elbow* bendPoint : bendPoints) {
     if (bendPoint->InVector() == pobjVector) bendPoint->InVector(vector);
   }
-  const auto elbow = NewElbowIn(workflow);
+  const auto elbow = std::make_shared<Elbow>(&workflow);
   elbow->InVector(pobjVector);
   elbow->OutVector(vector);
   HalveGeometry(*pobjVector, *vector);
@@ -138,7 +130,7 @@ std::shared_ptr<Arc> Arc::Clone(const std::shared_ptr<vantrel::Workflow>& pobjWo
   for (const Elbow* bendPoint : BendPoints()) {
     const auto in = copies.find(bendPoint->InVector().get()), out = copies.find(bendPoint->OutVector().get());
     if (in == copies.end() || out == copies.end()) continue;
-    const auto elbow = NewElbowIn(*pobjWorkflow);
+    const auto elbow = std::make_shared<Elbow>(pobjWorkflow);
     elbow->InVector(in->second);
     elbow->OutVector(out->second);
     elbow->CentreHandle(in->second->X2(), in->second->Y2());

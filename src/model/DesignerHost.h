@@ -31,6 +31,9 @@ class DesignerHost {
   virtual float CurrentX() const { return 200; }
   virtual float CurrentY() const { return 200; }
 
+  /// Another control is about to show this one's workflow.
+  virtual void LetGo() {}
+
   /// A workflow became dirty or clean, or what it was already.
   virtual void Dirty(vantrel::Workflow& /*pobjWorkflow*/, bool /*pblnDirty*/) {}
   /// Takes the process-wide use mode, gintUseMode.
@@ -47,8 +50,6 @@ class DesignerHost {
   virtual Ref<Line> NewLine() { return nullptr; }
   virtual Ref<Image> NewHandle() { return nullptr; }
 
-  /// Lets pending user-interface events take effect once.
-  virtual void ProcessEvents() {}
   /// Fits the focus frame round its element again, if it is to be seen.
   virtual void FrameControl() {}
   /// Names of the fonts on this system, in the system's order.

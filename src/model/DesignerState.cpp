@@ -1,5 +1,7 @@
 #include "model/DesignerState.h"
 
+#include <vector>
+
 #include "model/Workflow.h"
 
 namespace vantrel {
@@ -11,6 +13,11 @@ const ImageList& OwnImages() {
   return images;
 }
 
+std::vector<DesignerState*>& States() {
+  static std::vector<DesignerState*> states;  // oldest first
+  return states;
+}
+
 }  // namespace
 
 void DesignerHost::UseMode(UseModeConstant pintMode) { gintUseMode = pintMode; }
@@ -20,29 +27,49 @@ DesignerHost& DesignerHostRef::BuiltIn() {
   return host;
 }
 
-DesignerHostRef gobjVantrel;
-Ref<Workflow> gobjWorkflow;
-const ImageList* gobjImageList = &OwnImages();
+DesignerState* DesignerState::sNewest = nullptr;
+std::int32_t DesignerState::sCalls = 0;
+DesignerState* DesignerState::sCurrent = &First();
 WorkflowReader* gobjWorkflowReader = nullptr;
-UseModeConstant gintUseMode = vntDesign;
-std::int16_t gintInputPosition = vntLeft;
-std::int16_t gintOutputPosition = vntRight;
 
-DesignerStateScope::DesignerStateScope()
-    : mobjVantrel(gobjVantrel),
-      mobjWorkflow(gobjWorkflow),
-      mobjImageList(gobjImageList),
-      mintUseMode(gintUseMode),
-      mintInputPosition(gintInputPosition),
-      mintOutputPosition(gintOutputPosition) {}
+DesignerState::DesignerState() : Images(&OwnImages()) { Register(); }
+
+DesignerState::DesignerState(const DesignerState& pobjFrom)
+    : Referable(pobjFrom),
+      Host(pobjFrom.Host),
+      Workflow(pobjFrom.Workflow),
+      Images(pobjFrom.Images),
+      UseMode(pobjFrom.UseMode),
+      InputPosition(pobjFrom.InputPosition),
+      OutputPosition(pobjFrom.OutputPosition) {
+  Register();
+}
+
+DesignerState::~DesignerState() {
+  auto& states = States();
+  std::erase(states, this);
+  sNewest = states.empty() ? nullptr : states.back();
+  if (sCurrent == this) sCurrent = sNewest;
+}
+
+// The one that belongs to no control. It is never the last to go: what refers to it may live as long.
+DesignerState& DesignerState::First() {
+  static DesignerState& first = *new DesignerState;
+  return first;
+}
+
+void DesignerState::Register() {
+  States().push_back(this);
+  sNewest = this;
+  if (sCalls == 0) sCurrent = this;
+}
+
+DesignerStateScope::DesignerStateScope() : mobjBefore(&DesignerState::Current()), mobjState(DesignerState::Current()) {
+  DesignerState::sCurrent = &mobjState;
+}
 
 DesignerStateScope::~DesignerStateScope() {
-  gobjVantrel = mobjVantrel;
-  gobjWorkflow = mobjWorkflow;
-  gobjImageList = mobjImageList;
-  gintUseMode = mintUseMode;
-  gintInputPosition = mintInputPosition;
-  gintOutputPosition = mintOutputPosition;
+  if (DesignerState::sCurrent == &mobjState && mobjBefore) DesignerState::sCurrent = mobjBefore.get();
 }
 
 }  // namespace vantrel

@@ -1,36 +1,60 @@
-// The state that the model shares with the control: one value per process, set by the control entered last.
+// The state that the model shares with the controls.
 #pragma once
 
 #include <cstdint>
 
 #include "chart/Picture.h"
-#include "model/DesignerHost.h"
+#include "model/CurrentValue.h"
+#include "model/DesignerHostRef.h"
 
 namespace vantrel {
 
-/// A reference to a DesignerHost that is never null: without a control it leads to the built-in host.
-class DesignerHostRef {
+/// Each control has one, and one more serves while there is no control. One of them is the current one: that of the control that is
+/// being called, and between two calls the newest. An object takes the state of the control that shows its workflow
+/// (Workflow::Designer) and the current one only when no control shows it.
+class DesignerState : public Referable {
  public:
-  DesignerHostRef() = default;
-  DesignerHostRef(DesignerHost* pobjHost) : mobjHost(pobjHost) {}
-  DesignerHost* operator->() const { return get(); }
-  DesignerHost* get() const { return mobjHost ? mobjHost : &BuiltIn(); }
-  friend bool operator==(const DesignerHostRef& a, const DesignerHost* b) { return a.mobjHost == b; }
+  /// The current one from now on, unless a call is under way (DesignerCall): then as soon as that is over.
+  DesignerState();
+  /// With the same values.
+  DesignerState(const DesignerState& pobjFrom);
+  DesignerState& operator=(const DesignerState&) = delete;
+  /// When the current one goes, the newest of the others follows.
+  ~DesignerState();
+
+  DesignerHostRef Host;
+  Ref<vantrel::Workflow> Workflow;  ///< the workflow shown, or the one read last
+  const ImageList* Images;          ///< pictures that objects show; never null
+  UseModeConstant UseMode = vntDesign;
+  std::int16_t InputPosition = vntLeft;  ///< ConnectorPosition given to new objects; every setting of one changes it
+  std::int16_t OutputPosition = vntRight;
+
+  static DesignerState& Current() { return *sCurrent; }
 
  private:
-  static DesignerHost& BuiltIn();
-  DesignerHost* mobjHost = nullptr;
+  friend class DesignerCall;
+  friend class DesignerStateScope;
+
+  static DesignerState& First();
+  void Register();
+
+  static DesignerState* sCurrent;
+  static DesignerState* sNewest;
+  static std::int32_t sCalls;  // under way
 };
 
-extern DesignerHostRef gobjVantrel;         ///< the control; whoever sets it takes it back before it dies
-extern Ref<Workflow> gobjWorkflow;          ///< the workflow shown
-extern const ImageList* gobjImageList;      ///< pictures that objects show; never null
-extern WorkflowReader* gobjWorkflowReader;  ///< who is reading a workflow now; null while nobody is
-extern UseModeConstant gintUseMode;         ///< vntDesign at first
-extern std::int16_t gintInputPosition;      ///< ConnectorPosition given to new objects; every setting of one changes it
-extern std::int16_t gintOutputPosition;
+// The values of the current state. They are read and written like variables.
+inline constexpr CurrentValue<&DesignerState::Host> gobjVantrel;
+inline constexpr CurrentValue<&DesignerState::Workflow> gobjWorkflow;
+inline constexpr CurrentValue<&DesignerState::Images> gobjImageList;
+inline constexpr CurrentValue<&DesignerState::UseMode> gintUseMode;
+inline constexpr CurrentValue<&DesignerState::InputPosition> gintInputPosition;
+inline constexpr CurrentValue<&DesignerState::OutputPosition> gintOutputPosition;
 
-/// Puts the state back to what it was at its creation when it goes out of scope.
+extern WorkflowReader* gobjWorkflowReader;  ///< who is reading a workflow now; null while nobody is
+
+/// Gives a host that is no control a state of its own, with the values of the current one, and makes it the current one. Goes with
+/// the scope; then the state of before is the current one again.
 class DesignerStateScope {
  public:
   DesignerStateScope();
@@ -39,11 +63,8 @@ class DesignerStateScope {
   DesignerStateScope& operator=(const DesignerStateScope&) = delete;
 
  private:
-  DesignerHostRef mobjVantrel;
-  Ref<Workflow> mobjWorkflow;
-  const ImageList* mobjImageList;
-  UseModeConstant mintUseMode;
-  std::int16_t mintInputPosition, mintOutputPosition;
+  Ref<DesignerState> mobjBefore;
+  DesignerState mobjState;
 };
 
 }  // namespace vantrel

@@ -14,9 +14,11 @@ constexpr float kHandleSize = 6 * kTwipsPerPixel;  // of a handle that no chart 
 
 }  // namespace
 
-Elbow::Elbow() : Handle(gobjVantrel->NewHandle()) {
-  const auto workflow = gobjVantrel->Workflow();
-  Key = workflow ? NextKey(workflow->Elbows, "Elbow") : "Elbow1";
+Elbow::Elbow() : Elbow(gobjVantrel->Workflow()) {}
+
+Elbow::Elbow(const Ref<Workflow>& pobjWorkflow)
+    : Key(pobjWorkflow ? NextKey(pobjWorkflow->Elbows, "Elbow") : "Elbow1"),
+      Handle((pobjWorkflow ? pobjWorkflow->Chart() : *gobjVantrel).NewHandle()) {
   if (Image* handle = Handle.get()) {
     handle->Tag(Key);
     handle->Visible(false);

@@ -15,8 +15,10 @@ namespace vantrel {
 /// workflow's Elbows. Answers the property protocol with its arc's. Twips.
 class Elbow final : public ModelObject, public std::enable_shared_from_this<Elbow> {
  public:
-  /// Takes a handle of the control and the next free key of the control's workflow.
+  /// Belongs to the workflow that the current control shows.
   Elbow();
+  /// Takes the next free key of the workflow, and a handle of the chart that it is shown on.
+  explicit Elbow(const Ref<Workflow>& pobjWorkflow);
   /// Takes the handle off the chart.
   ~Elbow() override;
 

@@ -97,13 +97,13 @@ void Node::MoveTo(float psngLeft, float psngTop) {
 
 void Node::InputPosition(std::int16_t pintPosition) {
   mInputPosition = pintPosition;
-  gintInputPosition = pintPosition;
+  DesignerOf(Workflow).InputPosition = pintPosition;
   Draw();
 }
 
 void Node::OutputPosition(std::int16_t pintPosition) {
   mOutputPosition = pintPosition;
-  gintOutputPosition = pintPosition;
+  DesignerOf(Workflow).OutputPosition = pintPosition;
   Draw();
   MarkDirty();
 }
@@ -112,7 +112,7 @@ void Node::Caption(const std::string& pstrCaption) {
   mCaption = pstrCaption;
   if (Label* label = CaptionLabel.get()) {
     label->Caption(pstrCaption);
-    FitLabel(*label);
+    FitLabel(*label, *DesignerOf(Workflow).Host);
     CaptionHeight = label->Height();
     CaptionWidth = label->Width();
   }
@@ -177,7 +177,7 @@ void Node::ShowElements(bool pblnOn) {
 void Node::DrawImage(bool pblnEnabled) {
   auto* image = Image.get();
   if (!image) return;
-  image->Picture(gobjImageList->Find(pblnEnabled ? EnabledImageKey : DisabledImageKey));
+  image->Picture(DesignerOf(Workflow).Images->Find(pblnEnabled ? EnabledImageKey : DisabledImageKey));
   image->MoveTo(mLeft, mTop);
 }
 
@@ -185,18 +185,18 @@ void Node::DrawCaption() {
   Label* label = CaptionLabel.get();
   if (!label) return;
   label->MoveTo(mLeft + mCaptionOffsetLeft, mTop + mCaptionOffsetTop);
-  if (label->Width() < kNarrowLabel) FitLabel(*label);
+  if (label->Width() < kNarrowLabel) FitLabel(*label, *DesignerOf(Workflow).Host);
 }
 
 void Node::DrawConnectors(float psngLeftOutset) {
   const auto* image = Image.get();
   if (!image) return;
   if (auto* connector = InConnector.get()) {
-    connector->Picture(gobjImageList->Find(InputPicture(mInputPosition)));
+    connector->Picture(DesignerOf(Workflow).Images->Find(InputPicture(mInputPosition)));
     PlaceConnector(*connector, *image, mInputPosition, 0);
   }
   if (auto* connector = OutConnector.get()) {
-    connector->Picture(gobjImageList->Find(OutputPicture(mOutputPosition)));
+    connector->Picture(DesignerOf(Workflow).Images->Find(OutputPicture(mOutputPosition)));
     PlaceConnector(*connector, *image, mOutputPosition, psngLeftOutset);
   }
 }

@@ -102,7 +102,7 @@ std::shared_ptr<PropertyCollection> Notation::GetProperties() {
   records.Add("BackColor", vntPropertyColor, "Background color.", BackColor);
   records.Add("ForeColor", vntPropertyColor, "Text color.", ForeColor);
   auto& font = records.Add("Font", vntPropertyText, "Font name.", Font);
-  for (const auto& name : gobjVantrel->FontNames()) {
+  for (const auto& name : DesignerOf(Workflow).Host->FontNames()) {
     if (!font.Options.Contains(name)) font.AddOption(name, name);
   }
   records.Add("Size", vntPropertyNoteChoice, "Font Size.", Size);

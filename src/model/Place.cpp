@@ -1,7 +1,7 @@
 #include "model/Place.h"
 
 #include "model/Arc.h"
-#include "model/DesignerState.h"
+#include "model/DesignerCall.h"
 #include "model/PropertyBuilder.h"
 #include "model/Workflow.h"
 #include "model/game/Arrival.h"
@@ -24,6 +24,7 @@ Place::~Place() = default;
 
 void Place::AddToken(const std::shared_ptr<Token>& pobjToken) {
   if (!pobjToken) throw Error(vntErrInvalidCall);
+  const DesignerCall call(Workflow);
   TokenGame::Run<Arrival>(Share(), pobjToken);
 }
 
@@ -32,11 +33,14 @@ void Place::PutBack(const std::shared_ptr<Token>& pobjToken) {
   Arrival::PutBack(Share(), pobjToken);
 }
 
-void Place::RemoveToken(const std::shared_ptr<Token>& pobjToken) { TokenGame::Run<Departure>(Share(), pobjToken); }
+void Place::RemoveToken(const std::shared_ptr<Token>& pobjToken) {
+  const DesignerCall call(Workflow);
+  TokenGame::Run<Departure>(Share(), pobjToken);
+}
 
 void Place::TokenCount(float psngCount) {
   mTokenCount = psngCount;
-  if (!mVisible || gintUseMode == vntRun) return;
+  if (!mVisible || DesignerOf(Workflow).UseMode == vntRun) return;
   if (Label* label = CountLabel.get()) label->Caption(std::to_string(static_cast<std::int64_t>(psngCount)));
   Draw();
 }
@@ -63,11 +67,11 @@ void Place::Visible(bool pblnOn) {
 
 void Place::CaseEnabled(bool pblnOn) {
   mblnCaseEnabled = pblnOn;
-  if (auto* image = Image.get()) image->Picture(gobjImageList->Find(pblnOn ? EnabledImageKey : DisabledImageKey));
+  if (auto* image = Image.get()) image->Picture(DesignerOf(Workflow).Images->Find(pblnOn ? EnabledImageKey : DisabledImageKey));
 }
 
 void Place::Draw() {
-  if (!mVisible || gintUseMode == vntRun || !Workflow) return;
+  if (!mVisible || DesignerOf(Workflow).UseMode == vntRun || !Workflow) return;
   DrawImage(!mcolTokens.IsEmpty());
   if (Label* label = CaptionLabel.get()) label->Resize(CaptionWidth, CaptionHeight);
   DrawCaption();

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "model/Arc.h"
-#include "model/DesignerState.h"
 #include "model/Workflow.h"
 
 namespace vantrel {
@@ -15,7 +14,7 @@ SingleDrawing* gobjOuter = nullptr;
 
 }  // namespace
 
-SingleDrawing::SingleDrawing() : mobjShown(gobjWorkflow) {
+SingleDrawing::SingleDrawing(Workflow& pobjWorkflow) : mobjWorkflow(&pobjWorkflow) {
   if (!gobjOuter) gobjOuter = this;
 }
 
@@ -38,9 +37,7 @@ void SingleDrawing::Finish() {
 }
 
 bool SingleDrawing::Postpones(Arc& pobjArc) {
-  if (!gobjOuter) return false;
-  const Workflow* const shown = gobjOuter->mobjShown.get();
-  if (!shown || gobjWorkflow.get() != shown || pobjArc.Workflow.get() != shown) return false;
+  if (!gobjOuter || !pobjArc.Workflow || !(pobjArc.Workflow == gobjOuter->mobjWorkflow)) return false;
   pobjArc.mlngTurn = gobjOuter->mcolWaiting.size();
   gobjOuter->mcolWaiting.emplace_back(&pobjArc);
   return true;

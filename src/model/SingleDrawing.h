@@ -9,11 +9,11 @@
 namespace vantrel {
 
 /// Every node that is drawn draws its arcs: with both ends that is twice. While this lives, arcs that are asked to draw themselves
-/// wait, and Finish draws each of them once, in the order in which they were asked last. Arcs of other workflows than the shown one (a
-/// listener may go to another control meanwhile) draw themselves at once. One inside another leaves it to the outer.
+/// wait, and Finish draws each of them once, in the order in which they were asked last. Arcs of other workflows draw
+/// themselves at once. One inside another leaves it to the outer.
 class SingleDrawing {
  public:
-  SingleDrawing();
+  explicit SingleDrawing(Workflow& pobjWorkflow);
   /// Draws what still waits because something was thrown, and swallows its errors.
   ~SingleDrawing();
   SingleDrawing(const SingleDrawing&) = delete;
@@ -24,7 +24,7 @@ class SingleDrawing {
   static bool Postpones(Arc& pobjArc);
 
  private:
-  Ref<Workflow> mobjShown;
+  Ref<Workflow> mobjWorkflow;
   std::vector<Ref<Arc>> mcolWaiting;  // an arc may stand in it several times, or be gone meanwhile
 };
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "model/DesignerState.h"
+#include "model/DesignerCall.h"
 #include "model/PropertyBuilder.h"
 #include "model/Workflow.h"
 #include "model/game/Firing.h"
@@ -49,7 +49,10 @@ void Transition::Enabled(bool pblnEnabled) {
 
 void Transition::PullTrigger() { Fire(); }
 
-void Transition::Fire(const std::shared_ptr<WorkCase>& pobjWorkCase) { TokenGame::Run<Firing>(Share(), pobjWorkCase); }
+void Transition::Fire(const std::shared_ptr<WorkCase>& pobjWorkCase) {
+  const DesignerCall call(Workflow);
+  TokenGame::Run<Firing>(Share(), pobjWorkCase);
+}
 
 bool Transition::SwitchEnabled(bool pblnEnabled) {
   mblnEnabled = pblnEnabled;

@@ -75,11 +75,10 @@ float InputConnectorY(const Node& pobjNode) {
   }
 }
 
-void FitLabel(Label& pobjLabel) {
+void FitLabel(Label& pobjLabel, DesignerHost& pobjHost) {
   pobjLabel.AutoSize(true);
-  gobjVantrel->ProcessEvents();
   pobjLabel.AutoSize(false);
-  gobjVantrel->FrameControl();
+  pobjHost.FrameControl();
 }
 
 }  // namespace vantrel

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "chart/Label.h"
+#include "model/DesignerState.h"
 #include "model/Forward.h"
 
 namespace vantrel {
@@ -13,7 +14,7 @@ float OutputConnectorY(const Node& pobjNode);
 float InputConnectorX(const Node& pobjNode);
 float InputConnectorY(const Node& pobjNode);
 
-/// Gives the label the size of its text and fits the focus frame again.
-void FitLabel(Label& pobjLabel);
+/// Gives the label the size of its text and fits the focus frame of the label's control again.
+void FitLabel(Label& pobjLabel, DesignerHost& pobjHost = *gobjVantrel);
 
 }  // namespace vantrel

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "model/DesignerState.h"
+#include "model/DesignerCall.h"
 #include "model/PropertyBuilder.h"
 #include "model/game/FiringNext.h"
 #include "util/Lookup.h"
@@ -28,7 +28,12 @@ Workflow::~Workflow() = default;
 
 void Workflow::Dirty(bool pblnDirty) {
   mblnDirty = pblnDirty;
-  gobjVantrel->Dirty(*this, pblnDirty);
+  Designer().Host->Dirty(*this, pblnDirty);
+}
+
+DesignerHost& Workflow::Chart() const {
+  DesignerHost& host = *Designer().Host;
+  return host.Workflow() == this ? host : DesignerHostRef::BuiltIn();
 }
 
 void Workflow::Visible(bool pblnOn) {
@@ -68,6 +73,7 @@ void Workflow::z_StartCase(const std::shared_ptr<WorkCase>& pobjCase) {
 }
 
 void Workflow::FireNext(const std::shared_ptr<Transition>& pobjTransition) {
+  const DesignerCall call(this);
   TokenGame::Run<FiringNext>(shared_from_this(), pobjTransition);
 }
 

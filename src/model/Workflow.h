@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/Arc.h"
+#include "model/DesignerState.h"
 #include "model/Elbow.h"
 #include "model/Enumerations.h"
 #include "model/Notation.h"
@@ -94,6 +95,19 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
   /// does not have it.
   void z_RemoveArc(const std::shared_ptr<Arc>& pobjArc);
 
+  /// The state of the control that shows this workflow, or the current one.
+  DesignerState& Designer() const { return mobjShownBy ? *mobjShownBy : DesignerState::Current(); }
+  bool IsShown() const { return mobjShownBy != nullptr; }
+  /// A control shows the workflow from now on, or null: none does. The state outlives the workflow or is taken back before it goes.
+  void ShownBy(DesignerState* pobjState) { mobjShownBy = pobjState; }
+  /// What gives elements to this workflow's objects: nobody where the current control shows another workflow.
+  DesignerHost& Chart() const;
+  /// The workflow whose settings count for this one: itself when it is shown, otherwise gobjWorkflow, as for what that embeds.
+  const Workflow& Leading() const {
+    const auto* current = mobjShownBy ? nullptr : DesignerState::Current().Workflow.get();
+    return current ? *current : *this;
+  }
+
   /// True when the other workflow is this one or is embedded in it, however deep.
   bool Embeds(const Workflow& pobjOther) const;
 
@@ -110,8 +124,15 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
 
   Ref<vantrel::Place> mobjEndPlace;
   std::vector<Ref<Transition>> mcolObservers;  // transitions that run this workflow as their subflow
+  DesignerState* mobjShownBy = nullptr;
   bool mblnDirty = false;
   bool mblnVisible = false;
 };
+
+/// The state of the control that shows an object's workflow, or the current one.
+inline DesignerState& DesignerOf(const Ref<Workflow>& pobjWorkflow) {
+  const Workflow* const workflow = pobjWorkflow.get();
+  return workflow ? workflow->Designer() : DesignerState::Current();
+}
 
 }  // namespace vantrel

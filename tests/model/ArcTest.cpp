@@ -88,7 +88,7 @@ void ExpectSoundChain(const Arc& pobjArc) {
 
 TEST_F(ArcOnChart, DrawnOnceForAllLeadsToWhereItsEndsAreThen) {
   const auto other = Connect(mPlace, AddTransition(*mNet, "T2"));
-  SingleDrawing once;
+  SingleDrawing once(*mNet);
   mPlace->MoveTo(300, 1200);
   const std::string before = CourseOf(*Segment(1));
   mTransition->MoveTo(6000, 900);

@@ -10,7 +10,7 @@ namespace {
 
 bool DropOnImage(const Ref<Vantrel>& pobjControl, const Element& pobjImage) {
   const auto transition = std::dynamic_pointer_cast<Transition>(ObjectOf(*pobjControl, pobjImage));
-  if (!transition || !pobjControl->ContentsEnabled()) return false;
+  if (!transition || !static_cast<const Image&>(pobjImage).AcceptsDrops()) return false;
   const auto source = pobjControl->DragObject;
   const auto dialogs = pobjControl->Dialogs;
   dialogs->LoadRolesImage(*pobjControl, *transition);

@@ -9,9 +9,9 @@ void MovingGroup::Add(const std::shared_ptr<ModelObject>& pobjObject) {
   if (const auto bounds = BoundsOf(*pobjObject)) mcolMembers.push_back({pobjObject, bounds->Left, bounds->Top});
 }
 
-bool MovingGroup::MoveTo(const Workflow& pobjWorkflow, float psngX, float psngY) const {
+bool MovingGroup::MoveTo(Workflow& pobjWorkflow, float psngX, float psngY) const {
   bool moves = false;
-  SingleDrawing arcsOnce;
+  SingleDrawing arcsOnce(pobjWorkflow);
   for (const Member& member : mcolMembers) {
     const auto object = member.Item.lock();
     if (!object || !IsPartOf(*object, pobjWorkflow)) continue;

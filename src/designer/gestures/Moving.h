@@ -17,7 +17,7 @@ class MovingGroup {
   /// Passes over an object without a place of its own, such as an arc.
   void Add(const std::shared_ptr<ModelObject>& pobjObject);
   /// So far from where each object was, twips. False when there is nothing to move.
-  bool MoveTo(const Workflow& pobjWorkflow, float psngX, float psngY) const;
+  bool MoveTo(Workflow& pobjWorkflow, float psngX, float psngY) const;
 
  private:
   struct Member {

@@ -22,9 +22,9 @@ bool Any(const Token&) { return true; }
 }  // namespace
 
 bool TokenRules::CaseTracking(const Node& pobjNode) {
-  if (const auto* shown = gobjWorkflow.get()) return shown->CaseTracking;
   const auto* own = pobjNode.Workflow.get();
-  return own && own->CaseTracking;
+  const auto* leading = own ? &own->Leading() : gobjWorkflow.get();
+  return leading && leading->CaseTracking;
 }
 
 Token* TokenRules::FirstBehind(const Place& pobjPlace) { return FirstFree(pobjPlace.Tokens(), Any); }

@@ -100,6 +100,10 @@ TEST_F(Playing, TheHostsDragIsLetGoOverTheBackgroundOrATransition) {
   EXPECT_TRUE(Control->Selection()->IsEmpty());
   EXPECT_FALSE(dropOn(MiddleX(*Begin().Image), MiddleY(*Begin().Image))) << "images take nothing yet";
   Control->ContentsEnabled(true);
+  EXPECT_FALSE(dropOn(MiddleX(*Begin().Image), MiddleY(*Begin().Image))) << "nor do those that were made before";
+  Control->Workflow(nullptr);
+  Control->Workflow(Net);
+  Control->ContentsEnabled(false);
   EXPECT_TRUE(dropOn(MiddleX(*Begin().Image), MiddleY(*Begin().Image)));
   EXPECT_FALSE(dropOn(MiddleX(*Start().Image), MiddleY(*Start().Image)));
   EXPECT_EQ(dropped, std::vector<Object*>{&Begin()});
