@@ -123,7 +123,7 @@ function(vantrel_install_package)
   install(FILES ${PROJECT_BINARY_DIR}/VantrelConfig.cmake ${PROJECT_BINARY_DIR}/VantrelConfigVersion.cmake
     DESTINATION ${destination} COMPONENT library)
   vantrel_install_headers()
-  install(FILES ${PROJECT_SOURCE_DIR}/data/schema/sqlite.sql ${PROJECT_SOURCE_DIR}/data/schema/postgres.sql
+  install(DIRECTORY ${PROJECT_SOURCE_DIR}/data/schema/
     DESTINATION ${VANTREL_SCHEMA_DIR} COMPONENT library)
 endfunction()
 

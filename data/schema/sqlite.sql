@@ -6,13 +6,20 @@
 -- AUTOINCREMENT where the database gives the ids: an id must never come again, because rows of TokenProperty, Token and
 -- PropertyValue outlive what they belong to. Workflow, Workcase and Token get their ids from the program, the largest plus one.
 --
--- NOT NULL stands only where a row without the value could not be read. No key refuses what a save does in the middle: it deletes
--- places and transitions before it rewrites the arcs that lead to them.
+-- NOT NULL stands only where a row without the value could not be read. Foreign keys are checked when the transaction ends: a save
+-- deletes places and transitions before it rewrites the arcs that lead to them. Definitions, cases and tokens stay when their chart
+-- is deleted, so no key leads from them to it.
+--
+-- A change of this file is a new version: the number below, and a step from the version before in upgrade-sqlite.sql.
+
+-- The version of these tables, one row.
+CREATE TABLE vantrel_schema (Version INTEGER NOT NULL);
+INSERT INTO vantrel_schema (Version) VALUES (2);
 
 CREATE TABLE Workflow (
   Id             INTEGER PRIMARY KEY,
   -- A random identifier of version 4 (RFC 9562). No statement writes it.
-  GUID           TEXT NOT NULL DEFAULT (lower(
+  GUID           TEXT NOT NULL UNIQUE DEFAULT (lower(
                    hex(randomblob(4)) || '-' || hex(randomblob(2)) || '-4' || substr(hex(randomblob(2)), 2) || '-' ||
                    substr('89ab', 1 + (random() & 3), 1) || substr(hex(randomblob(2)), 2) || '-' || hex(randomblob(6)))),
   StartPlaceName TEXT,
@@ -24,10 +31,20 @@ CREATE TABLE Workflow (
   RunStyle       INTEGER NOT NULL,
   LockControls   BOOLEAN NOT NULL
 );
+-- The next new workflow may get the id of a deleted one, and must not take its place inside others.
+CREATE TRIGGER WorkflowDeleted AFTER DELETE ON Workflow BEGIN
+  UPDATE Transition SET SubflowId = 0 WHERE SubflowId = OLD.Id;
+END;
+
+-- What the program keeps of a workflow beside the tables that hosts know.
+CREATE TABLE vantrel_workflow (
+  WorkflowId INTEGER PRIMARY KEY REFERENCES Workflow (Id) ON DELETE CASCADE DEFERRABLE INITIALLY DEFERRED,
+  BackColor  INTEGER NOT NULL  -- of the chart, BGR
+);
 
 CREATE TABLE Place (
   Id                INTEGER PRIMARY KEY AUTOINCREMENT,
-  WorkflowId        INTEGER,
+  WorkflowId        INTEGER REFERENCES Workflow (Id) DEFERRABLE INITIALLY DEFERRED,
   Name              TEXT NOT NULL,
   Caption           TEXT NOT NULL,
   Description       TEXT NOT NULL,
@@ -47,7 +64,7 @@ CREATE INDEX PlaceOfWorkflow ON Place (WorkflowId);
 
 CREATE TABLE Transition (
   Id                INTEGER PRIMARY KEY AUTOINCREMENT,
-  WorkflowId        INTEGER,
+  WorkflowId        INTEGER REFERENCES Workflow (Id) DEFERRABLE INITIALLY DEFERRED,
   Name              TEXT NOT NULL,
   Caption           TEXT,
   Description       TEXT,
@@ -76,9 +93,9 @@ CREATE INDEX TransitionOfSubflow ON Transition (SubflowId);
 -- What an arc lacks is passed over when it is read.
 CREATE TABLE Arc (
   Id             INTEGER PRIMARY KEY AUTOINCREMENT,
-  WorkflowId     INTEGER,
-  PlaceId        INTEGER,
-  TransitionId   INTEGER,
+  WorkflowId     INTEGER REFERENCES Workflow (Id) DEFERRABLE INITIALLY DEFERRED,
+  PlaceId        INTEGER REFERENCES Place (Id) ON DELETE SET NULL DEFERRABLE INITIALLY DEFERRED,
+  TransitionId   INTEGER REFERENCES Transition (Id) ON DELETE SET NULL DEFERRABLE INITIALLY DEFERRED,
   ArcDirection   INTEGER,
   Description    TEXT,
   StdPath        BOOLEAN,
@@ -96,24 +113,31 @@ CREATE TABLE Arc (
 CREATE INDEX ArcOfWorkflow ON Arc (WorkflowId);
 CREATE INDEX ArcOfPlace ON Arc (PlaceId);
 CREATE INDEX ArcOfTransition ON Arc (TransitionId);
+-- An end that was never stored has the id 0 when the arc is written.
+CREATE TRIGGER ArcInserted AFTER INSERT ON Arc WHEN NEW.PlaceId = 0 OR NEW.TransitionId = 0 BEGIN
+  UPDATE Arc SET PlaceId = nullif(PlaceId, 0), TransitionId = nullif(TransitionId, 0) WHERE Id = NEW.Id;
+END;
+CREATE TRIGGER ArcUpdated AFTER UPDATE OF PlaceId, TransitionId ON Arc WHEN NEW.PlaceId = 0 OR NEW.TransitionId = 0 BEGIN
+  UPDATE Arc SET PlaceId = nullif(PlaceId, 0), TransitionId = nullif(TransitionId, 0) WHERE Id = NEW.Id;
+END;
 
--- The segments of an arc's path, in the order of insertion. A trigger and not a foreign key removes them with their arc: an arc
--- that was never stored has the id 0, and its segments must not stop a save.
+-- The segments of an arc's path, in the order of insertion.
 CREATE TABLE Vector (
-  ArcId INTEGER NOT NULL,
+  ArcId INTEGER NOT NULL REFERENCES Arc (Id) ON DELETE CASCADE DEFERRABLE INITIALLY DEFERRED,
   X1    REAL NOT NULL,
   Y1    REAL NOT NULL,
   X2    REAL NOT NULL,
   Y2    REAL NOT NULL
 );
 CREATE INDEX VectorOfArc ON Vector (ArcId);
-CREATE TRIGGER ArcDeleted AFTER DELETE ON Arc BEGIN
-  DELETE FROM Vector WHERE ArcId = OLD.Id;
+-- An arc that was never stored has the id 0: its segments are left out and do not stop a save.
+CREATE TRIGGER VectorOfNoArc BEFORE INSERT ON Vector WHEN NEW.ArcId = 0 BEGIN
+  SELECT RAISE(IGNORE);
 END;
 
 CREATE TABLE Notation (
   Id            INTEGER PRIMARY KEY AUTOINCREMENT,
-  WorkflowId    INTEGER,
+  WorkflowId    INTEGER REFERENCES Workflow (Id) DEFERRABLE INITIALLY DEFERRED,
   Caption       TEXT,
   Tag           TEXT NOT NULL,
   "Top"         INTEGER NOT NULL,
@@ -148,10 +172,10 @@ CREATE TABLE TokenProperty (
   "Value"     TEXT NOT NULL,
   Attributes  INTEGER NOT NULL
 );
-CREATE INDEX TokenPropertyOfPlace ON TokenProperty (PlaceId, Name);
+CREATE UNIQUE INDEX TokenPropertyOfPlace ON TokenProperty (PlaceId, Name);
 
 CREATE TABLE PropertyOption (
-  PropertyId INTEGER NOT NULL REFERENCES TokenProperty (Id) ON DELETE CASCADE,
+  PropertyId INTEGER NOT NULL REFERENCES TokenProperty (Id) ON DELETE CASCADE DEFERRABLE INITIALLY DEFERRED,
   Prompt     TEXT NOT NULL,
   "Value"    TEXT NOT NULL
 );
@@ -190,11 +214,11 @@ CREATE INDEX TokenOfWorkcase ON Token (WorkcaseId);
 CREATE TABLE PropertyValue (
   Id         INTEGER PRIMARY KEY AUTOINCREMENT,
   PropertyId INTEGER NOT NULL,
-  TokenId    INTEGER NOT NULL,
+  TokenId    INTEGER NOT NULL REFERENCES Token (Id) ON DELETE CASCADE DEFERRABLE INITIALLY DEFERRED,
   "Value"    TEXT NOT NULL
 );
 CREATE INDEX PropertyValueOfToken ON PropertyValue (TokenId);
-CREATE INDEX PropertyValueOfProperty ON PropertyValue (PropertyId, TokenId);
+CREATE UNIQUE INDEX PropertyValueOfProperty ON PropertyValue (PropertyId, TokenId);
 
 -- Saving the properties of a place deletes them all and inserts them with new ids. The values follow the property of the same
 -- place and name; those of one that is missing for a while wait here.

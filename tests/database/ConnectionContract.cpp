@@ -15,6 +15,7 @@ void ConnectionContract::SetUp() {
   if (!GetParam().Make) GTEST_SKIP() << GetParam().WhyMissing;
   mobjDatabase = GetParam().Make();
   mobjConnection = mobjDatabase->Connect();
+  AddWorkflow(*mobjConnection, 1);
 }
 
 std::unique_ptr<Recordset> Opened(Connection& pobjConnection, const std::string& pstrSource) {
@@ -49,6 +50,11 @@ std::int32_t Add(Connection& pobjConnection, const std::string& pstrTable, const
   for (const auto& [name, value] : pcolValues) row->Collect(name, value);
   row->Update();
   return row->Fields("Id").Value.ToInt32();
+}
+
+void AddWorkflow(Connection& pobjConnection, std::int32_t plngId) {
+  pobjConnection.Execute("INSERT INTO Workflow (Id, CaseTracking, KeepHistory, ShowGuards, ShowWeights, RunStyle, LockControls) VALUES (" +
+                         std::to_string(plngId) + ", False, False, False, False, 0, False)");
 }
 
 std::int32_t AddArc(Connection& pobjConnection, const char* pstrGuard) {

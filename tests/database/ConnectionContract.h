@@ -50,6 +50,8 @@ std::vector<std::string> Column(Connection& pobjConnection, const std::string& p
 /// A row added through a row set; gives its id.
 using Assignments = std::vector<std::pair<std::string, Variant>>;
 std::int32_t Add(Connection& pobjConnection, const std::string& pstrTable, const Assignments& pcolValues);
+/// A workflow row.
+void AddWorkflow(Connection& pobjConnection, std::int32_t plngId);
 /// One of the workflow 1.
 std::int32_t AddArc(Connection& pobjConnection, const char* pstrGuard);
 /// A token property of the place 7.

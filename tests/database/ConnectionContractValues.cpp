@@ -85,7 +85,7 @@ TEST_P(ConnectionContract, DatesAndBooleansOfStatementsComeBackAsSuch) {
 
   mobjConnection->Execute(
       "INSERT INTO Workflow(Id, StartPlaceName, EndPlaceName, CaseTracking, KeepHistory, ShowGuards, ShowWeights, RunStyle, LockControls) "
-      "VALUES(1, '','', True, False, True, False, -1, True)");
+      "VALUES(2, '','', True, False, True, False, -1, True)");
   const auto workflow = Opened(*mobjConnection, "SELECT * FROM Workflow WHERE CaseTracking = True AND KeepHistory IN (False)");
   ASSERT_EQ(workflow->RecordCount(), 1);
   EXPECT_EQ(workflow->Fields("LockControls").Value, Variant(true));

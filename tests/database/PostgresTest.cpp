@@ -58,6 +58,7 @@ class Postgres : public testing::Test {
     mDatabase.emplace();
     CreatePostgres(mDatabase->Address(), Schema());
     mConnection = OpenPostgres(mDatabase->Address());
+    AddWorkflow(*mConnection, 1);
   }
 
   std::optional<PostgresDatabase> mDatabase;

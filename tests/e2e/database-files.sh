@@ -44,6 +44,28 @@ for bad in noise.db cut.db; do
   says "$bad"
 done
 fails list --db "$scratch"
+
+# Tables of other versions and of other systems.
+cp "$file" "$scratch/newer.db"
+python3 - "$scratch" <<'END'
+import sqlite3, sys
+newer = sqlite3.connect(sys.argv[1] + "/newer.db")
+newer.execute("UPDATE vantrel_schema SET Version = 99")
+newer.commit()
+other = sqlite3.connect(sys.argv[1] + "/other.db")
+other.execute("CREATE TABLE Workflow (Step TEXT)")
+other.commit()
+END
+for command in list "db upgrade"; do
+  # shellcheck disable=SC2086
+  fails $command --db "$scratch/newer.db"
+  says "version 99"
+  # shellcheck disable=SC2086
+  fails $command --db "$scratch/other.db"
+  says "not a database of this system"
+done
+run 0 db upgrade --db "$file"
+grep -q "up to date" "$scratch/out" || fail "the newest version is not up to date"
 fails db create --db "$scratch/no/such/folder.db"
 says "no/such/folder.db"
 

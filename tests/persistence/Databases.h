@@ -23,11 +23,15 @@
 
 namespace vantrel::test {
 
-inline std::string SchemaOf(const std::string& pstrEngine) {
-  std::ifstream file(std::string(VANTREL_SCHEMA_DIR) + "/" + pstrEngine + ".sql");
+inline std::string TextOfFile(const std::string& pstrPath) {
+  std::ifstream file(pstrPath);
   std::stringstream text;
   text << file.rdbuf();
   return text.str();
+}
+
+inline std::string SchemaOf(const std::string& pstrEngine) {
+  return TextOfFile(std::string(VANTREL_SCHEMA_DIR) + "/" + pstrEngine + ".sql");
 }
 
 /// A new database with the tables, gone with this object.
@@ -38,16 +42,20 @@ class StoredDatabase {
   StoredDatabase& operator=(const StoredDatabase&) = delete;
   virtual ~StoredDatabase() = default;
   virtual std::shared_ptr<Connection> Connect() const = 0;
+  /// Brings tables of the version before to the newest one.
+  virtual void Upgrade() const = 0;
 };
 
 class SqliteStore final : public StoredDatabase {
  public:
-  SqliteStore() : mFolder(std::filesystem::path(testing::TempDir()) / ("vantrel" + std::to_string(std::random_device()()))) {
+  explicit SqliteStore(const std::string& pstrSchema = SchemaOf("sqlite"))
+      : mFolder(std::filesystem::path(testing::TempDir()) / ("vantrel" + std::to_string(std::random_device()()))) {
     std::filesystem::create_directories(mFolder);
-    CreateSqlite(File(), SchemaOf("sqlite"));
+    CreateSqlite(File(), pstrSchema);
   }
   ~SqliteStore() override { std::filesystem::remove_all(mFolder); }
   std::shared_ptr<Connection> Connect() const override { return OpenSqlite(File()); }
+  void Upgrade() const override { UpgradeSqlite(File(), SchemaOf("upgrade-sqlite"), SchemaOf("sqlite")); }
 
  private:
   std::string File() const { return (mFolder / "store.db").string(); }
@@ -57,8 +65,9 @@ class SqliteStore final : public StoredDatabase {
 #ifdef VANTREL_HAS_POSTGRES
 class PostgresStore final : public StoredDatabase {
  public:
-  PostgresStore() { CreatePostgres(Database.Address(), SchemaOf("postgres")); }
+  explicit PostgresStore(const std::string& pstrSchema = SchemaOf("postgres")) { CreatePostgres(Database.Address(), pstrSchema); }
   std::shared_ptr<Connection> Connect() const override { return OpenPostgres(Database.Address()); }
+  void Upgrade() const override { UpgradePostgres(Database.Address(), SchemaOf("upgrade-postgres")); }
   PostgresDatabase Database;
 };
 #endif
@@ -68,11 +77,11 @@ class EveryEngine : public testing::TestWithParam<std::string> {
  protected:
   void SetUp() override {
     if (GetParam() == "sqlite") {
-      mobjStore = std::make_unique<SqliteStore>();
+      mobjStore = std::make_unique<SqliteStore>(Schema());
     } else {
 #ifdef VANTREL_HAS_POSTGRES
       VANTREL_NEEDS_POSTGRES();
-      mobjStore = std::make_unique<PostgresStore>();
+      mobjStore = std::make_unique<PostgresStore>(Schema());
 #else
       GTEST_SKIP() << "built without PostgreSQL";
 #endif
@@ -85,6 +94,8 @@ class EveryEngine : public testing::TestWithParam<std::string> {
   VNTRDB Database;
 
   const StoredDatabase& Store() const { return *mobjStore; }
+  /// Of the tables that each test begins with.
+  virtual std::string Schema() const { return SchemaOf(GetParam()); }
 
  private:
   std::unique_ptr<StoredDatabase> mobjStore;

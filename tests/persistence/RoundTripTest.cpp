@@ -129,7 +129,7 @@ TEST_P(RoundTrip, LeavesOutWhatAnArcLacksAndRefusesWhatElseIsMissing) {
   for (int i = 0; i < 3; ++i) Connect(place, transition);
   Database.SaveWorkFlow(net);
   Connection& connection = *Database.Connection;
-  connection.Execute("UPDATE Arc SET PlaceId = 999 WHERE Id = " + std::to_string(net->Arcs.Item(1)->RecId));
+  connection.Execute("UPDATE Arc SET PlaceId = NULL WHERE Id = " + std::to_string(net->Arcs.Item(1)->RecId));
   connection.Execute("UPDATE Arc SET Guard = NULL WHERE Id = " + std::to_string(net->Arcs.Item(2)->RecId));
   connection.Execute("UPDATE Place SET Name = 'twin' WHERE Id = " + std::to_string(twin->RecId()));
   connection.Execute("UPDATE Transition SET Caption = NULL, Name = 'N' WHERE Id = " + std::to_string(transition->RecId));

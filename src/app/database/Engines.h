@@ -8,9 +8,11 @@
 
 namespace vantrel {
 
-/// Both throw Error: what the engine says of the address, or that this program was built without the engine.
+/// All throw Error: what the engine says of the address, or that this program was built without the engine.
 std::shared_ptr<Connection> OpenConnection(const DatabaseAddress& pobjAddress);
 /// Makes the tables, and a file where it is missing. Refuses a database that has them.
 void CreateDatabase(const DatabaseAddress& pobjAddress);
+/// Brings tables of the version before to the newest one, in one transaction.
+void UpgradeDatabase(const DatabaseAddress& pobjAddress);
 
 }  // namespace vantrel

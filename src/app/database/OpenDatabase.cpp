@@ -6,6 +6,7 @@
 
 #include "app/Lines.h"
 #include "app/database/Engines.h"
+#include "app/database/SchemaVersion.h"
 #include "util/Error.h"
 
 namespace vantrel {
@@ -19,45 +20,76 @@ std::string QuotedForShell(const std::string& pstrText) {
   return quoted + "'";
 }
 
+DatabaseFailure FailureOf(const std::string& pstrName, const std::string& pstrWhat) { return DatabaseFailure(pstrName + ": " + pstrWhat); }
+
+// In the words of the engine, which names the database in most of its texts.
+DatabaseFailure EngineFailureOf(const std::string& pstrName, const std::string& pstrDescription) {
+  return pstrDescription.find(pstrName) == std::string::npos ? FailureOf(pstrName, pstrDescription) : DatabaseFailure(pstrDescription);
+}
+
+std::shared_ptr<Connection> Connect(const DatabaseAddress& pobjAddress) {
+  const std::string name = pobjAddress.Shown();
+  if (!pobjAddress.IsServer() && !std::filesystem::exists(pobjAddress.Text())) {
+    if (name.find("://") != std::string::npos) {
+      throw FailureOf(name, "not an address of a database: that is a file, or postgresql://USER@HOST/NAME");
+    }
+    throw FailureOf(name, "no such database; `vantrel db create --db " + QuotedForShell(name) + "` makes it");
+  }
+  try {
+    return OpenConnection(pobjAddress);
+  } catch (const Error& error) {
+    throw EngineFailureOf(name, error.Description);
+  }
+}
+
+// Throws for no tables of the system and for those of a newer program.
+SchemaVersion VersionOf(Connection& pobjConnection, const std::string& pstrName) {
+  SchemaVersion version;
+  try {
+    version = FindSchemaVersion(pobjConnection);
+  } catch (const Error& error) {
+    throw EngineFailureOf(pstrName, error.Description);
+  }
+  if (version.Kind == SchemaKind::None && version.HasNames) {
+    throw FailureOf(pstrName, "not a database of this system (" + version.Lack + ")");
+  }
+  if (version.Kind == SchemaKind::None) {
+    throw FailureOf(pstrName, "a database without the tables of this system (" + version.Lack + "); `vantrel db create --db " +
+                                  QuotedForShell(pstrName) + "` makes them");
+  }
+  if (version.Number > kSchemaVersion) {
+    throw FailureOf(pstrName, "its tables have version " + std::to_string(version.Number) + ", this program knows " +
+                                  std::to_string(kSchemaVersion) + "; a newer one is needed");
+  }
+  return version;
+}
+
 }  // namespace
 
 OpenDatabase::OpenDatabase(const DatabaseAddress& pobjAddress)
-    : mstrName(pobjAddress.Shown()), mBefore(InstallMsgBoxPresenter([this](const std::string& pstrText, MsgBoxButtons, const std::string&) {
+    : mstrName(pobjAddress.Shown()), mMessageScope([this](const std::string& pstrText, MsgBoxButtons, const std::string&) {
         mMessages.push_back(pstrText);
         return vntOK;
-      })) {
-  try {
-    Connect(pobjAddress);
-    CheckTables();
-  } catch (...) {
-    InstallMsgBoxPresenter(std::move(mBefore));
-    throw;
-  }
+      }) {
+  mAccess.Connection = Connect(pobjAddress);
+  CheckTables();
 }
 
-OpenDatabase::~OpenDatabase() { InstallMsgBoxPresenter(std::move(mBefore)); }
+OpenDatabase::~OpenDatabase() = default;
 
-void OpenDatabase::Connect(const DatabaseAddress& pobjAddress) {
-  if (!pobjAddress.IsServer() && !std::filesystem::exists(pobjAddress.Text())) {
-    if (mstrName.find("://") != std::string::npos)
-      throw Failure("not an address of a database: that is a file, or postgresql://USER@HOST/NAME");
-    throw Failure("no such database; `vantrel db create --db " + QuotedForShell(mstrName) + "` makes it");
-  }
-  try {
-    mAccess.Connection = OpenConnection(pobjAddress);
-  } catch (const Error& error) {
-    throw EngineFailure(error.Description);
-  }
+std::int32_t OpenDatabase::VersionToUpgrade(const DatabaseAddress& pobjAddress) {
+  const auto connection = Connect(pobjAddress);
+  const SchemaVersion version = VersionOf(*connection, pobjAddress.Shown());
+  if (version.Kind == SchemaKind::Hosts)
+    throw FailureOf(pobjAddress.Shown(), "its tables are not of this program: there is nothing to upgrade");
+  return version.Number;
 }
 
 void OpenDatabase::CheckTables() {
-  try {
-    const auto rows = Connection().NewRecordset();
-    rows->Open("SELECT Id FROM Workflow WHERE Id = 0");
-  } catch (const Error& error) {
-    if (error.Number != vntErrStatement) throw EngineFailure(error.Description);
-    throw Failure("a database without the tables of this system; `vantrel db create --db " + QuotedForShell(mstrName) + "` makes them");
-  }
+  const SchemaVersion version = VersionOf(Connection(), mstrName);
+  if (version.Kind == SchemaKind::Hosts || version.Number == kSchemaVersion) return;
+  throw Failure("its tables have version " + std::to_string(version.Number) + ", this program needs " + std::to_string(kSchemaVersion) +
+                "; `vantrel db upgrade --db " + QuotedForShell(mstrName) + "` brings them there");
 }
 
 void OpenDatabase::Do(const std::function<void()>& pWork) {
@@ -84,10 +116,8 @@ DatabaseFailure OpenDatabase::NoSuchWorkflow(std::int32_t plngId) const {
   return Failure("no workflow " + std::to_string(plngId) + "; `vantrel list` says which there are");
 }
 
-DatabaseFailure OpenDatabase::Failure(const std::string& pstrWhat) const { return DatabaseFailure(mstrName + ": " + pstrWhat); }
+DatabaseFailure OpenDatabase::Failure(const std::string& pstrWhat) const { return FailureOf(mstrName, pstrWhat); }
 
-DatabaseFailure OpenDatabase::EngineFailure(const std::string& pstrDescription) const {
-  return pstrDescription.find(mstrName) == std::string::npos ? Failure(pstrDescription) : DatabaseFailure(pstrDescription);
-}
+DatabaseFailure OpenDatabase::EngineFailure(const std::string& pstrDescription) const { return EngineFailureOf(mstrName, pstrDescription); }
 
 }  // namespace vantrel

@@ -21,8 +21,9 @@ class DatabaseFailure : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// An open connection to a database that has the system's tables, with what reads and saves objects over it. While it lives,
-/// message boxes are answered with OK and become lines on standard error, or the text of a DatabaseFailure.
+/// An open connection to a database that has the system's tables in the version of this program, or a host's, with what reads and saves
+/// objects over it. While it lives, message boxes are answered with OK and become lines on standard error, or the text of a
+/// DatabaseFailure.
 class OpenDatabase {
  public:
   /// Throws DatabaseFailure, which says how to make a database that is not there.
@@ -30,6 +31,10 @@ class OpenDatabase {
   ~OpenDatabase();
   OpenDatabase(const OpenDatabase&) = delete;
   OpenDatabase& operator=(const OpenDatabase&) = delete;
+
+  /// The version of the tables at the address, where it is not newer than this program. Throws DatabaseFailure for other tables and
+  /// for none.
+  static std::int32_t VersionToUpgrade(const DatabaseAddress& pobjAddress);
 
   const std::string& Name() const { return mstrName; }
   vantrel::Connection& Connection() { return *mAccess.Connection; }
@@ -44,7 +49,6 @@ class OpenDatabase {
   DatabaseFailure NoSuchWorkflow(std::int32_t plngId) const;
 
  private:
-  void Connect(const DatabaseAddress& pobjAddress);
   void CheckTables();
   DatabaseFailure Failure(const std::string& pstrWhat) const;
   // In the words of the engine, which names the database in most of its texts.
@@ -52,7 +56,7 @@ class OpenDatabase {
 
   std::string mstrName;
   std::vector<std::string> mMessages;  // of the work under way
-  MsgBoxPresenter mBefore;
+  MsgBoxScope mMessageScope;
   DesignerStateScope mStateBefore;  // reading makes what it reads the current workflow
   VNTRDB mAccess;
 };

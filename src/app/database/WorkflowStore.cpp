@@ -4,6 +4,7 @@
 #include "app/database/Deletion.h"
 #include "app/database/OpenDatabase.h"
 #include "database/TransactionScope.h"
+#include "persistence/ChartColor.h"
 #include "persistence/SavedMarks.h"
 #include "persistence/WholeSave.h"
 
@@ -28,11 +29,26 @@ SavedMarks MarksOf(const std::shared_ptr<Workflow>& pobjWorkflow) {
   return marks;
 }
 
-void SaveNew(OpenDatabase& pobjDatabase, const std::shared_ptr<Workflow>& pobjWorkflow) {
+// In one transaction; when it throws, ids and marks of change are put back by whoever changed them.
+void SaveChart(OpenDatabase& pobjDatabase, const std::shared_ptr<Workflow>& pobjWorkflow, std::optional<Color> plngBackColor) {
+  if (!plngBackColor) return SaveWhole(pobjDatabase.Access(), pobjWorkflow);
+  SavedMarks marks = MarksOf(pobjWorkflow);
+  try {
+    TransactionScope transaction(pobjDatabase.Connection(), Transaction::Write);
+    SaveWhole(pobjDatabase.Access(), pobjWorkflow);
+    SaveChartColor(pobjDatabase.Connection(), pobjWorkflow->RecId, *plngBackColor);
+    transaction.Commit();
+  } catch (...) {
+    marks.Restore();
+    throw;
+  }
+}
+
+void SaveNew(OpenDatabase& pobjDatabase, const std::shared_ptr<Workflow>& pobjWorkflow, std::optional<Color> plngBackColor) {
   SavedMarks marks = MarksOf(pobjWorkflow);
   ForgetRecords(*pobjWorkflow);
   try {
-    SaveWhole(pobjDatabase.Access(), pobjWorkflow);
+    SaveChart(pobjDatabase, pobjWorkflow, plngBackColor);
   } catch (...) {
     marks.Restore();
     throw;
@@ -48,19 +64,26 @@ std::vector<WorkflowListing> WorkflowStore::List() const {
   return listing;
 }
 
-std::shared_ptr<Workflow> WorkflowStore::Read(std::int32_t plngId) const { return OpenDatabase(mAddress).ReadWorkflow(plngId); }
+OpenedChart WorkflowStore::ReadChart(std::int32_t plngId) const {
+  OpenDatabase database(mAddress);
+  OpenedChart chart;
+  const TransactionScope moment(database.Connection(), Transaction::Read);
+  chart.Workflow = database.ReadWorkflow(plngId);
+  database.Do([&] { chart.BackColor = ReadChartColor(database.Connection(), plngId); });
+  return chart;
+}
 
-void WorkflowStore::Save(const std::shared_ptr<Workflow>& pobjWorkflow) const {
+void WorkflowStore::Save(const std::shared_ptr<Workflow>& pobjWorkflow, std::optional<Color> plngBackColor) const {
   OpenDatabase database(mAddress);
   database.Do([&] {
-    if (pobjWorkflow->RecId != 0 && !IsThere(database, pobjWorkflow->RecId)) return SaveNew(database, pobjWorkflow);
-    SaveWhole(database.Access(), pobjWorkflow);
+    if (pobjWorkflow->RecId != 0 && !IsThere(database, pobjWorkflow->RecId)) return SaveNew(database, pobjWorkflow, plngBackColor);
+    SaveChart(database, pobjWorkflow, plngBackColor);
   });
 }
 
-void WorkflowStore::SaveAsNew(const std::shared_ptr<Workflow>& pobjWorkflow) const {
+void WorkflowStore::SaveAsNew(const std::shared_ptr<Workflow>& pobjWorkflow, std::optional<Color> plngBackColor) const {
   OpenDatabase database(mAddress);
-  database.Do([&] { SaveNew(database, pobjWorkflow); });
+  database.Do([&] { SaveNew(database, pobjWorkflow, plngBackColor); });
 }
 
 void WorkflowStore::Delete(std::int32_t plngId) const {

@@ -129,12 +129,12 @@ bool FileCommands::Save() { return SaveBy(&WorkflowStore::Save); }
 
 bool FileCommands::SaveAsNew() { return SaveBy(&WorkflowStore::SaveAsNew); }
 
-bool FileCommands::SaveBy(void (WorkflowStore::*pSave)(const std::shared_ptr<Workflow>&) const) {
+bool FileCommands::SaveBy(void (WorkflowStore::*pSave)(const std::shared_ptr<Workflow>&, std::optional<Color>) const) {
   mobjWidget.View().FinishEditing();
   const auto workflow = mobjWidget.Control().Workflow();
   if (!workflow) return false;
   const auto before = workflow->RecId;
-  const bool isDone = Try(QString("Cannot save %1.").arg(ShownName()), [&] { (mobjStore.*pSave)(workflow); });
+  const bool isDone = Try(QString("Cannot save %1.").arg(ShownName()), [&] { (mobjStore.*pSave)(workflow, std::nullopt); });
   workflow->Dirty(!isDone);
   if (!isDone) return false;
   mstrFile.clear();

@@ -52,7 +52,7 @@ class FileCommands final : public QObject {
 
  private:
   bool Try(const QString& pstrWhat, const std::function<void()>& pWork);
-  bool SaveBy(void (WorkflowStore::*pSave)(const std::shared_ptr<Workflow>&) const);
+  bool SaveBy(void (WorkflowStore::*pSave)(const std::shared_ptr<Workflow>&, std::optional<Color>) const);
   QString AskForFile(const QString& pstrTitle, const QString& pstrFilter, const QString& pstrSuffix);
   void Export(const QString& pstrFile);
 

@@ -25,4 +25,12 @@ void CreatePostgres(const std::string& pstrAddress, const std::string& pstrSchem
   session.Commit();
 }
 
+void UpgradePostgres(const std::string& pstrAddress, const std::string& pstrScript) {
+  PostgresSession session(PostgresOptions().LockTimeout);
+  session.Open(pstrAddress);
+  session.Begin(Transaction::Write);
+  session.RunScript(pstrScript);
+  session.Commit();
+}
+
 }  // namespace vantrel

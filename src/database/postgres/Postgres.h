@@ -24,4 +24,7 @@ std::shared_ptr<Connection> OpenPostgres(const std::string& pstrAddress, Postgre
 /// of the system's tables already. The user of the address needs the right to create tables.
 void CreatePostgres(const std::string& pstrAddress, const std::string& pstrSchema);
 
+/// Runs the script in one transaction, which other writers wait for. Throws an Error for a refused statement, and nothing was changed.
+void UpgradePostgres(const std::string& pstrAddress, const std::string& pstrScript);
+
 }  // namespace vantrel

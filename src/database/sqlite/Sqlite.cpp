@@ -77,6 +77,12 @@ void MakeFile(const std::string& pstrPath, const std::string& pstrSchema) {
   }
 }
 
+std::string Inserted(std::string pstrScript, const std::string& pstrSchema) {
+  constexpr std::string_view kMark = "-- (schema)\n";
+  const auto at = pstrScript.find(kMark);
+  return at == std::string::npos ? pstrScript : pstrScript.replace(at, kMark.size(), pstrSchema);
+}
+
 }  // namespace
 
 std::shared_ptr<Connection> OpenSqlite(const std::string& pstrPath, SqliteOptions pOptions) {
@@ -94,6 +100,19 @@ void CreateSqlite(const std::string& pstrPath, const std::string& pstrSchema) {
     session.Rollback();
     throw;
   }
+}
+
+void UpgradeSqlite(const std::string& pstrPath, const std::string& pstrScript, const std::string& pstrSchema) {
+  SqliteSession session({});
+  session.Open(pstrPath);
+  session.CheckForeignKeys(false);
+  session.Begin(Transaction::Write);
+  session.RunScript(Inserted(pstrScript, pstrSchema));
+  const auto faults = session.Query({"SELECT \"table\" FROM pragma_foreign_key_check", {}, false});
+  if (!faults.Values.empty()) {
+    throw Error(vntErrDatabase, "The database \"" + pstrPath + "\" has rows in " + faults.Values.front().ToText() + " that no key allows.");
+  }
+  session.Commit();
 }
 
 }  // namespace vantrel

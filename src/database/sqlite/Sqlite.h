@@ -20,4 +20,8 @@ std::shared_ptr<Connection> OpenSqlite(const std::string& pstrPath, SqliteOption
 /// Throws Error vntErrDatabase also when the database has the tables already.
 void CreateSqlite(const std::string& pstrPath, const std::string& pstrSchema);
 
+/// Runs the script over the tables of an existing file, with the schema in the place of its line "-- (schema)": all or nothing.
+/// Foreign keys are checked once, at the end. Throws an Error for a refused statement and for rows that no key allows.
+void UpgradeSqlite(const std::string& pstrPath, const std::string& pstrScript, const std::string& pstrSchema);
+
 }  // namespace vantrel

@@ -81,7 +81,7 @@ void SqliteSession::Configure() {
   // An unknown name is an error and not a text.
   sqlite3_db_config(mobjDatabase, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
   sqlite3_db_config(mobjDatabase, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
-  sqlite3_db_config(mobjDatabase, SQLITE_DBCONFIG_ENABLE_FKEY, 1, nullptr);
+  CheckForeignKeys(true);
   sqlite3_db_config(mobjDatabase, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
 }
 
@@ -178,11 +178,17 @@ void SqliteSession::RunScript(const std::string& pstrScript) {
   }
 }
 
+void SqliteSession::CheckForeignKeys(bool pblnOn) { sqlite3_db_config(mobjDatabase, SQLITE_DBCONFIG_ENABLE_FKEY, pblnOn ? 1 : 0, nullptr); }
+
 void SqliteSession::RunText(const char* pstrText) { Check(sqlite3_exec(mobjDatabase, pstrText, nullptr, nullptr, nullptr)); }
 
 void SqliteSession::Begin(Transaction pTransaction) {
   if (!IsOpen()) throw Error(vntErrObjectClosed);
-  if (pTransaction == Transaction::Write) return RunText("BEGIN IMMEDIATE");
+  if (pTransaction == Transaction::Write) {
+    // SQLite itself would begin, and refuse every change.
+    if (sqlite3_db_readonly(mobjDatabase, "main") == 1) throw SqliteError(nullptr, SQLITE_READONLY, mstrPath);
+    return RunText("BEGIN IMMEDIATE");
+  }
   RunText("BEGIN");
   try {
     RunText(kReadSomething);  // from here on the state is the same one

@@ -31,6 +31,8 @@ class SqliteSession final : public Session {
   EngineRows Query(const EngineStatement& pobjStatement) override;
   std::int32_t Insert(const EngineStatement& pobjStatement) override;
   void RunScript(const std::string& pstrScript) override;
+  /// Outside a transaction. They are checked from the opening on.
+  void CheckForeignKeys(bool pblnOn);
 
   void Begin(Transaction pTransaction) override;
   void Commit() override;
