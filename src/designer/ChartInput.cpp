@@ -22,8 +22,10 @@ namespace {
 // Does what an event asks for and shows the user what goes wrong. False when the control is gone by then, and its input with it.
 bool Serve(Vantrel& pobjControl, const std::function<void()>& pServe) {
   const Ref<Vantrel> control(&pobjControl);
-  const ControlScope scope(pobjControl);
-  ShowErrors(pServe);
+  ShowErrors([&] {
+    const ControlScope scope(pobjControl);
+    pServe();
+  });
   return static_cast<bool>(control);
 }
 
@@ -58,12 +60,11 @@ void ChartInput::Press(const PointerInput& pobjInput) {
     if (pobjInput.Button != vntLeftButton) return;
     Abandon();
   }
-  std::shared_ptr<Gesture> gesture;
-  const bool lives = Serve(mobjControl, [&] {
+  Serve(mobjControl, [&] {
     mobjControl.FocusFrame.CancelEdit();
-    gesture = PressAt(mobjControl, pobjInput);
+    // Null also when a menu, or a host that a transition's action asked, has ended the control.
+    if (const auto gesture = PressAt(mobjControl, pobjInput)) mobjGesture = gesture;
   });
-  if (lives) mobjGesture = gesture;
 }
 
 void ChartInput::Move(const PointerInput& pobjInput) {

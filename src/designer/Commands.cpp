@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "designer/CommandRules.h"
+#include "designer/HostEvents.h"
 #include "designer/Vantrel.h"
 #include "util/MsgBox.h"
 
@@ -15,7 +16,11 @@ namespace {
 void ReplaceWorkflow(Vantrel& pobjControl) {
   const Ref<Vantrel> control(&pobjControl);
   const auto ask = pobjControl.MayReplaceWorkflow;
-  if ((!ask || ask()) && control) control->NewWorkflow();
+  if (ask) {
+    const HostTurn turn;
+    if (!ask()) return;
+  }
+  if (control) control->NewWorkflow();
 }
 
 void ToggleLock(Vantrel& pobjControl) {

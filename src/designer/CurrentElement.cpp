@@ -1,6 +1,7 @@
 #include "designer/CurrentElement.h"
 
 #include "designer/ChartObjects.h"
+#include "designer/HostEvents.h"
 #include "designer/Selecting.h"
 #include "designer/StillShown.h"
 
@@ -51,7 +52,7 @@ void CurrentElement::Set(const Ref<Element>& pobjElement) {
   if (!object) throw Error(vntErrObjectNotSet);
   if (!IsSelected(*object)) Selecting(mobjControl).Add(object);
   const StillShown shown(mobjControl);
-  mobjControl.OnSelected.Raise(*object);
+  RaiseForObject(mobjControl, &Vantrel::OnSelected, object);
   if (!shown || !element) return;
   if (mobjControl.UseMode() == vntDesign) Mark(*element, object);
   mobjControl.mobjCurrentControl = element;

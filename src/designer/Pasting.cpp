@@ -10,6 +10,7 @@
 #include "designer/Deleting.h"
 #include "designer/ElementBinding.h"
 #include "designer/FreeNames.h"
+#include "designer/HostEvents.h"
 #include "designer/StillShown.h"
 
 namespace vantrel {
@@ -159,7 +160,7 @@ void Pasting::Paste() {
   mobjControl.Refresh();
   const auto pasted = mobjControl.Selection();
   mobjWorkflow->Dirty(true);
-  if (shown) mobjControl.OnPasted.Raise(pasted);
+  if (shown) RaiseLater(mobjControl, &Vantrel::OnPasted, pasted);
 }
 
 }  // namespace vantrel

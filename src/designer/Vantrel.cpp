@@ -58,9 +58,8 @@ void Vantrel::UseMode(UseModeConstant pintMode) {
 std::string Vantrel::UseModeName(std::int32_t plngMode) { return ControlProperties::UseModeName(plngMode); }
 
 void Vantrel::Dirty(bool pblnDirty) {
-  const ControlScope scope(*this);
   mblnDirty = pblnDirty;
-  OnDirtyChange.Raise(pblnDirty);
+  RaiseLater(*this, &Vantrel::OnDirtyChange, pblnDirty);
 }
 
 bool Vantrel::ShowWeights() const { return mWorkflow && mWorkflow->ShowWeights; }
@@ -260,12 +259,16 @@ MenuItem& Vantrel::RoleMenu() { return mobjMenus->Role(); }
 
 void Vantrel::ShowDesignMenu() {
   const auto menus = mobjMenus;
-  mobjToolkit.ShowPopup(DesignMenu());
+  MenuItem& menu = DesignMenu();
+  const HostTurn turn;
+  mobjToolkit.ShowPopup(menu);
 }
 
 void Vantrel::ShowTestMenu() {
   const auto menus = mobjMenus;
-  mobjToolkit.ShowPopup(TestMenu());
+  MenuItem& menu = TestMenu();
+  const HostTurn turn;
+  mobjToolkit.ShowPopup(menu);
 }
 
 void Vantrel::ShowObjectProperties() {
@@ -274,6 +277,7 @@ void Vantrel::ShowObjectProperties() {
   const auto dialogs = Dialogs;
   auto object = mobjCurrentControl ? GetVNTRObject(mobjCurrentControl->Tag()) : nullptr;
   if (const auto vector = std::dynamic_pointer_cast<Vector>(object)) object = vector->Arc().Lock();
+  const HostTurn turn;
   dialogs->ShowProperties(*this, object ? *object : *this);
 }
 

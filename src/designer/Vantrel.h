@@ -156,15 +156,21 @@ class Vantrel final : public ModelObject {
   void Resize(float psngWidth, float psngHeight);
   Toolkit& Tools() const { return mobjToolkit; }
 
+  // Events wait until the outermost call of a control is over, and come in the order in which they were raised: listeners find the
+  // operation done, and may do anything, closing the control included, which then tells nothing more. What the host does to the model
+  // itself is told at once. What a listener throws reaches whoever made the call, after everybody was told; users see it in a message box.
+  // While a listener runs an event loop, calls made from there tell what waits when they end.
+  // These two come in the middle of a firing, which needs their effect:
   Event<const std::string&, const std::shared_ptr<Transition>&> OnRunCommand;  ///< an action for the host to run
+  Event<const std::shared_ptr<Place>&, const std::shared_ptr<Token>&> OnTokenAdded;
+
   Event<const std::shared_ptr<vantrel::Object>&, std::int16_t, std::int16_t, float, float>
       OnObjectDragDrop;                 ///< pobjDragObject, Button, Shift, X, y: let go over the background
   Event<const std::string&> OnMessage;  ///< never raised
   Event<const std::shared_ptr<Transition>&> OnTransitionDblClick;
-  Event<const std::shared_ptr<Place>&, const std::shared_ptr<Token>&> OnTokenAdded;
   Event<const std::shared_ptr<vantrel::Object>&, const std::shared_ptr<vantrel::Object>&> OnObjectDropped;  ///< target, source
   Event<const std::shared_ptr<Transition>&, const std::string&> OnContentsClick;
-  /// The object selected or right-clicked; the control itself for the background.
+  /// The object selected or right-clicked; the control itself for the background. It lives as long as listeners are told of it.
   Event<ModelObject&> OnSelected, OnRightClick;
   Event<const std::shared_ptr<ObjectCollection>&> OnPasted;
   Event<const std::shared_ptr<Arc>&> OnArcInserted;

@@ -1,8 +1,7 @@
 #include "designer/gestures/ArcCompletion.h"
 
-#include "designer/Vantrel.h"
+#include "designer/HostEvents.h"
 #include "designer/gestures/ElementUnder.h"
-#include "util/MsgBox.h"
 
 namespace vantrel {
 
@@ -11,7 +10,7 @@ namespace {
 std::shared_ptr<Arc> Join(const Ref<Vantrel>& pobjControl, const std::shared_ptr<Node>& pobjTarget) {
   const auto start = pobjControl->Workflow()->StartPlace;
   if (start && pobjTarget.get() == start.get()) {
-    MsgBox("Arcs are allowed to be drawn into a Start Place.");
+    SayLater(*pobjControl, "Arcs are allowed to be drawn into a Start Place.");
     return nullptr;
   }
   const auto current = pobjControl->CurrentControl();
@@ -43,7 +42,7 @@ void CompleteArc(Vantrel& pobjControl, Image& pobjTarget) {
     throw;
   }
   EndDrawing(control);
-  if (arc && control) control->OnArcInserted.Raise(arc);
+  if (arc && control) RaiseLater(*control, &Vantrel::OnArcInserted, arc);
 }
 
 }  // namespace vantrel

@@ -1,7 +1,7 @@
 #include "designer/gestures/DoubleClicks.h"
 
 #include "designer/Dialogs.h"
-#include "designer/Vantrel.h"
+#include "designer/HostEvents.h"
 #include "designer/gestures/ElementUnder.h"
 #include "designer/gestures/Hover.h"
 
@@ -11,12 +11,13 @@ namespace {
 
 bool OpenObject(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjObject) {
   if (const auto transition = std::dynamic_pointer_cast<Transition>(pobjObject)) {
-    pobjControl.OnTransitionDblClick.Raise(transition);
+    RaiseLater(pobjControl, &Vantrel::OnTransitionDblClick, transition);
     return true;
   }
   const auto place = std::dynamic_pointer_cast<Place>(pobjObject);
   if (!place || !IsTesting(pobjControl)) return false;
   const auto dialogs = pobjControl.Dialogs;
+  const HostTurn turn;
   dialogs->ShowTokens(pobjControl, *place);
   return true;
 }

@@ -1,5 +1,5 @@
 // A press on an object image takes the object or one of its connectors, plays with it while testing, or asks for the pop-up.
-#include "designer/Vantrel.h"
+#include "designer/HostEvents.h"
 #include "designer/gestures/ArcCompletion.h"
 #include "designer/gestures/ConnectorGesture.h"
 #include "designer/gestures/ElementUnder.h"
@@ -47,7 +47,7 @@ void SelectClicked(const Target& pobjTarget) {
   if (!pobjTarget.IsAlive()) return;
   pobjTarget.Control->CurrentObject(pobjTarget.Node);
   pobjTarget.Control->CurrentControl(pobjTarget.Node->Image.get());
-  if (pobjTarget.Control) pobjTarget.Control->OnRightClick.Raise(*pobjTarget.Node);
+  if (pobjTarget.Control) RaiseForObject(*pobjTarget.Control, &Vantrel::OnRightClick, pobjTarget.Node);
 }
 
 void AskForMenu(const Target& pobjTarget) {
