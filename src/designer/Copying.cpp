@@ -2,7 +2,6 @@
 
 #include <unordered_set>
 
-#include "designer/CopiedArcs.h"
 #include "designer/Selecting.h"
 
 namespace vantrel {
@@ -26,7 +25,6 @@ void Copying::Copy() {
     mobjControl.Clipboard = selection;
     AddInnerArcs(*selection);
   }
-  KeepPaths(*mobjControl.Clipboard);
 }
 
 }  // namespace vantrel

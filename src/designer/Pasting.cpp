@@ -38,8 +38,7 @@ void Pasting::RequireKeys(const Objects& pcolObjects) const {
   std::size_t segments = 0;
   for (const auto& object : pcolObjects) {
     const auto* arc = dynamic_cast<const Arc*>(object.get());
-    if (arc) arc = KeptPathOf(*arc);
-    if (arc) segments += arc->Segments().size();
+    if (arc) segments += arc->Path().size();
   }
   RequireKeysFor(pcolObjects.size(), mobjWorkflow->Places);
   RequireKeysFor(pcolObjects.size(), mobjWorkflow->Transitions);
@@ -113,8 +112,7 @@ void Pasting::PasteArc(const Arc& pobjFrom) {
   if (end == mCopies.end() || otherEnd == mCopies.end()) return;
   const auto place = std::static_pointer_cast<Place>(end->second);
   const auto transition = std::static_pointer_cast<Transition>(otherEnd->second);
-  const Arc* path = KeptPathOf(pobjFrom);
-  const auto arc = (path ? path : &pobjFrom)->Clone(mobjWorkflow, place, transition);
+  const auto arc = pobjFrom.Clone(mobjWorkflow, place, transition);
   const bool inward = arc->ArcDirection == vntInArc;
   (inward ? place->OutArcs : place->InArcs).Add(arc, arc->Key);
   (inward ? transition->InArcs : transition->OutArcs).Add(arc, arc->Key);
@@ -145,7 +143,6 @@ void Pasting::Paste() {
   Objects objects;  // as they are now: deleting and listeners change selection and clipboard
   for (const auto& object : *clipboard) objects.push_back(object);
   mobjWorkflow = mobjControl.Workflow() ? mobjControl.Workflow() : std::make_shared<Workflow>();
-  KeepPaths(*clipboard);
   RequirePictures(objects);
   RequireKeys(objects);
   ChooseNames(objects);

@@ -6,7 +6,6 @@
 #include <unordered_map>
 #include <vector>
 
-#include "designer/CopiedArcs.h"
 #include "designer/Vantrel.h"
 
 namespace vantrel {

@@ -83,7 +83,7 @@ void Selecting::SelectOnly(const std::shared_ptr<ModelObject>& pobjObject) {
   Add(pobjObject);
 }
 
-void Selecting::Forget(const std::vector<std::shared_ptr<ModelObject>>& pcolObjects) {
+void Selecting::Forget(const std::vector<std::shared_ptr<ChartObject>>& pcolObjects) {
   const auto before = mobjControl.mcolSelection;
   bool wasSelected = false;
   for (const auto& object : pcolObjects) {

@@ -19,7 +19,7 @@ class Selecting {
   void Add(const std::shared_ptr<ModelObject>& pobjObject);
   void SelectOnly(const std::shared_ptr<ModelObject>& pobjObject);
   /// Objects leave the workflow.
-  void Forget(const std::vector<std::shared_ptr<ModelObject>>& pcolObjects);
+  void Forget(const std::vector<std::shared_ptr<ChartObject>>& pcolObjects);
 
   /// Both empty without a workflow.
   static std::shared_ptr<ObjectCollection> All(const Workflow* pobjWorkflow);
