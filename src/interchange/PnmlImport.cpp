@@ -87,7 +87,9 @@ void WorkflowBuilder::AddNode(std::size_t plngNumber) {
 
 void WorkflowBuilder::AddPlace(const PnmlNode& pobjNode) {
   Workflow& workflow = *mResult.Workflow;
-  const auto place = workflow.NewPlace(mPlaceNames.Next());
+  const std::string name = mPlaceNames.Next();
+  const auto place = workflow.NewPlace(name);
+  place->AssignName(name);  // a section may say that it is empty
   if (pobjNode.InitialMarking > 0) mResult.Marking.push_back({place, pobjNode.InitialMarking});
   if (pobjNode.Border == PnmlBorder::Start) workflow.StartPlace = place;
   if (pobjNode.Border == PnmlBorder::End) workflow.EndPlace(place);
@@ -97,7 +99,9 @@ void WorkflowBuilder::AddPlace(const PnmlNode& pobjNode) {
 }
 
 void WorkflowBuilder::AddTransition(const PnmlNode& pobjNode) {
-  const auto transition = mResult.Workflow->NewTransition(mTransitionNames.Next());
+  const std::string name = mTransitionNames.Next();
+  const auto transition = mResult.Workflow->NewTransition(name);
+  transition->AssignName(name);
   if (pobjNode.Subnet) {
     const ImportedNet inner = WorkflowBuilder(*pobjNode.Subnet, mAssembly).Build();
     mResult.Skipped.insert(mResult.Skipped.end(), inner.Skipped.begin(), inner.Skipped.end());
