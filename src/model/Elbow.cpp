@@ -16,8 +16,7 @@ constexpr float kHandleSize = 6 * kTwipsPerPixel;  // of a handle that no chart 
 
 Elbow::Elbow() : Elbow(gobjVantrel->Workflow()) {}
 
-Elbow::Elbow(const Ref<Workflow>& pobjWorkflow)
-    : Handle((pobjWorkflow ? pobjWorkflow->Chart() : *gobjVantrel).NewHandle()) {
+Elbow::Elbow(const Ref<Workflow>& pobjWorkflow) : Handle((pobjWorkflow ? pobjWorkflow->Chart() : *gobjVantrel).NewHandle()) {
   Key = pobjWorkflow ? NextKey(pobjWorkflow->Elbows, "Elbow") : "Elbow1";
   if (Image* handle = Handle.get()) {
     handle->Tag(Key);
