@@ -18,7 +18,7 @@ constexpr int kAcross = 80, kDown = 64;  // pixels between nodes
 bool IsPlace(std::int64_t plngNode) { return (plngNode + plngNode / kColumns) % 2 == 0; }
 std::string IdOf(std::int64_t plngNode) { return "n" + std::to_string(plngNode); }
 
-// Ends of all arcs, six for five nodes: a place and a transition each, for neighbours in a row or a column differ in kind.
+// The ends of all arcs, six for five nodes. Neighbours in a row or a column differ in kind, so each arc joins a place and a transition.
 template <class Take>
 void ForEachArc(std::int64_t plngNodes, Take&& pTake) {
   std::int64_t left = plngNodes * 6 / 5;
