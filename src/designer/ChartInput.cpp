@@ -8,6 +8,7 @@
 #include "designer/Vantrel.h"
 #include "designer/gestures/DoubleClicks.h"
 #include "designer/gestures/Drops.h"
+#include "designer/gestures/ElementUnder.h"
 #include "designer/gestures/Gesture.h"
 #include "designer/gestures/Hover.h"
 #include "designer/gestures/Keys.h"
@@ -80,14 +81,20 @@ void ChartInput::Move(const PointerInput& pobjInput) {
 }
 
 void ChartInput::Release(const PointerInput& pobjInput) {
-  if (!mobjGesture || pobjInput.Button != vntLeftButton) return;
+  if (!mobjGesture || pobjInput.Button != vntLeftButton) return ReleaseIdly(pobjInput);
   if (!IsSomewhere(pobjInput)) return Abandon();
   const auto gesture = std::exchange(mobjGesture, nullptr);
   Serve(mobjControl, [&] { gesture->Release(pobjInput); });
 }
 
+void ChartInput::ReleaseIdly(const PointerInput& pobjInput) {
+  const Element* const element = IsSomewhere(pobjInput) ? ElementUnder(mobjControl, pobjInput.X, pobjInput.Y) : nullptr;
+  if (element && element->Family() == ctlImageFamily) mobjControl.FocusFrame.Visible(false);
+}
+
 void ChartInput::DoubleClick(const PointerInput& pobjInput) {
   if (pobjInput.Button != vntLeftButton || !IsSomewhere(pobjInput)) return;
+  if (mobjControl.Comfort.QuickPressEndsArc && mobjControl.IsInsertingArc()) return Press(pobjInput);
   bool isUsed = true;
   // Two presses in quick succession are no double-click where that means nothing.
   if (Serve(mobjControl, [&] { isUsed = DoubleClickAt(mobjControl, pobjInput); }) && !isUsed) Press(pobjInput);
@@ -101,7 +108,7 @@ bool ChartInput::Key(std::int16_t pintCode, std::int16_t pintShift) {
     return pintCode == kEscapeKey;
   }
   if (pintCode == kEscapeKey) Abandon();
-  Serve(mobjControl, [&] { isUsed = (frame.HasFocus() && frame.Key(pintCode)) || PressKey(mobjControl, pintCode, pintShift); });
+  Serve(mobjControl, [&] { isUsed = (frame.TakesKeys() && frame.Key(pintCode)) || PressKey(mobjControl, pintCode, pintShift); });
   return isUsed;
 }
 

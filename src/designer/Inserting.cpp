@@ -100,6 +100,7 @@ void Inserting::RemoveElbow() {
   arc->RemoveVector(vector);
   if (!shown) return;
   arc->RemoveFocus();
+  if (mobjControl.Comfort.ChosenIsSeen) mobjControl.Selection(nullptr);
   mobjControl.Dirty(true);
 }
 

@@ -11,6 +11,8 @@
 #include "designer/ElementBinding.h"
 #include "designer/FreeNames.h"
 #include "designer/HostEvents.h"
+#include "designer/PastePlace.h"
+#include "designer/Selecting.h"
 #include "designer/StillShown.h"
 
 namespace vantrel {
@@ -51,7 +53,9 @@ void Pasting::RequireKeys(const Objects& pcolObjects) const {
 // The names of what will be deleted are free.
 void Pasting::ChooseNames(const Objects& pcolObjects) {
   std::unordered_set<const ModelObject*> leaving;
-  for (const auto& object : Deleting(mobjControl).Doomed()) leaving.insert(object.get());
+  if (!mobjControl.Comfort.PasteKeepsOriginals) {
+    for (const auto& object : Deleting(mobjControl).Doomed()) leaving.insert(object.get());
+  }
   const auto leaves = [&](const ModelObject& object) { return leaving.contains(&object); };
   FreeNames places(mobjWorkflow->Places, leaves), transitions(mobjWorkflow->Transitions, leaves);
   for (const auto& object : pcolObjects) {
@@ -61,16 +65,12 @@ void Pasting::ChooseNames(const Objects& pcolObjects) {
   }
 }
 
-void Pasting::TakeCorner(const Objects& pcolObjects) {
-  float left = std::numeric_limits<float>::max(), top = left;
-  for (const auto& object : pcolObjects) {
-    const auto bounds = BoundsOf(*object);
-    if (!bounds) continue;
-    left = std::min(left, bounds->Left);
-    top = std::min(top, bounds->Top);
-  }
-  msngShiftX = left - mobjControl.CurrentX;
-  msngShiftY = top - mobjControl.CurrentY;
+void Pasting::ChoosePlace(const Objects& pcolObjects) {
+  const auto from = PastePlace::CornerOf(pcolObjects);
+  const PastePlace::Corner current{mobjControl.CurrentX, mobjControl.CurrentY};
+  const auto to = mobjControl.Comfort.PasteKeepsOriginals ? mobjControl.mobjPastePlace->Take(mobjControl) : current;
+  msngShiftX = from.Left - to.Left;
+  msngShiftY = from.Top - to.Top;
 }
 
 void Pasting::SelectCopy(const ModelObject& pobjFrom, const std::shared_ptr<ModelObject>& pobjCopy) {
@@ -136,6 +136,12 @@ void Pasting::PasteAll(const Objects& pcolObjects) {
   }
 }
 
+void Pasting::MakeRoom() {
+  if (!mobjControl.Comfort.PasteKeepsOriginals) return mobjControl.Delete();
+  mobjControl.CurrentControl(nullptr);
+  mobjControl.Selection(nullptr);
+}
+
 void Pasting::Paste() {
   const auto clipboard = mobjControl.Clipboard;
   if (!clipboard || clipboard->IsEmpty()) return;
@@ -146,14 +152,16 @@ void Pasting::Paste() {
   RequirePictures(objects);
   RequireKeys(objects);
   ChooseNames(objects);
-  TakeCorner(objects);
+  ChoosePlace(objects);
   const Ref<Vantrel> control(&mobjControl);
   if (!mobjControl.Workflow()) mobjControl.Workflow(mobjWorkflow);
   if (!control || mobjControl.Workflow() != mobjWorkflow) return;
   const StillShown shown(mobjControl);
-  mobjControl.Delete();
+  MakeRoom();
   if (!shown) return;
   PasteAll(objects);
+  Selecting(mobjControl).MakeSingleCurrent();
+  if (!shown) return;
   mobjControl.Refresh();
   const auto pasted = mobjControl.Selection();
   mobjWorkflow->Dirty(true);

@@ -14,6 +14,7 @@
 #include "designer/Deleting.h"
 #include "designer/ElementBinding.h"
 #include "designer/Inserting.h"
+#include "designer/PastePlace.h"
 #include "designer/Pasting.h"
 #include "designer/PopupMenus.h"
 #include "designer/Selecting.h"
@@ -32,6 +33,7 @@ Vantrel::Vantrel(Toolkit& pobjToolkit)
       mobjToolkit(pobjToolkit),
       mobjHost(std::make_unique<ControlHost>(*this)),
       mobjMenus(std::make_shared<PopupMenus>(*this)),
+      mobjPastePlace(std::make_unique<PastePlace>()),
       mcolSelection(std::make_shared<ObjectCollection>()) {
   mobjState->Host = mobjHost.get();
   BackColor(kWhite);
@@ -98,7 +100,7 @@ void Vantrel::CurrentControl(const Ref<Element>& pobjElement) {
 
 void Vantrel::Selection(const std::shared_ptr<ObjectCollection>& pcolObjects) {
   const ControlScope scope(*this);
-  Selecting(*this).Set(pcolObjects);
+  Selecting(*this).Replace(pcolObjects);
 }
 
 std::shared_ptr<ModelObject> Vantrel::GetVNTRObject(const std::string& pstrKey) const {
@@ -220,12 +222,14 @@ void Vantrel::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
   Deleting(*this).DeleteObject(pobjObject);
 }
 
-std::shared_ptr<ObjectCollection> Vantrel::GetSelections() const { return Selecting::InRectangle(mWorkflow.get(), MultiSelect.Area()); }
+std::shared_ptr<ObjectCollection> Vantrel::GetSelections() const {
+  return Selecting::InRectangle(mWorkflow.get(), MultiSelect.Area(), !Comfort.ChosenIsSeen);
+}
 
 std::shared_ptr<ObjectCollection> Vantrel::SelectAll() {
   const ControlScope scope(*this);
-  auto objects = Selecting::All(mWorkflow.get());
-  Selecting(*this).Set(objects);
+  auto objects = Selecting::All(mWorkflow.get(), !Comfort.ChosenIsSeen);
+  Selecting(*this).Replace(objects);
   return objects;
 }
 

@@ -8,6 +8,7 @@
 
 #include "chart/ChartSurface.h"
 #include "designer/ChartInput.h"
+#include "designer/Comfort.h"
 #include "designer/Dialogs.h"
 #include "designer/FocusFrame.h"
 #include "designer/ScrollBar.h"
@@ -21,6 +22,7 @@
 namespace vantrel {
 
 class ControlHost;
+class PastePlace;
 class PopupMenus;
 
 /// What a control's selection and clipboard hold: model objects under their keys.
@@ -53,6 +55,7 @@ class Vantrel final : public ModelObject {
   std::shared_ptr<vantrel::VNTRDB> VNTRDB;  ///< offered to the host; reads embedded workflows
   bool CaseTestingEnabled = false;          ///< GetProperties offers KeepHistory and CaseTracking, too
   bool EnablePopups = false, PropertyPopupEnabled = false;
+  vantrel::Comfort Comfort;                             ///< all off at first
   std::shared_ptr<vantrel::Object> DragObject;          ///< what the host drags over the chart
   std::shared_ptr<ObjectCollection> Clipboard;          ///< never null unless a host makes it so; outlives workflow changes
   std::shared_ptr<vantrel::Dialogs> Dialogs;            ///< never null; does nothing at first
@@ -191,6 +194,7 @@ class Vantrel final : public ModelObject {
   Toolkit& mobjToolkit;
   std::unique_ptr<ControlHost> mobjHost;  // what the model reaches as gobjVantrel
   std::shared_ptr<PopupMenus> mobjMenus;  // shared: an entry of a menu that is open may end the control
+  std::unique_ptr<PastePlace> mobjPastePlace;
   std::shared_ptr<vantrel::Workflow> mWorkflow;
   Subscription mTokenAdded;
   std::shared_ptr<ObjectCollection> mcolSelection;

@@ -64,7 +64,10 @@ void Notation::Visible(bool pblnOn) {
 }
 
 void Notation::Selected(bool pblnOn) {
-  if (TextControl) TextControl->BorderStyle(pblnOn ? std::int16_t{1} : BorderStyle);
+  if (TextControl) {
+    TextControl->BorderStyle(pblnOn ? std::int16_t{1} : BorderStyle);
+    TextControl->Marked(pblnOn);  // a note may have a border anyway
+  }
   mblnSelected = pblnOn;
 }
 

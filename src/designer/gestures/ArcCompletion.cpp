@@ -25,11 +25,17 @@ void EndDrawing(const Ref<Vantrel>& pobjControl) {
   if (pobjControl) pobjControl->Selection(nullptr);
 }
 
+// The user goes on from there.
+void Choose(const Ref<Vantrel>& pobjControl, const Ref<Element>& pobjElement) {
+  if (pobjControl && pobjControl->Comfort.ArcTargetIsChosen && IsOnChart(pobjElement)) pobjControl->CurrentControl(pobjElement);
+}
+
 }  // namespace
 
 void CompleteArc(Vantrel& pobjControl, Image& pobjTarget) {
   const Ref<Vantrel> control(&pobjControl);
   const auto target = std::dynamic_pointer_cast<Node>(ObjectOf(pobjControl, pobjTarget));
+  const Ref<Element> source = pobjControl.CurrentControl();
   std::shared_ptr<Arc> arc;
   try {
     if (target) arc = Join(control, target);
@@ -42,6 +48,7 @@ void CompleteArc(Vantrel& pobjControl, Image& pobjTarget) {
     throw;
   }
   EndDrawing(control);
+  Choose(control, arc ? Ref<Element>(target->Image.get()) : source);
   if (arc && control) RaiseLater(*control, &Vantrel::OnArcInserted, arc);
 }
 

@@ -2,6 +2,8 @@
 
 #include "designer/Dialogs.h"
 #include "designer/HostEvents.h"
+#include "designer/Vantrel.h"
+#include "designer/gestures/Choosing.h"
 #include "designer/gestures/ElementUnder.h"
 #include "designer/gestures/Hover.h"
 
@@ -22,10 +24,13 @@ bool OpenObject(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjOb
   return true;
 }
 
-void EditLabel(Vantrel& pobjControl, Element& pobjLabel) {
-  if (pobjControl.LockControls()) return;
-  FocusFrame& frame = pobjControl.FocusFrame;
-  if (!(frame.SelectedControl() == &pobjLabel)) frame.SelectedControl(&pobjLabel);
+void EditLabel(Vantrel& pobjControl, const Ref<Element>& pobjLabel) {
+  const Ref<Vantrel> control(&pobjControl);
+  if (control->LockControls()) return;
+  if (control->Comfort.ChosenIsSeen && !(control->CurrentControl() == pobjLabel)) ChooseAlone(*control, pobjLabel);
+  if (!control || !IsOnChart(pobjLabel)) return;
+  FocusFrame& frame = control->FocusFrame;
+  if (!(frame.SelectedControl() == pobjLabel)) frame.SelectedControl(pobjLabel);
   frame.Visible(true);
   frame.Edit();
 }
@@ -39,7 +44,7 @@ bool DoubleClickAt(Vantrel& pobjControl, const PointerInput& pobjInput) {
   if (element->Family() != ctlLabelFamily || pobjControl.UseMode() != vntDesign) {
     return OpenObject(pobjControl, ObjectOf(pobjControl, *element));
   }
-  EditLabel(pobjControl, *element);
+  EditLabel(pobjControl, element);
   return true;
 }
 

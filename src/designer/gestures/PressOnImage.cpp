@@ -32,7 +32,7 @@ std::shared_ptr<Gesture> BeginDrag(const Target& pobjTarget, const PointerInput&
 
 std::shared_ptr<Gesture> Take(const Target& pobjTarget, const PointerInput& pobjInput) {
   const auto& control = pobjTarget.Control;
-  const bool keepsSelection = pobjTarget.Node->Selected() && control->MultiSelectOn;
+  const bool keepsSelection = pobjTarget.Node->Selected() && (control->MultiSelectOn || control->Comfort.DragMovesChosen);
   if (!keepsSelection && !(pobjInput.Shift & vntShift)) control->Selection(nullptr);
   if (pobjTarget.Node->Image == pobjTarget.Image) {
     control->CurrentControl(pobjTarget.Image.get());
@@ -42,11 +42,11 @@ std::shared_ptr<Gesture> Take(const Target& pobjTarget, const PointerInput& pobj
   return pobjTarget.IsAlive() ? BeginDrag(pobjTarget, pobjInput) : nullptr;
 }
 
-// Behind the pop-up: its command may have deleted what was clicked.
+// After the pop-up, whose command may have deleted what was clicked, or inserted what is chosen now.
 void SelectClicked(const Target& pobjTarget) {
   if (!pobjTarget.IsAlive()) return;
   pobjTarget.Control->CurrentObject(pobjTarget.Node);
-  pobjTarget.Control->CurrentControl(pobjTarget.Node->Image.get());
+  if (!pobjTarget.Control->Comfort.RightClickChooses) pobjTarget.Control->CurrentControl(pobjTarget.Node->Image.get());
   if (pobjTarget.Control) RaiseForObject(*pobjTarget.Control, &Vantrel::OnRightClick, pobjTarget.Node);
 }
 
