@@ -1,6 +1,5 @@
 #include "designer/ControlProperties.h"
 
-#include "designer/HostEvents.h"
 #include "designer/StillShown.h"
 #include "model/DesignerState.h"
 #include "model/PropertyBuilder.h"
@@ -48,7 +47,7 @@ void ControlProperties::UseMode(UseModeConstant pintMode) {
       mobjControl.FocusFrame.Visible(false);
     }
   }
-  RaiseLater(mobjControl, &Vantrel::OnUseModeChange, pintMode);
+  mobjControl.OnUseModeChange.Raise(pintMode);
 }
 
 void ControlProperties::ShowOnArcs(bool Workflow::*pFlag, bool pblnOn) {
@@ -73,11 +72,7 @@ void ControlProperties::BackColor(Color plngColor) {
 void ControlProperties::ChooseBackColor() {
   const Ref<Vantrel> control(&mobjControl);
   const Color before = mobjControl.BackColor();
-  Color chosen = before;
-  {
-    const HostTurn turn;
-    chosen = ComDlg32(mobjControl.Tools()).SelectColor(before);
-  }
+  const Color chosen = ComDlg32(mobjControl.Tools()).SelectColor(before);
   if (control && chosen != before) BackColor(chosen);
 }
 

@@ -2,7 +2,7 @@
 
 #include <unordered_set>
 
-#include "designer/PastePlace.h"
+#include "designer/CopiedArcs.h"
 #include "designer/Selecting.h"
 
 namespace vantrel {
@@ -20,16 +20,13 @@ void Copying::AddInnerArcs(ObjectCollection& pcolObjects) const {
 
 void Copying::Copy() {
   const auto selection = mobjControl.Selection();
-  const bool isApart = selection->IsEmpty() || mobjControl.Comfort.PasteKeepsOriginals;
-  const auto copied = isApart ? std::make_shared<ObjectCollection>() : selection;
-  if (isApart) {
-    for (const auto& object : *selection) Selecting::AddTo(*copied, object);
+  if (selection->IsEmpty()) {
+    mobjControl.Clipboard = std::make_shared<ObjectCollection>();
+  } else {
+    mobjControl.Clipboard = selection;
+    AddInnerArcs(*selection);
   }
-  AddInnerArcs(*copied);
-  mobjControl.Clipboard = copied;
-  PastePlace::Objects objects;
-  for (const auto& object : *copied) objects.push_back(object);
-  mobjControl.mobjPastePlace->Copied(mobjControl, objects);
+  KeepPaths(*mobjControl.Clipboard);
 }
 
 }  // namespace vantrel

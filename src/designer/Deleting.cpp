@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "designer/ChartObjects.h"
+#include "designer/ObjectRemoval.h"
 #include "designer/Selecting.h"
 #include "designer/StillShown.h"
 
@@ -22,12 +23,13 @@ std::vector<std::shared_ptr<ModelObject>> Deleting::Doomed() const {
 void Deleting::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
   const auto object = pobjObject;  // NOLINT(performance-unnecessary-copy-initialization): it may be the selection's share, which goes
   const auto workflow = mobjControl.Workflow();
-  if (!workflow || !object) throw Error(vntErrObjectNotSet);
+  if (!workflow) throw Error(vntErrObjectNotSet);
   const StillShown shown(mobjControl);
   workflow->Dirty(true);
   if (!shown) return;
-  const auto chartObject = std::dynamic_pointer_cast<ChartObject>(object);
-  if (chartObject && chartObject->Kind() != ChartKind::Elbow) Selecting(mobjControl).Forget(workflow->Remove(chartObject));
+  ObjectRemoval removal(*workflow);
+  removal.Remove(object);
+  Selecting(mobjControl).Forget(removal.Removed());
   mobjControl.CurrentControl(nullptr);
   workflow->Dirty(true);
 }

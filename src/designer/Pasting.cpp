@@ -10,9 +10,6 @@
 #include "designer/Deleting.h"
 #include "designer/ElementBinding.h"
 #include "designer/FreeNames.h"
-#include "designer/HostEvents.h"
-#include "designer/PastePlace.h"
-#include "designer/Selecting.h"
 #include "designer/StillShown.h"
 
 namespace vantrel {
@@ -40,7 +37,8 @@ void Pasting::RequireKeys(const Objects& pcolObjects) const {
   std::size_t segments = 0;
   for (const auto& object : pcolObjects) {
     const auto* arc = dynamic_cast<const Arc*>(object.get());
-    if (arc) segments += arc->Path().size();
+    if (arc) arc = KeptPathOf(*arc);
+    if (arc) segments += arc->Segments().size();
   }
   RequireKeysFor(pcolObjects.size(), mobjWorkflow->Places);
   RequireKeysFor(pcolObjects.size(), mobjWorkflow->Transitions);
@@ -53,9 +51,7 @@ void Pasting::RequireKeys(const Objects& pcolObjects) const {
 // The names of what will be deleted are free.
 void Pasting::ChooseNames(const Objects& pcolObjects) {
   std::unordered_set<const ModelObject*> leaving;
-  if (!mobjControl.Comfort.PasteKeepsOriginals) {
-    for (const auto& object : Deleting(mobjControl).Doomed()) leaving.insert(object.get());
-  }
+  for (const auto& object : Deleting(mobjControl).Doomed()) leaving.insert(object.get());
   const auto leaves = [&](const ModelObject& object) { return leaving.contains(&object); };
   FreeNames places(mobjWorkflow->Places, leaves), transitions(mobjWorkflow->Transitions, leaves);
   for (const auto& object : pcolObjects) {
@@ -65,12 +61,16 @@ void Pasting::ChooseNames(const Objects& pcolObjects) {
   }
 }
 
-void Pasting::ChoosePlace(const Objects& pcolObjects) {
-  const auto from = PastePlace::CornerOf(pcolObjects);
-  const PastePlace::Corner current{mobjControl.CurrentX, mobjControl.CurrentY};
-  const auto to = mobjControl.Comfort.PasteKeepsOriginals ? mobjControl.mobjPastePlace->Take(mobjControl) : current;
-  msngShiftX = from.Left - to.Left;
-  msngShiftY = from.Top - to.Top;
+void Pasting::TakeCorner(const Objects& pcolObjects) {
+  float left = std::numeric_limits<float>::max(), top = left;
+  for (const auto& object : pcolObjects) {
+    const auto bounds = BoundsOf(*object);
+    if (!bounds) continue;
+    left = std::min(left, bounds->Left);
+    top = std::min(top, bounds->Top);
+  }
+  msngShiftX = left - mobjControl.CurrentX;
+  msngShiftY = top - mobjControl.CurrentY;
 }
 
 void Pasting::SelectCopy(const ModelObject& pobjFrom, const std::shared_ptr<ModelObject>& pobjCopy) {
@@ -112,7 +112,8 @@ void Pasting::PasteArc(const Arc& pobjFrom) {
   if (end == mCopies.end() || otherEnd == mCopies.end()) return;
   const auto place = std::static_pointer_cast<Place>(end->second);
   const auto transition = std::static_pointer_cast<Transition>(otherEnd->second);
-  const auto arc = pobjFrom.Clone(mobjWorkflow, place, transition);
+  const Arc* path = KeptPathOf(pobjFrom);
+  const auto arc = (path ? path : &pobjFrom)->Clone(mobjWorkflow, place, transition);
   const bool inward = arc->ArcDirection == vntInArc;
   (inward ? place->OutArcs : place->InArcs).Add(arc, arc->Key);
   (inward ? transition->InArcs : transition->OutArcs).Add(arc, arc->Key);
@@ -136,12 +137,6 @@ void Pasting::PasteAll(const Objects& pcolObjects) {
   }
 }
 
-void Pasting::MakeRoom() {
-  if (!mobjControl.Comfort.PasteKeepsOriginals) return mobjControl.Delete();
-  mobjControl.CurrentControl(nullptr);
-  mobjControl.Selection(nullptr);
-}
-
 void Pasting::Paste() {
   const auto clipboard = mobjControl.Clipboard;
   if (!clipboard || clipboard->IsEmpty()) return;
@@ -149,23 +144,22 @@ void Pasting::Paste() {
   Objects objects;  // as they are now: deleting and listeners change selection and clipboard
   for (const auto& object : *clipboard) objects.push_back(object);
   mobjWorkflow = mobjControl.Workflow() ? mobjControl.Workflow() : std::make_shared<Workflow>();
+  KeepPaths(*clipboard);
   RequirePictures(objects);
   RequireKeys(objects);
   ChooseNames(objects);
-  ChoosePlace(objects);
+  TakeCorner(objects);
   const Ref<Vantrel> control(&mobjControl);
   if (!mobjControl.Workflow()) mobjControl.Workflow(mobjWorkflow);
   if (!control || mobjControl.Workflow() != mobjWorkflow) return;
   const StillShown shown(mobjControl);
-  MakeRoom();
+  mobjControl.Delete();
   if (!shown) return;
   PasteAll(objects);
-  Selecting(mobjControl).MakeSingleCurrent();
-  if (!shown) return;
   mobjControl.Refresh();
   const auto pasted = mobjControl.Selection();
   mobjWorkflow->Dirty(true);
-  if (shown) RaiseLater(mobjControl, &Vantrel::OnPasted, pasted);
+  if (shown) mobjControl.OnPasted.Raise(pasted);
 }
 
 }  // namespace vantrel

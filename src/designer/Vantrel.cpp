@@ -14,7 +14,6 @@
 #include "designer/Deleting.h"
 #include "designer/ElementBinding.h"
 #include "designer/Inserting.h"
-#include "designer/PastePlace.h"
 #include "designer/Pasting.h"
 #include "designer/PopupMenus.h"
 #include "designer/Selecting.h"
@@ -33,7 +32,6 @@ Vantrel::Vantrel(Toolkit& pobjToolkit)
       mobjToolkit(pobjToolkit),
       mobjHost(std::make_unique<ControlHost>(*this)),
       mobjMenus(std::make_shared<PopupMenus>(*this)),
-      mobjPastePlace(std::make_unique<PastePlace>()),
       mcolSelection(std::make_shared<ObjectCollection>()) {
   mobjState->Host = mobjHost.get();
   BackColor(kWhite);
@@ -60,8 +58,9 @@ void Vantrel::UseMode(UseModeConstant pintMode) {
 std::string Vantrel::UseModeName(std::int32_t plngMode) { return ControlProperties::UseModeName(plngMode); }
 
 void Vantrel::Dirty(bool pblnDirty) {
+  const ControlScope scope(*this);
   mblnDirty = pblnDirty;
-  RaiseLater(*this, &Vantrel::OnDirtyChange, pblnDirty);
+  OnDirtyChange.Raise(pblnDirty);
 }
 
 bool Vantrel::ShowWeights() const { return mWorkflow && mWorkflow->ShowWeights; }
@@ -100,7 +99,7 @@ void Vantrel::CurrentControl(const Ref<Element>& pobjElement) {
 
 void Vantrel::Selection(const std::shared_ptr<ObjectCollection>& pcolObjects) {
   const ControlScope scope(*this);
-  Selecting(*this).Replace(pcolObjects);
+  Selecting(*this).Set(pcolObjects);
 }
 
 std::shared_ptr<ModelObject> Vantrel::GetVNTRObject(const std::string& pstrKey) const {
@@ -222,14 +221,12 @@ void Vantrel::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
   Deleting(*this).DeleteObject(pobjObject);
 }
 
-std::shared_ptr<ObjectCollection> Vantrel::GetSelections() const {
-  return Selecting::InRectangle(mWorkflow.get(), MultiSelect.Area(), !Comfort.ChosenIsSeen);
-}
+std::shared_ptr<ObjectCollection> Vantrel::GetSelections() const { return Selecting::InRectangle(mWorkflow.get(), MultiSelect.Area()); }
 
 std::shared_ptr<ObjectCollection> Vantrel::SelectAll() {
   const ControlScope scope(*this);
-  auto objects = Selecting::All(mWorkflow.get(), !Comfort.ChosenIsSeen);
-  Selecting(*this).Replace(objects);
+  auto objects = Selecting::All(mWorkflow.get());
+  Selecting(*this).Set(objects);
   return objects;
 }
 
@@ -263,16 +260,12 @@ MenuItem& Vantrel::RoleMenu() { return mobjMenus->Role(); }
 
 void Vantrel::ShowDesignMenu() {
   const auto menus = mobjMenus;
-  MenuItem& menu = DesignMenu();
-  const HostTurn turn;
-  mobjToolkit.ShowPopup(menu);
+  mobjToolkit.ShowPopup(DesignMenu());
 }
 
 void Vantrel::ShowTestMenu() {
   const auto menus = mobjMenus;
-  MenuItem& menu = TestMenu();
-  const HostTurn turn;
-  mobjToolkit.ShowPopup(menu);
+  mobjToolkit.ShowPopup(TestMenu());
 }
 
 void Vantrel::ShowObjectProperties() {
@@ -281,7 +274,6 @@ void Vantrel::ShowObjectProperties() {
   const auto dialogs = Dialogs;
   auto object = mobjCurrentControl ? GetVNTRObject(mobjCurrentControl->Tag()) : nullptr;
   if (const auto vector = std::dynamic_pointer_cast<Vector>(object)) object = vector->Arc().Lock();
-  const HostTurn turn;
   dialogs->ShowProperties(*this, object ? *object : *this);
 }
 

@@ -7,9 +7,9 @@
 
 #include "chart/Image.h"
 #include "chart/Label.h"
-#include "model/ChartObject.h"
 #include "model/Enumerations.h"
 #include "model/Forward.h"
+#include "model/ModelObject.h"
 #include "util/Collection.h"
 #include "util/Ref.h"
 
@@ -19,8 +19,9 @@ class Recordset;
 
 /// An object of the net with a picture, a caption and two connectors. Owned by its workflow's collection; its chart
 /// elements belong to the chart. Positions and sizes are twips.
-class Node : public ChartObject {
+class Node : public ModelObject, public std::enable_shared_from_this<Node> {
  public:
+  std::string Key;                                ///< key in the workflow's collection
   Ref<vantrel::Workflow> Workflow;                ///< owning workflow, nothing once it is gone
   Collection<Arc> InArcs, OutArcs;                ///< arcs into and out of this object, keyed by Arc::Key
   Ref<vantrel::Image> Image;                      ///< the object's picture on the chart
@@ -42,16 +43,13 @@ class Node : public ChartObject {
   float Left() const { return mLeft; }
   void Left(float psngLeft);
   /// Both at once, redrawn once.
-  void MoveTo(float psngLeft, float psngTop) override;
-  std::optional<Rect> Bounds() const override;
+  void MoveTo(float psngLeft, float psngTop);
 
   /// Sides of the connectors (ConnectorPosition). Setting one makes it the side of new objects, too, and redraws.
   std::int16_t InputPosition() const { return mInputPosition; }
   virtual void InputPosition(std::int16_t pintPosition);
   std::int16_t OutputPosition() const { return mOutputPosition; }
   void OutputPosition(std::int16_t pintPosition);
-  /// Stores both without making them the sides of new objects and without redrawing.
-  void AssignSides(std::int16_t pintInput, std::int16_t pintOutput);
 
   /// Setting it fits the label to the text, records its size and marks dirty.
   const std::string& Caption() const { return mCaption; }
@@ -66,8 +64,8 @@ class Node : public ChartObject {
   virtual void Visible(bool pblnOn) = 0;
 
   /// Shows a border round the image.
-  bool Selected() const override { return mSelected; }
-  void Selected(bool pblnOn) override;
+  bool Selected() const { return mSelected; }
+  void Selected(bool pblnOn);
 
   /// Brings the chart elements and the arcs to where the object's fields say.
   virtual void Draw() = 0;
@@ -75,8 +73,6 @@ class Node : public ChartObject {
  protected:
   /// Takes workflow, position and connector sides from the designer state.
   Node(const char* pstrEnabledImageKey, const char* pstrDisabledImageKey);
-  /// An object of that workflow: position and sides are those of the control that shows it, the usual ones when none does.
-  Node(const char* pstrEnabledImageKey, const char* pstrDisabledImageKey, vantrel::Workflow& pobjWorkflow);
 
   virtual void MarkDirty() = 0;
   /// Marks the owning workflow dirty, if there is one.

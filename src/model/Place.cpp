@@ -5,8 +5,9 @@
 #include "model/PropertyBuilder.h"
 #include "model/Workflow.h"
 #include "model/game/Arrival.h"
-#include "model/game/CaseIndex.h"
 #include "model/game/Departure.h"
+#include "model/game/TokenIndex.h"
+#include "model/game/TokenRules.h"
 #include "util/Lookup.h"
 #include "util/MsgBox.h"
 
@@ -14,16 +15,11 @@ namespace vantrel {
 
 namespace {
 
-constexpr const char* kEnabledImage = "PlaceGreen";
-constexpr const char* kDisabledImage = "Place";
 constexpr float kCountGap = 75;  // twips between the image and the token count under it
 
 }  // namespace
 
-Place::Place() : Node(kEnabledImage, kDisabledImage), TokenProperties(std::make_shared<PropertyCollection>()) {}
-
-Place::Place(vantrel::Workflow& pobjWorkflow)
-    : Node(kEnabledImage, kDisabledImage, pobjWorkflow), TokenProperties(std::make_shared<PropertyCollection>()) {}
+Place::Place() : Node("PlaceGreen", "Place"), TokenProperties(std::make_shared<PropertyCollection>()) {}
 
 Place::~Place() = default;
 
@@ -40,7 +36,12 @@ void Place::PutBack(const std::shared_ptr<Token>& pobjToken) {
 
 void Place::RemoveToken(const std::shared_ptr<Token>& pobjToken) {
   const DesignerCall call(Workflow);
-  TokenGame::Run<Departure>(Share(), pobjToken);
+  TokenGame::Run<Departure>(Share(), pobjToken, Departure::kByHand);
+}
+
+void Place::TokensChanged() {
+  TokenRules::Forget(*this);
+  if (auto* workflow = Workflow.get()) workflow->CountCaseChange();
 }
 
 void Place::TokenCount(float psngCount) {

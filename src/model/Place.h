@@ -7,16 +7,13 @@
 
 namespace vantrel {
 
-class CaseIndex;
+class TokenIndex;
 
 /// Holds tokens in order of arrival and draws itself as a picture with a caption, a token count and two connectors. Names
 /// the properties that tokens lying in it receive.
 class Place final : public Node {
  public:
-  /// A place as a control makes it: workflow, position and connector sides come from the designer state.
   Place();
-  /// What Workflow::NewPlace makes.
-  explicit Place(vantrel::Workflow& pobjWorkflow);
   ~Place() override;
 
   /// Definitions of the tokens' own properties; the place's own collection, never null unless a host makes it so.
@@ -29,7 +26,6 @@ class Place final : public Node {
   Event<const std::shared_ptr<Token>&> OnCaseFinished;
 
   std::string Class() const override { return "VNTR.Place.1"; }
-  ChartKind Kind() const override { return ChartKind::Place; }
 
   const std::shared_ptr<vantrel::Object>& Object() const { return mobjObject; }
   void Object(const std::shared_ptr<vantrel::Object>& pobjObject) { mobjObject = pobjObject; }
@@ -77,21 +73,25 @@ class Place final : public Node {
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
   /// A share in this place.
-  std::shared_ptr<Place> Share() { return ShareOf(*this); }
+  std::shared_ptr<Place> Share() { return std::static_pointer_cast<Place>(shared_from_this()); }
   /// A place of the same look and with copies of the token property definitions; the caller names and places it.
   std::shared_ptr<Place> Clone() const;
 
  private:
-  friend class Arrival;
-  friend class CaseIndex;
-  friend class Departure;
+  friend class CaseLink;
+  friend class TokenRules;
 
+  // Somebody gave a token another case or mark by hand.
+  void TokensChanged();
   void MarkDirty() override { mblnDirty = true; }
   void DrawCount();
   void Store(const std::string& pstrPropName, const Variant& pvarValue);
 
   Collection<Token> mcolTokens;
-  mutable std::unique_ptr<CaseIndex> mobjCases;  // only while many tokens lie here
+  // What TokenRules knows of the tokens, as of so many changes of the collection.
+  mutable std::unique_ptr<TokenIndex> mobjIndex;  // only while many tokens lie here
+  mutable std::uint64_t mlngKnownChanges = 0;
+  mutable std::int32_t mlngTaken = 0;  // tokens chosen by firings
   std::shared_ptr<vantrel::Object> mobjObject;
   float mTokenCount = 0;
   std::int32_t mRecId = 0;

@@ -1,5 +1,8 @@
 #include "model/Token.h"
 
+#include <cstddef>
+#include <type_traits>
+
 #include "model/Place.h"
 #include "model/WorkCase.h"
 #include "model/Workflow.h"
@@ -7,7 +10,21 @@
 
 namespace vantrel {
 
-Token::Token() : DateCreated(Date::Now()) {}
+void CaseLink::Report() const {
+  if (auto* place = mobjToken->Place.get()) place->TokensChanged();
+}
+
+CaseMark& CaseMark::operator=(bool pblnOn) {
+  mblnOn = pblnOn;
+  if (!mblnOfToken) return *this;
+  static_assert(std::is_standard_layout_v<CaseFields>);
+  const auto* const fields =
+      reinterpret_cast<const CaseFields*>(reinterpret_cast<const std::byte*>(this) - offsetof(CaseFields, mblnCaseEnabled));
+  fields->WorkCase.Report();
+  return *this;
+}
+
+Token::Token() : CaseFields(this), DateCreated(Date::Now()) {}
 
 Token::~Token() = default;
 
@@ -28,7 +45,6 @@ void Token::CustomProperties(const std::shared_ptr<PropertyCollection>& pcolProp
 
 void Token::CaseEnabled(bool pblnOn) {
   mblnCaseEnabled = pblnOn;
-  if (!pblnOn) CaseLink::CountChange();
   if (!pblnOn) return;
   if (auto* place = Place.get()) place->CaseEnabled(true);
 }

@@ -19,7 +19,7 @@ class SubflowRun;
 
 /// Lies in one place, may belong to a case, and remembers who made and who consumed it. Owned by its workflow and by the
 /// place that it lies in. A running net holds millions: its size is watched in bench/.
-class Token final : public ModelObject {
+class Token final : public ModelObject, public CaseFields {
  public:
   /// Dated now.
   Token();
@@ -27,7 +27,6 @@ class Token final : public ModelObject {
 
   KeyField<Token> Key;                ///< in the workflow's Tokens and the place's Tokens; "Token" and a number
   KeyField<Token> Name;               ///< equal to Key when nobody gave another
-  CaseLink WorkCase;                  ///< nothing for an anonymous token
   Ref<vantrel::Place> Place;          ///< where it lies
   Ref<Transition> CreateTransition;   ///< nothing for start tokens
   Ref<Transition> ConsumeTransition;  ///< nothing while it is not consumed
@@ -39,8 +38,7 @@ class Token final : public ModelObject {
   std::int32_t RecId = 0;
   std::int32_t CreateUserId = 0, ConsumeUserId = 0;
   TokenStatusConstant Status = txQueued;
-  bool mblnCaseEnabled = false;  ///< what CaseEnabled reads and sets; set it back to false through CaseEnabled
-  bool Dirty = false;            ///< changed since the last save
+  bool Dirty = false;  ///< changed since the last save
 
   std::string Class() const override { return "VNTR.Token.1"; }
   std::string NameText() const override { return Name; }
@@ -64,15 +62,16 @@ class Token final : public ModelObject {
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
  private:
-  friend class Departure;
   friend class Firing;
   friend class SubflowDelivery;
   friend class SubflowRun;
+  friend class TokenIndex;
   friend class TokenRules;
   friend class Workflow;
 
-  bool mblnTaken = false;                    // consumed by a firing whose subflow has not delivered yet: no other firing may use it
+  bool mblnTaken = false;                    // chosen by a firing: counts for no other one
   mutable bool mblnEmptyProperties = false;  // given a collection with nothing in it, which is made when somebody asks
+  std::uint32_t mlngArrival = 0;             // orders the tokens of a place that has an index
   mutable std::shared_ptr<PropertyCollection> mcolCustomProperties;
   Ref<SubflowRun> mobjRun;  // the subflow run that the token takes part in
 };

@@ -11,16 +11,7 @@
 
 namespace vantrel {
 
-namespace {
-
-constexpr const char* kEnabledPicture = "TransitionEnabled";
-constexpr const char* kDisabledPicture = "Transition";
-
-}  // namespace
-
-Transition::Transition() : Node(kEnabledPicture, kDisabledPicture) {}
-
-Transition::Transition(vantrel::Workflow& pobjWorkflow) : Node(kEnabledPicture, kDisabledPicture, pobjWorkflow) {}
+Transition::Transition() : Node("TransitionEnabled", "Transition") {}
 
 Transition::~Transition() {
   Subflow(nullptr);
@@ -65,7 +56,6 @@ void Transition::Fire(const std::shared_ptr<WorkCase>& pobjWorkCase) {
 
 bool Transition::SwitchEnabled(bool pblnEnabled) {
   mblnEnabled = pblnEnabled;
-  Draw();
   if (auto* workflow = Workflow.get()) {
     if (pblnEnabled) {
       workflow->FiringStack.AddIfMissing(Key, [this] { return Share(); });
@@ -73,12 +63,8 @@ bool Transition::SwitchEnabled(bool pblnEnabled) {
       workflow->FiringStack.RemoveIfThere(Key);
     }
   }
-  return pblnEnabled && mTriggerType == vntAutomatic;
-}
-
-void Transition::WaitAgain() {
-  auto* workflow = Workflow.get();
-  if (mblnEnabled && workflow) workflow->FiringStack.AddIfMissing(Key, [this] { return Share(); });
+  Draw();  // lets the user do things, which may switch it once more
+  return pblnEnabled && mblnEnabled && mTriggerType == vntAutomatic;
 }
 
 void Transition::Object(const std::shared_ptr<vantrel::Object>& pobjObject) {

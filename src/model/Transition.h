@@ -1,6 +1,7 @@
 // A transition of the net.
 #pragma once
 
+#include <list>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,16 +13,15 @@
 
 namespace vantrel {
 
+class Firing;
+class Reservation;
 class SubflowRun;
 
 /// Consumes a token from each input place and produces tokens by its output type. May embed another workflow, which it
 /// then runs as a subflow.
 class Transition final : public Node {
  public:
-  /// A transition as a control makes it: workflow, position and connector sides come from the designer state.
   Transition();
-  /// What Workflow::NewTransition makes.
-  explicit Transition(vantrel::Workflow& pobjWorkflow);
   /// Takes its elements off the chart.
   ~Transition() override;
 
@@ -40,7 +40,6 @@ class Transition final : public Node {
   Event<const std::string&, const std::shared_ptr<Transition>&> OnRunCommand;
 
   std::string Class() const override { return "VNTR.Transition.1"; }
-  ChartKind Kind() const override { return ChartKind::Transition; }
 
   using Node::Name;
   /// Without a workflow stores any name. In one, an empty name becomes the next free one, and a name that a transition
@@ -92,18 +91,25 @@ class Transition final : public Node {
   void AssignValues(const Recordset& pobjRow);
 
   /// A share in this transition.
-  std::shared_ptr<Transition> Share() { return ShareOf(*this); }
+  std::shared_ptr<Transition> Share() { return std::static_pointer_cast<Transition>(shared_from_this()); }
   /// A transition of the same look, types, action and embedded object, marked dirty; the caller names and places it.
   /// Throws Error 5 when that would put a workflow into itself.
   std::shared_ptr<Transition> Clone() const;
 
  private:
-  friend class Arrival;
+  friend class Enabling;
   friend class Firing;
   friend class FiringNext;
-  friend class Reevaluation;
+  friend class Reservation;
   friend class SubflowRun;
   friend class TokenGame;
+
+  // An enabling that failed only because of tokens that a firing had chosen: asked again when they stay after all.
+  struct HeldUp {
+    std::shared_ptr<WorkCase> Case;  // of the token that arrived
+    bool ByDeparture;                // not an arrival but a departure asked
+    bool operator==(const HeldUp&) const = default;
+  };
 
   void ReadSubflow();
   void MarkDirty() override { Dirty = true; }
@@ -111,8 +117,6 @@ class Transition final : public Node {
   void Store(const std::string& pstrPropName, const Variant& pvarValue);
   // Everything that setting Enabled does but the firing. True when the transition has to fire now.
   bool SwitchEnabled(bool pblnEnabled);
-  // Back on the firing stack, if FireNext took it off for a firing that the user then called off.
-  void WaitAgain();
   // Whether every input place passes. Asks first where the last question ended: a join of many branches is asked for each
   // token that arrives, and is usually held up by the same few inputs.
   template <class Passes>
@@ -120,8 +124,10 @@ class Transition final : public Node {
 
   std::shared_ptr<vantrel::Object> mobjObject;
   std::shared_ptr<vantrel::Workflow> mobjSubflow;
-  std::vector<std::shared_ptr<SubflowRun>> mcolRuns;  // firings whose subflow has not delivered yet, oldest first
-  std::int64_t mHeldUpAt = 0;                         // rank of the input arc that failed the last question of AllInputs
+  std::list<std::shared_ptr<SubflowRun>> mcolRuns;  // firings whose subflow has not delivered yet, oldest first
+  std::vector<HeldUp> mcolHeldUp;
+  Reservation* mobjReservations = nullptr;  // the newest of its firings' and runs' tokens
+  std::int64_t mHeldUpAt = 0;               // rank of the input arc that failed the last question of AllInputs
   std::int32_t mFiringsUnderWay = 0;
   std::int32_t mOutputsUnderWay = 0;  // firings, one inside the other, that are producing output now
   OutputTypes mOutputType = vntBroadcast;

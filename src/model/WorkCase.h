@@ -26,6 +26,20 @@ class WorkCase final : public Object {
   Date DateCreated, DateClosed;
   bool Dirty = false;
   std::shared_ptr<PropertyCollection> UserProperties;  ///< the host's; may be null
+
+ private:
+  friend class CaseLink;
+  // The tokens that belong to the case keep it alive together. A copy of the case has no tokens yet.
+  struct Ties {
+    Ties() = default;
+    Ties(const Ties&) {}
+    Ties& operator=(const Ties&) { return *this; }  // NOLINT(bugprone-unhandled-self-assignment): copies nothing
+    ~Ties() = default;
+
+    std::shared_ptr<WorkCase> Keeper;  // set while there are links
+    std::int64_t Links = 0;
+  };
+  Ties mTies;
 };
 
 }  // namespace vantrel

@@ -17,7 +17,7 @@ std::vector<std::shared_ptr<Token>> CaseTokens::Of(Workflow& pobjWorkflow, const
 }
 
 bool CaseTokens::OnlyGrew(const Workflow& pobjWorkflow) const {
-  if (!(mobjWorkflow == &pobjWorkflow) || mlngCaseChanges != CaseLink::Changes()) return false;
+  if (!(mobjWorkflow == &pobjWorkflow) || mlngCaseChanges != pobjWorkflow.CaseChanges()) return false;
   const auto& tokens = pobjWorkflow.Tokens;
   const std::uint64_t added = static_cast<std::uint64_t>(tokens.Count()) - mcolTokens.size();
   if (tokens.Changes() - mlngTokenChanges != added) return false;
@@ -35,7 +35,7 @@ void CaseTokens::Follow(Workflow& pobjWorkflow) {
     mlngLastRank = cursor.Rank();
   }
   mlngTokenChanges = tokens.Changes();
-  mlngCaseChanges = CaseLink::Changes();
+  mlngCaseChanges = pobjWorkflow.CaseChanges();
 }
 
 void CaseTokens::Forget() {

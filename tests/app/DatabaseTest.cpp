@@ -62,10 +62,12 @@ TEST(Deletion, EmbeddedWorkflowsGoWithTheLastThatEmbedsThem) {
 
 std::shared_ptr<Transition> AddTransition(Workflow& pobjWorkflow, const std::shared_ptr<Workflow>& pobjEmbedded,
                                           std::int32_t plngSubflowId) {
-  const auto transition = pobjWorkflow.NewTransition();
+  const auto transition = std::make_shared<Transition>();
+  transition->Workflow = &pobjWorkflow;
   transition->RecId = 7;
   transition->SubflowId = plngSubflowId;
   transition->Object(pobjEmbedded);
+  pobjWorkflow.Transitions.Add(transition);
   return transition;
 }
 

@@ -123,20 +123,19 @@ TEST_F(Loop, SelfLoopOverASubflowWhoseStartIsItsEndEndsInAnError) {
   EXPECT_EQ(ErrorOf(*ring.First), vntErrOutOfStack);
 }
 
-TEST_F(Loop, UserTransitionIsNotFiredAgainByItsOwnSubflow) {
-  const auto ring = MakeRing(*Host.Net, 1);
-  const auto subflow = MakeSubflow(true);
-  ring.Transitions[0]->Object(subflow);
-  ring.Transitions[0]->TriggerType(vntUser);
-  LimitTokensOf(*subflow);
+TEST_F(Loop, RingOfEmbeddingUserTransitionsEndsInAMessage) {
+  const auto ring = MakeRing(*Host.Net, 2);
+  for (const auto& transition : ring.Transitions) {
+    transition->TriggerType(vntUser);
+    transition->Object(MakeSubflow(true));
+  }
   PutToken(*ring.First);
 
   EXPECT_NO_THROW(Host.Net->FireNext());
 
-  EXPECT_TRUE(Messages.Texts.empty());
-  EXPECT_EQ(ring.First->Tokens().Count(), 1);
-  EXPECT_EQ(Host.Net->Tokens.Count(), 2);
-  EXPECT_EQ(Host.Net->FiringStack.First(), ring.Transitions[0]);
+  ASSERT_EQ(Messages.Texts.size(), 1U);
+  EXPECT_THAT(Messages.Texts[0], HasSubstr("\"T"));
+  EXPECT_GT(Host.Net->Tokens.Count(), 1000);
 }
 
 TEST_F(Loop, FireNextIntoALoopShowsOneMessageAndKeepsWhatWasMade) {

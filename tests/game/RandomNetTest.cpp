@@ -61,14 +61,19 @@ class ScriptedHost : public TestHost {
   Asks mAsk;
 };
 
+// What somebody does while a question stands; given something to draw from.
+using Meddles = std::function<void(Random& random)>;
+
 // The same answers to the same questions in the same order; the questions themselves go into the log.
-Asks Answers(unsigned pSeed, std::string& pLog) {
-  return [&pLog, random = Random(pSeed)](const std::string& prompt, const std::vector<std::string>& options) mutable {
+Asks Answers(unsigned pSeed, std::string& pLog, Meddles pMeddle) {
+  return [&pLog, pMeddle, random = Random(pSeed)](const std::string& prompt, const std::vector<std::string>& options) mutable {
     pLog += prompt;
     for (const auto& option : options) pLog += "/" + option;
+    if (Chance(random, 4)) pMeddle(random);
     const auto pick = random();
     std::optional<std::string> answer;
     if (pick % 5 != 0) answer = options.empty() ? "" : options[pick / 5 % options.size()];
+    if (pick % 7 == 0) answer = "none of them";
     return answer;
   };
 }
@@ -172,8 +177,8 @@ class Duel {
   explicit Duel(unsigned pSeed)
       : mRandom(pSeed),
         mPlan(RandomPlan(mRandom)),
-        mReal(mPlan, mCases, Answers(pSeed, mRealQuestions)),
-        mReference(mPlan, mCases, Answers(pSeed, mReferenceQuestions)) {}
+        mReal(mPlan, mCases, Answers(pSeed, mRealQuestions, [this](Random& random) { Meddle(mReal, random); })),
+        mReference(mPlan, mCases, Answers(pSeed, mReferenceQuestions, [this](Random& random) { Meddle(mReference, random); })) {}
 
   void Play() {
     if (Chance(mRandom, 8)) {
@@ -217,6 +222,18 @@ class Duel {
     }
   }
 
+  template <class Game>
+  void Meddle(Game& pGame, Random& pRandom) {
+    const auto place = Below(pRandom, mPlan.Places.size());
+    const int workCase = static_cast<int>(Below(pRandom, mCases.size() + 1)) - 1;
+    const auto deed = Below(pRandom, 4);
+    OutcomeOf(pGame, [&](auto& game) {
+      if (deed == 0) game.Remove(place, ReferenceGame::kNone);
+      if (deed == 1) game.FireNext(ReferenceGame::kNone);
+      if (deed > 1) game.Put(place, workCase);
+    });
+  }
+
   int AnyCase() { return static_cast<int>(Below(mRandom, mCases.size() + 1)) - 1; }
   void Put() {
     const auto place = Below(mRandom, mPlan.Places.size());
@@ -239,7 +256,7 @@ class Duel {
 };
 
 TEST(RandomNet, PlaysLikeThePlainRules) {
-  for (unsigned seed = 1; seed <= 400; ++seed) {
+  for (unsigned seed = 1; seed <= 300; ++seed) {
     SCOPED_TRACE("seed " + std::to_string(seed));
     Duel(seed).Play();
     if (testing::Test::HasFailure()) return;

@@ -10,7 +10,8 @@ ReferenceGame::ReferenceGame(NetPlan pPlan, std::vector<PlannedCase> pCases, Ask
       mCases(std::move(pCases)),
       mAsk(std::move(pAsk)),
       mPlaces(mPlan.Places.size()),
-      mEnabled(mPlan.Transitions.size()) {}
+      mEnabled(mPlan.Transitions.size()),
+      mUnderWay(mPlan.Transitions.size()) {}
 
 std::vector<std::size_t> ReferenceGame::ArcsOf(std::size_t pTransition, bool pblnInput) const {
   std::vector<std::size_t> arcs;
@@ -64,20 +65,54 @@ void ReferenceGame::Add(std::size_t pPlace, int pToken) {
   const int workCase = mTokens[pToken].Case;
   mPlaces[pPlace].Tokens.push_back(pToken);
   for (const auto transition : FedBy(pPlace)) {
-    const auto inputs = ArcsOf(transition, true);
-    const auto satisfied = std::count_if(inputs.begin(), inputs.end(), [&](std::size_t arc) {
-      const auto& held = mPlaces[mPlan.Arcs[arc].Place].Tokens;
-      return std::any_of(held.begin(), held.end(),
-                         [&](int token) { return !mPlan.CaseTracking || mTokens[token].Case == kNone || mTokens[token].Case == workCase; });
-    });
-    if (satisfied != static_cast<std::ptrdiff_t>(inputs.size())) continue;
-    Mark(transition, workCase);
-    SetEnabled(transition, true);
+    if (Arrived(transition, workCase)) SetEnabled(transition, true);
   }
   mLog += "+" + std::to_string(pPlace) + ":" + std::to_string(pToken + 1) + " ";
   if (pPlace + 1 != mPlaces.size()) return;
   if (!mPlan.KeepHistory) Remove(pPlace, pToken);
   mLog += "end:" + std::to_string(pToken + 1) + " ";
+}
+
+// A chosen token counts for nobody, unless the question is what would be without that.
+bool ReferenceGame::Passes(const Question& pQuestion, std::size_t pPlace, bool pblnTakenToo) const {
+  const auto& held = mPlaces[pPlace].Tokens;
+  return std::any_of(held.begin(), held.end(), [&](int index) {
+    const auto& token = mTokens[index];
+    if (token.TakenBy != kNone && !pblnTakenToo) return false;
+    if (!mPlan.CaseTracking) return true;
+    return pQuestion.ByDeparture ? token.Enabled : token.Case == kNone || token.Case == pQuestion.Case;
+  });
+}
+
+bool ReferenceGame::Complete(const Question& pQuestion, bool pblnTakenToo) const {
+  const auto inputs = ArcsOf(pQuestion.Transition, true);
+  return std::all_of(inputs.begin(), inputs.end(), [&](std::size_t arc) { return Passes(pQuestion, mPlan.Arcs[arc].Place, pblnTakenToo); });
+}
+
+bool ReferenceGame::Ask(const Question& pQuestion) {
+  const bool complete = Complete(pQuestion, false);
+  const bool heldUp = !complete && Complete(pQuestion, true);
+  const auto known = std::find(mHeldUp.begin(), mHeldUp.end(), pQuestion);
+  if (heldUp && known == mHeldUp.end()) mHeldUp.push_back(pQuestion);
+  if (!heldUp && known != mHeldUp.end()) mHeldUp.erase(known);
+  return complete;
+}
+
+bool ReferenceGame::Arrived(std::size_t pTransition, int pCase) {
+  if (!Ask({pTransition, pCase, false})) return false;
+  Mark(pTransition, pCase);
+  return true;
+}
+
+bool ReferenceGame::Left(std::size_t pTransition) {
+  const Question question{pTransition, kNone, true};
+  if (mPlan.CaseTracking) {
+    for (const auto arc : ArcsOf(pTransition, true)) {
+      const auto place = mPlan.Arcs[arc].Place;
+      mPlaces[place].CaseEnabled = Passes(question, place, false);
+    }
+  }
+  return Ask(question);
 }
 
 void ReferenceGame::Mark(std::size_t pTransition, int pCase) {
@@ -93,36 +128,35 @@ void ReferenceGame::Remove(std::size_t pPlace, int pToken) {
   auto& tokens = mPlaces[pPlace].Tokens;
   const auto found = pToken == kNone ? tokens.begin() : std::find(tokens.begin(), tokens.end(), pToken);
   if (found == tokens.end()) throw Refused{5};
-  tokens.erase(found);
-  for (const auto transition : FedBy(pPlace)) {
-    bool all = true;
-    for (const auto arc : ArcsOf(transition, true)) {
-      auto& place = mPlaces[mPlan.Arcs[arc].Place];
-      bool holds = !place.Tokens.empty();
-      if (mPlan.CaseTracking) {
-        holds = std::any_of(place.Tokens.begin(), place.Tokens.end(), [&](int token) { return mTokens[token].Enabled; });
-        place.CaseEnabled = holds;
-      }
-      all = all && holds;
-    }
-    SetEnabled(transition, all);
-  }
+  Leave(pPlace, *found);
 }
 
-void ReferenceGame::SetEnabled(std::size_t pTransition, bool pblnOn) {
+void ReferenceGame::Leave(std::size_t pPlace, int pToken) {
+  std::erase(mPlaces[pPlace].Tokens, pToken);
+  mTokens[pToken].TakenBy = kNone;
+  for (const auto transition : FedBy(pPlace)) SetEnabled(transition, Left(transition));
+}
+
+// True when the transition has to fire now.
+bool ReferenceGame::Switch(std::size_t pTransition, bool pblnOn) {
   mEnabled[pTransition] = pblnOn;
   const auto entry = std::find(mStack.begin(), mStack.end(), pTransition);
   if (pblnOn && entry == mStack.end()) mStack.push_back(pTransition);
   if (!pblnOn && entry != mStack.end()) mStack.erase(entry);
-  if (pblnOn && mPlan.Transitions[pTransition].Trigger == vntAutomatic) Fire(pTransition, kNone);
+  return pblnOn && mPlan.Transitions[pTransition].Trigger == vntAutomatic;
+}
+
+void ReferenceGame::SetEnabled(std::size_t pTransition, bool pblnOn) {
+  if (Switch(pTransition, pblnOn)) Fire(pTransition, kNone);
 }
 
 void ReferenceGame::FireNext(int pTransition) {
   try {
-    if (pTransition == kNone && mStack.empty()) throw Refused{5};
-    const std::size_t transition = pTransition == kNone ? mStack.front() : static_cast<std::size_t>(pTransition);
-    const auto entry = std::find(mStack.begin(), mStack.end(), transition);
+    const auto entry = std::find_if(mStack.begin(), mStack.end(), [&](std::size_t transition) {
+      return pTransition == kNone ? mUnderWay[transition] == 0 : transition == static_cast<std::size_t>(pTransition);
+    });
     if (entry == mStack.end()) throw Refused{5};
+    const auto transition = *entry;
     mStack.erase(entry);
     Fire(transition, kNone);
   } catch (const Refused& refused) {
@@ -130,57 +164,48 @@ void ReferenceGame::FireNext(int pTransition) {
   }
 }
 
-std::vector<int> ReferenceGame::TakeAny(std::size_t pTransition) const {
-  std::vector<int> taken;
-  for (const auto arc : ArcsOf(pTransition, true)) {
-    const auto place = mPlan.Arcs[arc].Place;
-    auto held = mPlaces[place].Tokens;
-    std::erase_if(held, [&](int token) { return std::find(taken.begin(), taken.end(), token) != taken.end(); });
-    if (held.empty()) throw Refused{5};
-    taken.push_back(mPlan.Places[place].Selection == vntSelectionTypeFIFO ? held.front() : held.back());
-  }
-  return taken;
+std::vector<int> ReferenceGame::FreeIn(std::size_t pPlace) const {
+  auto free = mPlaces[pPlace].Tokens;
+  std::erase_if(free, [&](int token) { return mTokens[token].TakenBy != kNone; });
+  return free;
 }
 
-std::vector<int> ReferenceGame::TakeOf(std::size_t pTransition, int pCase) const {
-  std::vector<int> taken;
+void ReferenceGame::TakeAny(std::size_t pTransition, int pFiring, std::vector<int>& pTaken) {
   for (const auto arc : ArcsOf(pTransition, true)) {
-    const auto& held = mPlaces[mPlan.Arcs[arc].Place].Tokens;
-    const auto found = std::find_if(held.begin(), held.end(), [&](int token) {
-      return mTokens[token].Case == pCase && std::find(taken.begin(), taken.end(), token) == taken.end();
-    });
-    if (found != held.end()) taken.push_back(*found);
+    const auto place = mPlan.Arcs[arc].Place;
+    const auto free = FreeIn(place);
+    if (free.empty()) throw Refused{5};
+    pTaken.push_back(mPlan.Places[place].Selection == vntSelectionTypeFIFO ? free.front() : free.back());
+    mTokens[pTaken.back()].TakenBy = pFiring;
   }
-  return taken;
+}
+
+void ReferenceGame::TakeOf(std::size_t pTransition, int pCase, int pFiring, std::vector<int>& pTaken) {
+  for (const auto arc : ArcsOf(pTransition, true)) {
+    const auto free = FreeIn(mPlan.Arcs[arc].Place);
+    const auto found = std::find_if(free.begin(), free.end(), [&](int token) { return mTokens[token].Case == pCase; });
+    if (found == free.end()) continue;
+    pTaken.push_back(*found);
+    mTokens[*found].TakenBy = pFiring;
+  }
 }
 
 bool ReferenceGame::HoldsCase(std::size_t pPlace, int pCase) const {
-  const auto& held = mPlaces[pPlace].Tokens;
-  return std::any_of(held.begin(), held.end(), [&](int token) { return mTokens[token].Case == pCase; });
+  const auto free = FreeIn(pPlace);
+  return std::any_of(free.begin(), free.end(), [&](int token) { return mTokens[token].Case == pCase; });
 }
 
-std::optional<std::string> ReferenceGame::Ask(std::size_t pTransition, const std::string& pstrPrompt,
-                                              const std::vector<std::string>& pcolOptions) {
-  const auto answer = mAsk(pstrPrompt, pcolOptions);
-  const bool waits = std::find(mStack.begin(), mStack.end(), pTransition) != mStack.end();
-  if (!answer && !pcolOptions.empty() && mEnabled[pTransition] && !waits) mStack.push_back(pTransition);
-  return answer;
-}
-
-bool ReferenceGame::Choose(std::size_t pTransition, int& pCase) {
+bool ReferenceGame::Choose(std::size_t pTransition, int& pCase, bool& pblnCanFireAgain) {
   const auto inputs = ArcsOf(pTransition, true);
   std::vector<int> candidates;
   SelectionTypes selection = vntSelectionTypeFIFO;
   if (!inputs.empty()) {
-    const auto scarcest =
-        mPlan
-            .Arcs[*std::min_element(inputs.begin(), inputs.end(),
-                                    [&](std::size_t a, std::size_t b) {
-                                      return mPlaces[mPlan.Arcs[a].Place].Tokens.size() < mPlaces[mPlan.Arcs[b].Place].Tokens.size();
-                                    })]
-            .Place;
+    const auto fewer = [&](std::size_t a, std::size_t b) {
+      return FreeIn(mPlan.Arcs[a].Place).size() < FreeIn(mPlan.Arcs[b].Place).size();
+    };
+    const auto scarcest = mPlan.Arcs[*std::min_element(inputs.begin(), inputs.end(), fewer)].Place;
     selection = mPlan.Places[scarcest].Selection;
-    for (const int token : mPlaces[scarcest].Tokens) {
+    for (const int token : FreeIn(scarcest)) {
       const int workCase = mTokens[token].Case;
       if (workCase == kNone || std::find(candidates.begin(), candidates.end(), workCase) != candidates.end()) continue;
       const bool all =
@@ -195,7 +220,8 @@ bool ReferenceGame::Choose(std::size_t pTransition, int& pCase) {
   if (trigger != vntUser) return true;
   std::vector<std::string> names;
   for (const int candidate : candidates) names.push_back(mCases[candidate].Name);
-  const auto answer = Ask(pTransition, "Select workcase for consumption.", names);
+  pblnCanFireAgain = !names.empty();
+  const auto answer = mAsk("Select workcase for consumption.", names);
   if (!answer) return false;
   for (const int candidate : candidates) {
     if (mCases[candidate].Key == *answer) pCase = candidate;
@@ -204,17 +230,73 @@ bool ReferenceGame::Choose(std::size_t pTransition, int& pCase) {
 }
 
 void ReferenceGame::Fire(std::size_t pTransition, int pCase) {
-  if (mPlan.CaseTracking && !Choose(pTransition, pCase)) return;
-  const auto consumed = mPlan.CaseTracking ? TakeOf(pTransition, pCase) : TakeAny(pTransition);
-  if (!Produce(pTransition, pCase)) return;
-  for (const int token : consumed) {
+  const int firing = mFirings++;
+  std::vector<int> taken;
+  bool canFireAgain = true;
+  ++mUnderWay[pTransition];
+  try {
+    bool done = true;
+    if (mPlan.CaseTracking) {
+      done = Choose(pTransition, pCase, canFireAgain);
+      if (done) TakeOf(pTransition, pCase, firing, taken);
+    } else {
+      TakeAny(pTransition, firing, taken);
+    }
+    if (done && Produce(pTransition, pCase, canFireAgain)) {
+      Withdraw(pTransition, taken, firing);
+    } else {
+      GiveBack(pTransition, taken, firing, canFireAgain, true);
+    }
+  } catch (const Refused&) {
+    GiveBack(pTransition, taken, firing, true, false);
+    --mUnderWay[pTransition];
+    throw;
+  }
+  --mUnderWay[pTransition];
+}
+
+void ReferenceGame::Withdraw(std::size_t pTransition, const std::vector<int>& pTaken, int pFiring) {
+  for (const int token : pTaken) {
+    if (mTokens[token].TakenBy != pFiring) continue;  // taken away by hand
     mTokens[token].Consumer = static_cast<int>(pTransition);
-    Tolerant([&] { Remove(mTokens[token].Place, token); });
+    Tolerant([&] { Leave(mTokens[token].Place, token); });
     mTokens[token].Dated = true;
   }
 }
 
-bool ReferenceGame::Produce(std::size_t pTransition, int pCase) {
+void ReferenceGame::GiveBack(std::size_t pTransition, const std::vector<int>& pTaken, int pFiring, bool pblnCanFireAgain, bool pblnFires) {
+  auto kept = pTaken;
+  std::erase_if(kept, [&](int token) { return mTokens[token].TakenBy != pFiring; });
+  for (const int token : kept) mTokens[token].TakenBy = kNone;
+  if (pblnCanFireAgain) Settle(pTransition);
+  for (const int token : kept) Tolerant([&] { LookAgain(mTokens[token].Place, pblnFires); });
+}
+
+// Enabled means on the stack; FireNext took the transition off.
+void ReferenceGame::Settle(std::size_t pTransition) {
+  if (!mEnabled[pTransition] || std::find(mStack.begin(), mStack.end(), pTransition) != mStack.end()) return;
+  const auto inputs = ArcsOf(pTransition, true);
+  const bool canFire = std::all_of(inputs.begin(), inputs.end(), [&](std::size_t arc) { return !FreeIn(mPlan.Arcs[arc].Place).empty(); });
+  const bool heldUp = !canFire && std::all_of(inputs.begin(), inputs.end(),
+                                              [&](std::size_t arc) { return !mPlaces[mPlan.Arcs[arc].Place].Tokens.empty(); });
+  const Question question{pTransition, kNone, true};
+  if (heldUp && std::find(mHeldUp.begin(), mHeldUp.end(), question) == mHeldUp.end()) mHeldUp.push_back(question);
+  Switch(pTransition, canFire);
+}
+
+void ReferenceGame::LookAgain(std::size_t pPlace, bool pblnFires) {
+  for (const auto transition : FedBy(pPlace)) {
+    auto questions = mHeldUp;
+    std::erase_if(questions, [&](const Question& question) { return question.Transition != transition; });
+    for (const auto& question : questions) {
+      if (std::erase(mHeldUp, question) == 0) continue;
+      const bool enabled = question.ByDeparture ? Left(transition) : Arrived(transition, question.Case);
+      if (enabled && Switch(transition, true) && pblnFires) Fire(transition, kNone);
+    }
+  }
+}
+
+bool ReferenceGame::Produce(std::size_t pTransition, int pCase, bool& pblnCanFireAgain) {
   const auto& planned = mPlan.Transitions[pTransition];
   if (planned.Output == vntDistribute) {
     mLog += "distribute ";
@@ -224,7 +306,10 @@ bool ReferenceGame::Produce(std::size_t pTransition, int pCase) {
     mLog += planned.HasAction ? "run " : "box ";
     return planned.HasAction;
   }
-  if (planned.Output != vntSelect) return ProduceOn(pTransition, pCase, nullptr);
+  if (planned.Output != vntSelect) {
+    pblnCanFireAgain = !ArcsOf(pTransition, false).empty();
+    return ProduceOn(pTransition, pCase, nullptr);
+  }
   std::vector<std::string> guards;
   bool hasUnguarded = false;
   for (const auto arc : ArcsOf(pTransition, false)) {
@@ -235,7 +320,8 @@ bool ReferenceGame::Produce(std::size_t pTransition, int pCase) {
     }
   }
   if (hasUnguarded) guards.emplace_back("<other>");
-  const auto answer = Ask(pTransition, "Select ouputs:", guards);
+  pblnCanFireAgain = !guards.empty();
+  const auto answer = mAsk("Select ouputs:", guards);
   return answer && ProduceOn(pTransition, pCase, &*answer);
 }
 

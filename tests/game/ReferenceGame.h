@@ -38,8 +38,8 @@ struct PlannedCase {
   std::string Key, Name;
 };
 
-/// The rules of the token game once more, told as plainly as can be: everything is looked at again each time, everything
-/// calls everything, nothing survives an endless loop.
+/// The rules of the token game once more, as plainly as possible: it looks at everything again each time, everything calls
+/// everything, and an endless loop never ends.
 class ReferenceGame {
  public:
   static constexpr int kNone = -1;
@@ -62,7 +62,14 @@ class ReferenceGame {
   struct RefToken {
     int Case = kNone, Creator = kNone, Consumer = kNone;
     std::size_t Place = 0;
+    int TakenBy = kNone;  // the firing that chose it
     bool Enabled = false, Dated = false;
+  };
+  struct Question {
+    std::size_t Transition;
+    int Case;
+    bool ByDeparture;
+    bool operator==(const Question&) const = default;
   };
   struct RefPlace {
     std::vector<int> Tokens;
@@ -73,15 +80,26 @@ class ReferenceGame {
   std::vector<std::size_t> FedBy(std::size_t pPlace) const;
   int Create(std::size_t pPlace, int pTransition, int pCase);
   void Add(std::size_t pPlace, int pToken);
+  void Leave(std::size_t pPlace, int pToken);
+  bool Passes(const Question& pQuestion, std::size_t pPlace, bool pblnTakenToo) const;
+  bool Complete(const Question& pQuestion, bool pblnTakenToo) const;
+  bool Ask(const Question& pQuestion);
+  bool Arrived(std::size_t pTransition, int pCase);
+  bool Left(std::size_t pTransition);
   void Mark(std::size_t pTransition, int pCase);
+  bool Switch(std::size_t pTransition, bool pblnOn);
   void SetEnabled(std::size_t pTransition, bool pblnOn);
-  std::vector<int> TakeAny(std::size_t pTransition) const;
-  std::vector<int> TakeOf(std::size_t pTransition, int pCase) const;
-  bool Choose(std::size_t pTransition, int& pCase);
-  std::optional<std::string> Ask(std::size_t pTransition, const std::string& pstrPrompt, const std::vector<std::string>& pcolOptions);
+  std::vector<int> FreeIn(std::size_t pPlace) const;
+  void TakeAny(std::size_t pTransition, int pFiring, std::vector<int>& pTaken);
+  void TakeOf(std::size_t pTransition, int pCase, int pFiring, std::vector<int>& pTaken);
+  bool Choose(std::size_t pTransition, int& pCase, bool& pblnCanFireAgain);
   bool HoldsCase(std::size_t pPlace, int pCase) const;
-  bool Produce(std::size_t pTransition, int pCase);
+  bool Produce(std::size_t pTransition, int pCase, bool& pblnCanFireAgain);
   bool ProduceOn(std::size_t pTransition, int pCase, const std::string* pGuard);
+  void Withdraw(std::size_t pTransition, const std::vector<int>& pTaken, int pFiring);
+  void GiveBack(std::size_t pTransition, const std::vector<int>& pTaken, int pFiring, bool pblnCanFireAgain, bool pblnFires);
+  void Settle(std::size_t pTransition);
+  void LookAgain(std::size_t pPlace, bool pblnFires);
   void Tolerant(const std::function<void()>& pStep) const;
 
   NetPlan mPlan;
@@ -90,7 +108,10 @@ class ReferenceGame {
   std::vector<RefToken> mTokens;
   std::vector<RefPlace> mPlaces;
   std::vector<char> mEnabled;
+  std::vector<int> mUnderWay;  // firings of each transition
   std::vector<std::size_t> mStack;
+  std::vector<Question> mHeldUp;
+  int mFirings = 0;
   std::string mLog;
 };
 

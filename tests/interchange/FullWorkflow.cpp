@@ -10,7 +10,8 @@ void FillNode(Node& pobjNode) {
   pobjNode.Tag = "tag";
   pobjNode.EnabledImageKey = "Lamp";
   pobjNode.DisabledImageKey = "Dark lamp";
-  pobjNode.AssignSides(vntTop, 99);
+  pobjNode.InputPosition(vntTop);
+  pobjNode.OutputPosition(99);
   pobjNode.CaptionHeight = 195;
   pobjNode.CaptionWidth = 812.5F;
   pobjNode.CaptionOffsetLeft(-37.5F);
@@ -35,7 +36,8 @@ void FillArc(Arc& pobjArc) {
 }
 
 void AddNote(Workflow& pobjWorkflow) {
-  const auto note = pobjWorkflow.NewNotation();
+  const auto note = std::make_shared<Notation>();
+  note->Key = "Notation1";
   note->Caption = "two\nlines";
   note->Left(-5);
   note->Top(10);
@@ -51,6 +53,7 @@ void AddNote(Workflow& pobjWorkflow) {
   note->Size = 12;
   note->Bold = note->Italics = note->Underline = note->Strikethrough = note->Protected = true;
   note->Tag = "tag";
+  pobjWorkflow.Notations.Add(note, note->Key);
 }
 
 }  // namespace
@@ -70,6 +73,7 @@ std::shared_ptr<PropertyRecord> Definition(const std::string& pstrName, const Va
 }
 
 std::shared_ptr<Workflow> FullWorkflow() {
+  const DesignerStateScope scope;
   auto workflow = SmallWorkflow();
   const auto in = workflow->Places.First();
   const auto work = workflow->Transitions.First();

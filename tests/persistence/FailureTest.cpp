@@ -22,7 +22,8 @@ class SaveFailure : public testing::Test {
     mobjTransition->Dirty = true;
     const auto arc = Connect(place, mobjTransition);
     arc->InsertVector(arc->Vectors()->First());
-    mobjNet->NewNotation();
+    const auto note = std::make_shared<Notation>();
+    mobjNet->Notations.Add(note, "Notation1");
     mobjNet->Dirty(true);
   }
 

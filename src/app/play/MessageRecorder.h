@@ -9,7 +9,7 @@
 
 namespace vantrel {
 
-/// Answers message boxes with OK while it lives, shows none to the user, and remembers the first one.
+/// While it lives, message boxes are answered with OK and kept from the user; the first one is remembered.
 class MessageRecorder {
  public:
   MessageRecorder()

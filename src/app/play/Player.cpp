@@ -8,7 +8,7 @@ namespace vantrel {
 
 namespace {
 
-/// Leaves a run, even from inside a firing. Not an Error, so that the token game does not catch it.
+/// Leaves a run, even from inside a firing. Not an Error: nothing in the token game is to deal with it.
 struct RunEnded {};
 
 AccountEntry EntryOf(const PlayedNet& pobjNet, const Node& pobjNode) { return {pobjNet.Prefix + pobjNode.Key, pobjNode.Name()}; }
@@ -76,7 +76,7 @@ void Player::Run() {
     mAccount.Stopped = StopReason::Error;
     mAccount.Error = error.Description;
   }
-  // A firing that failed may have moved half of its tokens, so the state stored before it is kept.
+  // A firing that failed may have moved half of its tokens: what was stored before it stands.
   if (mStore && mAccount.Stopped != StopReason::Error) mStore->Finish();
 }
 
@@ -137,30 +137,44 @@ void Player::Add(const std::shared_ptr<Place>& pobjPlace, const std::shared_ptr<
   mMessages.ThrowFirst();
 }
 
+// A firing that ends early leaves its transition on the stack: no more than once round while nothing else happens.
 void Player::FireUntilQuiet() {
-  std::int64_t calls = 0;  // more than the firings when a transition finds its tokens gone
-  while (const PlayedNet* ready = FirstReady()) {
+  std::int64_t calls = 0;  // more than firings where a transition finds its tokens gone
+  while (const auto transition = NextReady()) {
     Pass();
     if (std::max(calls++, mAccount.Firings) >= mOptions.MaxFirings) throw RunEnded();
-    if (mOptions.Pick == Pick::First) {
-      ready->Workflow->FireNext();
-    } else {
-      const auto transition = DrawReady();
-      transition->Workflow->FireNext(transition);
-    }
+    const auto before = Happened();
+    transition->Workflow->FireNext(transition);
     mMessages.ThrowFirst();
+    if (Happened() == before) {
+      mIdle.insert(transition.get());
+    } else {
+      mIdle.clear();
+    }
   }
 }
 
-const PlayedNet* Player::FirstReady() const {
-  const auto ready = std::find_if(mPlayed.begin(), mPlayed.end(), [](const auto& net) { return !net.Workflow->FiringStack.IsEmpty(); });
-  return ready == mPlayed.end() ? nullptr : &*ready;
+std::pair<std::int64_t, std::int64_t> Player::Happened() const { return {TokensCreated(), mHost.Actions()}; }
+
+std::shared_ptr<Transition> Player::NextReady() {
+  if (mOptions.Pick == Pick::Random && mIdle.empty()) return DrawReady();
+  std::vector<Transition*> ready;
+  for (const PlayedNet& net : mPlayed) {
+    Collection<Transition>::Cursor stack(net.Workflow->FiringStack);
+    while (Transition* transition = stack.Next()) {
+      if (mIdle.contains(transition)) continue;
+      if (mOptions.Pick == Pick::First) return transition->Share();
+      ready.push_back(transition);
+    }
+  }
+  return ready.empty() ? nullptr : ready[mRandom.Below(ready.size())]->Share();
 }
 
-// Draws from all stacks; at least one is not empty.
+// From all stacks.
 std::shared_ptr<Transition> Player::DrawReady() {
   std::int64_t entries = 0;
   for (const PlayedNet& net : mPlayed) entries += net.Workflow->FiringStack.Count();
+  if (entries == 0) return nullptr;
   auto drawn = static_cast<std::int64_t>(mRandom.Below(static_cast<std::uint64_t>(entries)));
   auto net = mPlayed.begin();
   for (; drawn >= net->Workflow->FiringStack.Count(); ++net) drawn -= net->Workflow->FiringStack.Count();

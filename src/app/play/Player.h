@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "app/play/Account.h"
@@ -25,21 +26,21 @@ struct PlayCounts {
   std::int64_t Firings = 0, TokensCreated = 0, CasesFinished = 0;
 };
 
-/// Plays a net without a user: puts tokens into it, then fires enabled transitions until there are none. Make one for each run: while it
-/// lives it is the process's designer and answers message boxes. It changes the net's workflows.
+/// Plays a net without a user: puts tokens into it, then fires what is enabled until nothing is. One object a run: while it
+/// lives it is the process's designer and answers its message boxes. The net's workflows are its to change.
 class Player {
  public:
-  /// Is called before every case and every firing; false ends the run there. With a store the run ends between two firings, so that no
-  /// half of one is stored.
+  /// Hears of every case and every firing before it starts; answering false ends the run there. With a store it ends between
+  /// two firings, so that nothing is stored by halves.
   using Watch = std::function<bool(const PlayCounts&)>;
 
-  /// The net must have a start place, unless it is played from its marking. Play throws what the store throws, except an Error.
+  /// Unless played from its marking, the net must have a start place. What the store throws, if it is no Error, leaves Play.
   explicit Player(ImportedNet pobjNet, const PlayOptions& pobjOptions = {}, Watch pWatch = {}, PlayStore* pobjStore = nullptr);
 
   Account Play();
 
  private:
-  static constexpr std::int64_t kMostTokens = 10'000'000;  // at the beginning: about three gigabytes
+  static constexpr std::int64_t kMostTokens = 10'000'000;  // to begin with: about three gigabytes
 
   void Prepare();
   std::vector<Subscription> Listen();
@@ -50,8 +51,11 @@ class Player {
   void CountFinished(const Token& pobjToken);
   void Add(const std::shared_ptr<Place>& pobjPlace, const std::shared_ptr<WorkCase>& pobjCase);
   void FireUntilQuiet();
-  const PlayedNet* FirstReady() const;
+  // The transition that fires next, by the option Pick; null when none is left that could do anything.
+  std::shared_ptr<Transition> NextReady();
   std::shared_ptr<Transition> DrawReady();
+  // Changes with every firing that does anything.
+  std::pair<std::int64_t, std::int64_t> Happened() const;
   void Record(const PlayedNet& pobjNet, const Transition& pobjTransition);
   // Between two firings.
   void Pass();
@@ -68,10 +72,11 @@ class Player {
   RandomIndex mRandom;
   std::vector<PlayedNet> mPlayed;
   Account mAccount;
-  std::unordered_set<std::string> mFinished;  // keys of cases
-  std::unordered_set<std::string> mTakenUp;   // keys of cases
-  std::int64_t mlngLastCase = 0;              // the number in the last key made
-  bool mblnStop = false;                      // the watch wants the run to end
+  std::unordered_set<std::string> mFinished;    // keys of cases
+  std::unordered_set<std::string> mTakenUp;     // keys of cases
+  std::unordered_set<const Transition*> mIdle;  // fired in vain since anything happened
+  std::int64_t mlngLastCase = 0;                // the number in the last key made
+  bool mblnStop = false;                        // the watch wants the run to end
   PlayHost mHost;
   DesignerStateScope mStateBefore;
   MessageRecorder mMessages;

@@ -7,15 +7,15 @@
 
 namespace vantrel {
 
-/// Shows on a terminal how far a run is.
+/// A line on a terminal that says how far a run is.
 class Progress {
  public:
   using Clock = ProgressLine::Clock;
 
-  /// Times are parameters so that tests can give them.
+  /// Times are arguments for the sake of tests.
   explicit Progress(std::ostream& pobjTerminal, Clock::time_point pStart = Clock::now()) : mLine(pobjTerminal, pStart) {}
 
-  /// Cheap enough to be called for every firing.
+  /// Cheap enough for every firing.
   void Show(const PlayCounts& pobjCounts, Clock::time_point pNow = Clock::now());
 
  private:

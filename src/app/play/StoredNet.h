@@ -1,4 +1,4 @@
-// Reads a net to play from a database.
+// A net to play, out of a database.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Values as the text that a server reads and writes.
+// Values on their way to a server and back, as text.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ struct pg_result;
 
 namespace vantrel {
 
-/// Parameters in the form that libpq wants. The server infers their types.
+/// Parameters in the form that libpq wants. The server finds out by itself which types they have.
 class PostgresParameters {
  public:
   /// The longest list that the protocol can carry.

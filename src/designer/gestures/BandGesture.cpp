@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "designer/Selecting.h"
 #include "designer/Vantrel.h"
 #include "designer/gestures/Hover.h"
 
@@ -24,9 +23,7 @@ void BandGesture::Release(const PointerInput&) {
   if (!mobjControl || !mobjControl->MultiSelect.Visible()) return;
   if (mobjControl->Workflow()) mobjControl->Selection(mobjControl->GetSelections());
   Cancel();
-  if (!mobjControl) return;
-  mobjControl->MultiSelectOn = !mobjControl->Selection()->IsEmpty();
-  Selecting(*mobjControl).MakeSingleCurrent();
+  if (mobjControl) mobjControl->MultiSelectOn = !mobjControl->Selection()->IsEmpty();
 }
 
 void BandGesture::Cancel() {

@@ -2,19 +2,12 @@
 
 #include "model/Workflow.h"
 #include "model/game/CaseEnd.h"
-#include "model/game/CaseIndex.h"
+#include "model/game/Enabling.h"
 #include "model/game/Firing.h"
 #include "model/game/TokenRules.h"
 #include "util/Lookup.h"
 
 namespace vantrel {
-
-namespace {
-
-// Drawing lets the user do things.
-std::shared_ptr<Transition> KeeperOf(Transition& pobjTransition) { return pobjTransition.Visible() ? pobjTransition.Share() : nullptr; }
-
-}  // namespace
 
 Arrival::Arrival(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken)
     : mobjPlace(std::move(pobjPlace)),
@@ -29,33 +22,27 @@ void Arrival::Put() {
     token.Key = NextKey(workflow ? workflow->Tokens : mobjPlace->Tokens(), "Token");
   }
   if (token.Name.empty()) token.Name = token.Key;
-  mobjPlace->Tokens().Add(mobjToken, token.Key);
-  if (auto* cases = mobjPlace->mobjCases.get()) cases->Added(*mobjPlace, mobjToken);
+  TokenRules::Add(*mobjPlace, mobjToken);
   mobjCase = token.WorkCase;
   if (!(token.Place == mobjPlace.get())) token.Place = mobjPlace.get();
   mobjPlace->TokenCount(static_cast<float>(mobjPlace->Tokens().Count()));
 }
 
-bool Arrival::CompletesInputs(Transition& pobjTransition) const {
-  return pobjTransition.AllInputs([&](const Place& pobjPlace) { return TokenRules::Serves(pobjPlace, mobjCase.get(), mblnTracking); });
-}
-
-bool Arrival::Enable(Transition& pobjTransition) const {
-  for (Collection<Arc>::Cursor inputs(pobjTransition.InArcs); const Arc* input = inputs.Next();) {
-    TokenRules::MarkEnabled(*input->Place, mobjCase.get());
+std::shared_ptr<Transition> Arrival::EnableNext() {
+  while (const Arc* arc = mArcs.Next()) {
+    Transition* transition = arc->Transition.get();
+    if (!transition) continue;
+    const auto keeper = transition->Visible() ? transition->Share() : nullptr;  // drawing lets the user do things
+    if (!Enabling::Arrived(*transition, mobjCase, mblnTracking)) continue;
+    if (Enabling::Switch(*transition, true)) return transition->Share();
   }
-  return pobjTransition.SwitchEnabled(true);
+  return nullptr;
 }
 
 void Arrival::PutBack(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken) {
   Arrival arrival(std::move(pobjPlace), std::move(pobjToken));
   arrival.Put();
-  while (const Arc* arc = arrival.mArcs.Next()) {
-    Transition* transition = arc->Transition.get();
-    if (!transition || !arrival.CompletesInputs(*transition)) continue;
-    const auto keeper = KeeperOf(*transition);
-    arrival.Enable(*transition);
-  }
+  while (arrival.EnableNext()) continue;
 }
 
 bool Arrival::Advance(TokenGame& pobjGame) {
@@ -63,18 +50,12 @@ bool Arrival::Advance(TokenGame& pobjGame) {
     Put();
     mStage = kEnable;
   }
-  while (mStage == kEnable) {
-    const Arc* arc = mArcs.Next();
-    if (!arc) {
-      mStage = kReport;
-      break;
+  if (mStage == kEnable) {
+    if (auto transition = EnableNext()) {
+      pobjGame.Call<Firing>(std::move(transition), nullptr);
+      return true;
     }
-    Transition* transition = arc->Transition.get();
-    if (!transition || !CompletesInputs(*transition)) continue;
-    const auto keeper = KeeperOf(*transition);
-    if (!Enable(*transition)) continue;
-    pobjGame.Call<Firing>(transition->Share(), nullptr);
-    return true;
+    mStage = kReport;
   }
   if (mStage == kReport) {
     mStage = kEnd;

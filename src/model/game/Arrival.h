@@ -20,9 +20,8 @@ class Arrival final : public GameStep {
  private:
   enum Stage : std::uint8_t { kPut, kEnable, kReport, kEnd };
   void Put();
-  bool CompletesInputs(Transition& pobjTransition) const;
-  // True when the transition, now enabled, has to fire at once.
-  bool Enable(Transition& pobjTransition) const;
+  // The next transition that the token enables and that has to fire at once; null at the end.
+  std::shared_ptr<Transition> EnableNext();
   void Report(TokenGame& pobjGame);
 
   std::shared_ptr<Place> mobjPlace;

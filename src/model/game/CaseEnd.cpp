@@ -16,7 +16,7 @@ bool CaseEnd::Advance(TokenGame& pobjGame) {
   if (mStage == kClear) {
     mStage = kTell;
     if (!mobjWorkflow->KeepHistory) {
-      pobjGame.Call<Departure>(mobjPlace, mobjToken);
+      pobjGame.Call<Departure>(mobjPlace, mobjToken, Departure::kByHand);
       return true;
     }
   }

@@ -18,24 +18,25 @@ class Reevaluation : public GameStep {
   std::shared_ptr<Place> mobjPlace;
 
  private:
-  bool HasAllInputs(Transition& pobjTransition) const;
-
   Collection<Arc>::Cursor mArcs;
   bool mblnTracking;
 };
 
-/// Takes the token out of the place (a token without key: the first one), then reevaluates what the place feeds. Error 5
-/// when the token does not lie there.
+/// Takes the token out of the place (a token without key: the first one), then reevaluates what the place feeds.
 class Departure final : public Reevaluation {
  public:
-  Departure(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken);
+  enum Reason : std::uint8_t {
+    kByHand,   ///< Error 5 when the token does not lie there; a firing that has chosen it hears that it is gone
+    kConsumed  ///< by the firing that has chosen it
+  };
+  Departure(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken, Reason pReason);
   bool Advance(TokenGame& pobjGame) override;
 
  private:
   void Take();
-  static void ForgetTaken(Token& pobjToken, const Place& pobjPlace);
 
   std::shared_ptr<Token> mobjToken;
+  Reason mReason;
   bool mblnTaken = false;
 };
 

@@ -1,13 +1,14 @@
 #include "model/game/Firing.h"
 
-#include <algorithm>
+#include <utility>
 
 #include "model/DesignerState.h"
 #include "model/Workflow.h"
 #include "model/game/Arrival.h"
-#include "model/game/CaseIndex.h"
 #include "model/game/Departure.h"
+#include "model/game/Enabling.h"
 #include "model/game/FiringNext.h"
+#include "model/game/SecondLook.h"
 #include "model/game/TokenRules.h"
 #include "util/Lookup.h"
 #include "util/MsgBox.h"
@@ -23,7 +24,7 @@ constexpr const char* kOther = "<other>";
 Firing::Firing(std::shared_ptr<Transition> pobjTransition, std::shared_ptr<WorkCase> pobjCase)
     : mobjTransition(std::move(pobjTransition)),
       mobjCase(std::move(pobjCase)),
-      mcolConsumed(TokenGame::Instance().BorrowList()),
+      mChosen(*mobjTransition),
       mOutputs(mobjTransition->OutArcs),
       mblnTracking(TokenRules::CaseTracking(*mobjTransition)) {
   ++mobjTransition->mFiringsUnderWay;
@@ -31,8 +32,12 @@ Firing::Firing(std::shared_ptr<Transition> pobjTransition, std::shared_ptr<WorkC
 
 Firing::~Firing() {
   EndOutput();
-  --mobjTransition->mFiringsUnderWay;
-  TokenGame::Instance().GiveBackList(std::move(mcolConsumed));
+  Delivered();
+  if (const auto run = mobjRun.lock()) run->Starter(nullptr);
+}
+
+void Firing::Delivered() {
+  if (!std::exchange(mblnDelivered, true)) --mobjTransition->mFiringsUnderWay;
 }
 
 void Firing::EndOutput() {
@@ -41,7 +46,16 @@ void Firing::EndOutput() {
   mobjGame = nullptr;
 }
 
-bool Firing::Absorb(const Error& pobjError) { return mblnIgnoreErrors && pobjError.Number != vntErrOutOfStack; }
+bool Firing::Absorb(const Error& pobjError) {
+  if (mblnIgnoreErrors && pobjError.Number != vntErrOutOfStack) return true;
+  EndOutput();
+  mChosen.GiveBack();
+  Enabling::Settle(*mobjTransition);
+  for (const auto& token : mChosen.Tokens()) {
+    if (token) Enabling::SettleAround(*token);
+  }
+  return false;
+}
 
 bool Firing::Advance(TokenGame& pobjGame) {
   while (mStage != kEnd) {
@@ -51,46 +65,50 @@ bool Firing::Advance(TokenGame& pobjGame) {
   return false;
 }
 
+// A stage that fails under case tracking is followed by the one that was set before it.
 void Firing::DoStage(TokenGame& pobjGame) {
   switch (mStage) {
-    case kConsume:
-      mStage = kEnd;  // where a failure of the stage itself leaves it
+    case kChoose:
+      mStage = kGiveBack;
       pobjGame.CheckDepth(*mobjTransition);
-      mStage = Consume();
+      mStage = Choose();
       break;
     case kStartSubflow:
-      mStage = kReleaseSubflow;
+      mStage = kReevaluate;
       mStage = StartSubflow(pobjGame);
       break;
     case kFireSubflow:
-      mStage = kReleaseSubflow;
+      mStage = kReevaluate;
       mStage = FireSubflow(pobjGame);
       break;
-    case kReleaseSubflow:
-      mStage = ReleaseSubflow(pobjGame);
+    case kReevaluate:
+      mStage = Reevaluate(pobjGame);
       break;
     case kPrepareOutput:
-      mStage = kEnd;
+      mStage = kGiveBack;
       mStage = PrepareOutput(pobjGame);
       break;
     case kProduce:
       mStage = Produce(pobjGame);
       break;
     case kDated:
-      mcolConsumed[mlngNext++]->DateConsumed = Date::Now();
+      if (const auto token = mChosen.Leave(mlngNext++)) token->DateConsumed = Date::Now();
       [[fallthrough]];
     case kWithdraw:
       mStage = kDated;
       mStage = Withdraw(pobjGame);
+      break;
+    case kGiveBack:
+      mStage = GiveBack(pobjGame);
       break;
     case kEnd:
       break;
   }
 }
 
-Firing::Stage Firing::Consume() {
+Firing::Stage Firing::Choose() {
   if (mblnTracking) {
-    if (!ChooseCase()) return kEnd;
+    if (!ChooseCase()) return kGiveBack;
     TakeOfCase();
   } else {
     TakeWithoutCases();
@@ -101,49 +119,19 @@ Firing::Stage Firing::Consume() {
   return isWorkflow ? kStartSubflow : kPrepareOutput;
 }
 
-bool Firing::Uses(const Token& pobjToken) const {
-  return std::any_of(mcolConsumed.begin(), mcolConsumed.end(), [&](const auto& token) { return token.get() == &pobjToken; });
-}
-
-// The token that the place's selection type names; two arcs from one place take two tokens.
-std::shared_ptr<Token> Firing::NextUnused(const Place& pobjPlace) const {
-  const auto usable = [&](const Token& token) { return TokenRules::IsFree(token) && !Uses(token); };
-  const auto& tokens = pobjPlace.Tokens();
-  const bool newest = pobjPlace.SelectionType == vntSelectionTypeLIFO;
-  if (tokens.IsEmpty()) return nullptr;
-  const auto& nearest = newest ? tokens.Last() : tokens.First();
-  if (usable(*nearest)) return nearest;
-  std::shared_ptr<Token> chosen;
-  for (Collection<Token>::Cursor cursor(tokens); const Token* token = cursor.Next();) {
-    if (!usable(*token)) continue;
-    chosen = cursor.Shared();
-    if (!newest) break;
-  }
-  return chosen;
-}
-
-std::shared_ptr<Token> Firing::NextUnusedOfCase(const Place& pobjPlace) const {
-  const auto* index = CaseIndex::Of(pobjPlace);
-  const auto* ofCase = index ? index->TokensOf(mobjCase.get()) : &pobjPlace.Tokens();
-  if (!ofCase) return nullptr;
-  for (Collection<Token>::Cursor tokens(*ofCase); const Token* token = tokens.Next();) {
-    if (token->WorkCase == mobjCase && TokenRules::IsFree(*token) && !Uses(*token)) return tokens.Shared();
-  }
-  return nullptr;
-}
-
+// Two arcs from one place take two tokens.
 void Firing::TakeWithoutCases() {
   for (Collection<Arc>::Cursor inputs(mobjTransition->InArcs); const Arc* arc = inputs.Next();) {
-    auto token = NextUnused(*arc->Place);
+    auto token = TokenRules::Next(*arc->Place);
     if (!token) throw Error(vntErrInvalidCall);
-    mcolConsumed.push_back(std::move(token));
+    mChosen.Take(*arc->Place, std::move(token));
   }
 }
 
 bool Firing::ChooseCase() {
   const Place* scarcest = nullptr;
   for (Collection<Arc>::Cursor inputs(mobjTransition->InArcs); const Arc* arc = inputs.Next();) {
-    if (!scarcest || arc->Place->Tokens().Count() < scarcest->Tokens().Count()) scarcest = arc->Place.get();
+    if (!scarcest || TokenRules::FreeCount(*arc->Place) < TokenRules::FreeCount(*scarcest)) scarcest = arc->Place.get();
   }
   mblnIgnoreErrors = true;
   const TriggerTypes trigger = mobjTransition->TriggerType();
@@ -152,18 +140,16 @@ bool Firing::ChooseCase() {
   const bool fifo = scarcest && scarcest->SelectionType == vntSelectionTypeFIFO;
   const bool oldestWins = trigger == vntAutomatic ? fifo : gobjVantrel->TakesFirstCase();
   Collection<WorkCase> candidates;
-  if (scarcest) {
-    for (Collection<Token>::Cursor tokens(scarcest->Tokens()); const Token* token = tokens.Next();) {
-      const auto& workCase = token->WorkCase;
-      if (!workCase || candidates.Contains(workCase->Key)) continue;
-      Collection<Arc>::Cursor inputs(mobjTransition->InArcs);
-      const Arc* arc = inputs.Next();
-      while (arc && TokenRules::FirstOf(*arc->Place, workCase.get())) arc = inputs.Next();
-      if (arc) continue;
-      candidates.Add(workCase, workCase->Key);
-      if (oldestWins) break;
-    }
-  }
+  const auto addCaseOf = [&](const Token& pobjToken) {
+    const std::shared_ptr<WorkCase>& workCase = pobjToken.WorkCase;
+    if (!workCase || candidates.Contains(workCase->Key)) return true;
+    Collection<Arc>::Cursor inputs(mobjTransition->InArcs);
+    const Arc* arc = inputs.Next();
+    while (arc && TokenRules::HoldsOf(*arc->Place, workCase.get())) arc = inputs.Next();
+    if (!arc) candidates.Add(workCase, workCase->Key);
+    return arc || !oldestWins;
+  };
+  if (scarcest) TokenRules::VisitFree(*scarcest, addCaseOf);
   if (trigger == vntUser) return AskForCase(candidates);
   if (!candidates.IsEmpty()) mobjCase = oldestWins ? candidates.First() : candidates.Last();
   return true;
@@ -174,20 +160,18 @@ bool Firing::AskForCase(const Collection<WorkCase>& pcolCandidates) {
   for (Collection<WorkCase>::Cursor cases(pcolCandidates); const WorkCase* candidate = cases.Next();) {
     names.push_back(candidate->Name);
   }
+  mblnCanFireAgain = !names.empty();
   const auto chosen = gobjVantrel->SelectOption("Select workcase for consumption.", names);
-  if (!chosen) {
-    if (!names.empty()) mobjTransition->WaitAgain();
-    return false;
-  }
+  if (!chosen) return false;
   if (auto candidate = pcolCandidates.Find(*chosen)) mobjCase = std::move(candidate);
   return true;
 }
 
 void Firing::TakeOfCase() {
   for (Collection<Arc>::Cursor inputs(mobjTransition->InArcs); const Arc* arc = inputs.Next();) {
-    const Place* place = arc->Place.get();
-    auto token = place ? NextUnusedOfCase(*place) : nullptr;
-    if (token) mcolConsumed.push_back(std::move(token));
+    Place* place = arc->Place.get();
+    auto token = place ? TokenRules::NextOf(*place, mobjCase.get()) : nullptr;
+    if (token) mChosen.Take(*place, std::move(token));
   }
 }
 
@@ -200,10 +184,10 @@ Firing::Stage Firing::StartSubflow(TokenGame& pobjGame) {
   }
   mobjTransition->Subflow(mobjSubflow);
   const auto token = mobjSubflow->CreateToken(start, mobjTransition, mobjCase);
-  const auto run = std::make_shared<SubflowRun>(*mobjTransition, mcolConsumed, mobjCase);
-  mobjTransition->mcolRuns.push_back(run);
+  const auto& chosen = mChosen.Tokens();
+  if (!chosen.empty()) token->Tag = chosen.front()->Tag;
+  const auto run = SubflowRun::Start(*mobjTransition, std::move(mChosen), *this, mobjCase);
   mobjRun = run;
-  if (!mcolConsumed.empty()) token->Tag = mcolConsumed.front()->Tag;
   token->mobjRun = run;
   pobjGame.Call<Arrival>(start, token);
   return kFireSubflow;
@@ -211,16 +195,19 @@ Firing::Stage Firing::StartSubflow(TokenGame& pobjGame) {
 
 Firing::Stage Firing::FireSubflow(TokenGame& pobjGame) {
   pobjGame.Call<FiringNext>(mobjSubflow, nullptr);
-  return kReleaseSubflow;
+  return kReevaluate;
 }
 
-// What this firing took no longer counts for others; what else lies in its input places may let it fire again.
-Firing::Stage Firing::ReleaseSubflow(TokenGame& pobjGame) {
-  while (!mobjRun.expired() && mlngNext < mcolConsumed.size()) {
-    const auto place = mcolConsumed[mlngNext++]->Place.Lock();
+// The chosen tokens no longer count for others; what else lies in the input places may let the transition fire again.
+Firing::Stage Firing::Reevaluate(TokenGame& pobjGame) {
+  const auto run = mobjRun.lock();
+  if (!run) return mChosen.Tokens().empty() ? kEnd : kGiveBack;
+  while (mlngNext < run->Tokens().size()) {
+    const auto& token = run->Tokens()[mlngNext++];
+    auto place = token ? token->Place.Lock() : nullptr;
     if (!place) continue;
-    pobjGame.Call<Reevaluation>(place);
-    return kReleaseSubflow;
+    pobjGame.Call<Reevaluation>(std::move(place));
+    return kReevaluate;
   }
   return kEnd;
 }
@@ -236,11 +223,9 @@ bool Firing::ChooseOutputs() {
     }
   }
   if (hasUnguarded) options.emplace_back(kOther);
+  mblnCanFireAgain = !options.empty();
   auto chosen = gobjVantrel->SelectOption("Select ouputs:", options);
-  if (!chosen) {
-    if (!options.empty()) mobjTransition->WaitAgain();
-    return false;
-  }
+  if (!chosen) return false;
   mstrGuard = std::make_unique<std::string>(std::move(*chosen));
   return true;
 }
@@ -248,23 +233,25 @@ bool Firing::ChooseOutputs() {
 Firing::Stage Firing::PrepareOutput(TokenGame& pobjGame) {
   switch (mobjTransition->OutputType()) {
     case vntSelect:
-      if (!ChooseOutputs()) return kEnd;
+      if (!ChooseOutputs()) return kGiveBack;
       break;
     case vntDistribute:
       gobjVantrel->SelectTokens(*mobjTransition->Workflow, *mobjTransition);
-      return kEnd;
+      return kGiveBack;
     case vntProgrammed:
       if (mobjTransition->Action.empty()) {
         MsgBox("Programmed output must be performed by a Action.");
-        return kEnd;
+        return kGiveBack;
       }
       mStage = kWithdraw;  // an action that fails has been run all the same
       gobjVantrel->RunAction(*mobjTransition);
       mblnOutputDone = true;
       return kWithdraw;
     default:
+      mblnCanFireAgain = !mobjTransition->OutArcs.IsEmpty();
       break;
   }
+  mobjOuter = RunOf(mChosen.Tokens());
   pobjGame.EnterOutput(*mobjTransition);
   mobjGame = &pobjGame;
   return kProduce;
@@ -280,22 +267,41 @@ Firing::Stage Firing::Produce(TokenGame& pobjGame) {
     if (!Accepts(*arc)) continue;
     auto place = arc->Place.Lock();
     auto token = mobjTransition->Workflow->CreateToken(arc->Place, mobjTransition, mobjCase);
-    token->mobjRun = RunOf(mcolConsumed);
+    token->mobjRun = mobjOuter;
     mblnOutputDone = true;
     pobjGame.Call<Arrival>(std::move(place), std::move(token));
     return kProduce;
   }
   EndOutput();
-  return mblnOutputDone ? kWithdraw : kEnd;
+  return mblnOutputDone ? kWithdraw : kGiveBack;
 }
 
 Firing::Stage Firing::Withdraw(TokenGame& pobjGame) {
-  if (mlngNext >= mcolConsumed.size()) return kEnd;
-  const auto& token = mcolConsumed[mlngNext];
-  token->ConsumeTransition = mobjTransition;
-  token->Dirty = true;
-  pobjGame.Call<Departure>(token->Place->Share(), token);
-  return kDated;
+  for (; mlngNext < mChosen.Tokens().size(); ++mlngNext) {
+    const auto& token = mChosen.Tokens()[mlngNext];
+    auto place = token ? token->Place.Lock() : nullptr;
+    if (!place) continue;
+    token->ConsumeTransition = mobjTransition;
+    token->Dirty = true;
+    pobjGame.Call<Departure>(std::move(place), token, Departure::kConsumed);
+    return kDated;
+  }
+  return kEnd;
+}
+
+Firing::Stage Firing::GiveBack(TokenGame& pobjGame) {
+  if (mlngNext == 0) {
+    mChosen.GiveBack();
+    if (mblnCanFireAgain) Enabling::Settle(*mobjTransition);
+  }
+  while (mlngNext < mChosen.Tokens().size()) {
+    const auto& token = mChosen.Tokens()[mlngNext++];
+    auto place = token ? token->Place.Lock() : nullptr;
+    if (!place) continue;
+    pobjGame.Call<SecondLook>(std::move(place));
+    return kGiveBack;
+  }
+  return kEnd;
 }
 
 }  // namespace vantrel

@@ -22,8 +22,7 @@ bool FiringNext::Advance(TokenGame& pobjGame) {
   return true;
 }
 
-// An automatic transition stays on the stack while it fires. When a subflow ends inside that firing and asks for the next
-// transition, taking the same one would use its tokens twice.
+// When a subflow ends inside a firing and asks for the next transition, one that is still about to consume has its turn later.
 std::shared_ptr<Transition> FiringNext::FirstWaiting() const {
   for (Collection<Transition>::Cursor stack(mobjWorkflow->FiringStack); const Transition* transition = stack.Next();) {
     if (transition->mFiringsUnderWay == 0) return stack.Shared();

@@ -3,6 +3,8 @@
 #include "model/DesignerState.h"
 #include "model/game/Arrival.h"
 #include "model/game/Departure.h"
+#include "model/game/Enabling.h"
+#include "model/game/Firing.h"
 #include "model/game/FiringNext.h"
 
 namespace vantrel {
@@ -22,7 +24,7 @@ bool SubflowDelivery::Advance(TokenGame& pobjGame) {
     mStage = mManner == kAllAtOnce ? kAdd : kProduce;
   }
   if (mStage == kDated) {
-    mcolConsumed[mlngNext++]->DateConsumed = Date::Now();
+    if (const auto token = mChosen->Leave(mlngNext++)) token->DateConsumed = Date::Now();
     mStage = kWithdraw;
   }
   switch (mStage) {
@@ -46,11 +48,17 @@ bool SubflowDelivery::Advance(TokenGame& pobjGame) {
   return true;
 }
 
-SubflowDelivery::~SubflowDelivery() {
-  EndOutput();
-  const bool failed = mStage != kEnd && mStage != kGoOn;
-  if (!failed) return;
-  for (const auto& token : mcolConsumed) token->mblnTaken = false;  // the run is over: others may use what stayed behind
+SubflowDelivery::~SubflowDelivery() { EndOutput(); }
+
+// The run is over: others may use what stays behind.
+bool SubflowDelivery::Absorb(const Error& /*pobjError*/) {
+  if (!mChosen) return false;
+  mChosen->GiveBack();
+  Enabling::Settle(*mobjTransition);
+  for (const auto& token : mChosen->Tokens()) {
+    if (token) Enabling::SettleAround(*token);
+  }
+  return false;
 }
 
 void SubflowDelivery::EndOutput() {
@@ -61,15 +69,12 @@ void SubflowDelivery::EndOutput() {
 
 // From here on, whatever else finishes for this run comes too late.
 void SubflowDelivery::EndRun() {
-  std::shared_ptr<SubflowRun> run;
-  if (const auto* own = mobjFinished->Run().get(); own && own->Owner() == mobjTransition) {
-    run = SubflowRun::Shared(*own);
-  } else {
-    run = SubflowRun::OldestOf(*mobjTransition, mobjFinished->WorkCase.get());
-  }
+  SubflowRun* run = mobjFinished->Run().get();
+  if (!run || !(run->Owner() == mobjTransition)) run = SubflowRun::OldestOf(*mobjTransition, mobjFinished->WorkCase.get());
   if (!run) return;
   mobjOuter = run->Outer();
-  mcolConsumed = run->End();
+  mobjStarter = run->Starter();
+  mChosen.emplace(run->End());
 }
 
 std::shared_ptr<Token> SubflowDelivery::MakeToken(const Arc& pobjArc, Workflow& pobjWorkflow) const {
@@ -108,18 +113,16 @@ SubflowDelivery::Stage SubflowDelivery::Add(TokenGame& pobjGame) {
 }
 
 SubflowDelivery::Stage SubflowDelivery::Withdraw(TokenGame& pobjGame) {
-  while (mlngNext < mcolConsumed.size()) {
-    const auto& token = mcolConsumed[mlngNext];
-    token->mblnTaken = false;
-    const auto place = token->Place.Lock();
-    if (place && place->Tokens().Find(token->Key) == token) {
-      token->ConsumeTransition = mobjTransition;
-      token->Dirty = true;
-      pobjGame.Call<Departure>(place, token);
-      return kDated;
-    }
-    ++mlngNext;  // taken away by hand meanwhile
+  for (; mChosen && mlngNext < mChosen->Tokens().size(); ++mlngNext) {
+    const auto& token = mChosen->Tokens()[mlngNext];
+    auto place = token ? token->Place.Lock() : nullptr;
+    if (!place) continue;
+    token->ConsumeTransition = mobjTransition;
+    token->Dirty = true;
+    pobjGame.Call<Departure>(std::move(place), token, Departure::kConsumed);
+    return kDated;
   }
+  if (mobjStarter) mobjStarter->Delivered();
   return kGoOn;
 }
 

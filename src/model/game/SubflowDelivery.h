@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "model/Workflow.h"
@@ -10,7 +11,7 @@
 
 namespace vantrel {
 
-/// Produces the output of a transition whose subflow has finished with a token, lets the tokens that the firing consumed
+/// Produces the output of a transition whose subflow has finished with a token, lets the tokens that the firing chose
 /// leave their places, and goes on with the transition's workflow.
 class SubflowDelivery final : public GameStep {
  public:
@@ -21,6 +22,7 @@ class SubflowDelivery final : public GameStep {
   SubflowDelivery(std::shared_ptr<Transition> pobjTransition, std::shared_ptr<Token> pobjFinished, Manner pManner);
   ~SubflowDelivery() override;
   bool Advance(TokenGame& pobjGame) override;
+  bool Absorb(const Error& pobjError) override;
 
  private:
   enum Stage : std::uint8_t { kStart, kProduce, kAdd, kWithdraw, kDated, kGoOn, kEnd };
@@ -35,7 +37,8 @@ class SubflowDelivery final : public GameStep {
   std::shared_ptr<Transition> mobjTransition;
   std::shared_ptr<Token> mobjFinished;
   Ref<SubflowRun> mobjOuter;
-  std::vector<std::shared_ptr<Token>> mcolConsumed;
+  std::optional<Reservation> mChosen;  // what the firing chose; nothing without a run
+  Firing* mobjStarter = nullptr;       // the firing that started the subflow, while it is under way
   std::vector<std::shared_ptr<Token>> mcolMade;
   Collection<Arc>::Cursor mOutputs;
   TokenGame* mobjGame = nullptr;  // while output is under way

@@ -1,57 +1,40 @@
 #include "model/game/SubflowRun.h"
 
-#include <algorithm>
-
 #include "model/Workflow.h"
 
 namespace vantrel {
 
-SubflowRun::SubflowRun(Transition& pobjTransition, const std::vector<std::shared_ptr<Token>>& pcolConsumed,
-                       std::shared_ptr<WorkCase> pobjCase)
-    : mobjTransition(&pobjTransition), mcolConsumed(pcolConsumed), mobjCase(std::move(pobjCase)), mobjOuter(RunOf(pcolConsumed)) {
-  for (const auto& token : mcolConsumed) token->mblnTaken = true;
-}
+SubflowRun::SubflowRun(Transition& pobjTransition, Reservation&& pChosen, Firing& pobjStarter, std::shared_ptr<WorkCase> pobjCase)
+    : mobjTransition(&pobjTransition),
+      mobjCase(std::move(pobjCase)),
+      mChosen(std::move(pChosen)),
+      mobjOuter(RunOf(mChosen.Tokens())),
+      mobjStarter(&pobjStarter) {}
 
-SubflowRun::~SubflowRun() {
-  for (const auto& token : mcolConsumed) token->mblnTaken = false;
-}
-
-std::shared_ptr<SubflowRun> SubflowRun::Shared(const SubflowRun& pobjRun) {
-  if (!pobjRun.mobjTransition) return nullptr;
-  for (const auto& run : pobjRun.mobjTransition->mcolRuns) {
-    if (run.get() == &pobjRun) return run;
-  }
-  return nullptr;
-}
-
-std::shared_ptr<SubflowRun> SubflowRun::OldestOf(const Transition& pobjTransition, const WorkCase* pobjCase) {
-  for (const auto& run : pobjTransition.mcolRuns) {
-    if (run->mobjCase.get() == pobjCase) return run;
-  }
-  return nullptr;
-}
-
-void SubflowRun::Forget(Transition& pobjTransition, const Token& pobjToken) {
+std::shared_ptr<SubflowRun> SubflowRun::Start(Transition& pobjTransition, Reservation&& pChosen, Firing& pobjStarter,
+                                              std::shared_ptr<WorkCase> pobjCase) {
+  auto run = std::make_shared<SubflowRun>(pobjTransition, std::move(pChosen), pobjStarter, std::move(pobjCase));
   auto& runs = pobjTransition.mcolRuns;
-  for (auto run = runs.begin(); run != runs.end(); ++run) {
-    auto& tokens = (*run)->mcolConsumed;
-    if (std::erase_if(tokens, [&](const auto& token) { return token.get() == &pobjToken; }) == 0) continue;
-    if (tokens.empty()) runs.erase(run);
-    return;
-  }
+  run->mWhere = runs.insert(runs.end(), run);
+  return run;
 }
 
-std::vector<std::shared_ptr<Token>> SubflowRun::End() {
-  auto consumed = std::exchange(mcolConsumed, {});
-  if (auto* transition = mobjTransition.get()) {
-    std::erase_if(transition->mcolRuns, [&](const auto& run) { return run.get() == this; });
+SubflowRun* SubflowRun::OldestOf(const Transition& pobjTransition, const WorkCase* pobjCase) {
+  for (const auto& run : pobjTransition.mcolRuns) {
+    if (run->mobjCase.get() == pobjCase) return run.get();
   }
-  return consumed;  // still taken: each is freed when it leaves its place
+  return nullptr;
+}
+
+Reservation SubflowRun::End() {
+  Reservation chosen = std::move(mChosen);
+  mobjTransition->mcolRuns.erase(mWhere);  // the run dies here
+  return chosen;
 }
 
 Ref<SubflowRun> RunOf(const std::vector<std::shared_ptr<Token>>& pcolTokens) {
   for (const auto& token : pcolTokens) {
-    if (token->Run().IsSet()) return token->Run();
+    if (token && token->Run().IsSet()) return token->Run();
   }
   return nullptr;
 }

@@ -1,45 +1,50 @@
 // One firing of a transition whose subflow has not delivered yet.
 #pragma once
 
+#include <list>
 #include <memory>
 #include <vector>
 
 #include "model/Forward.h"
+#include "model/game/Reservation.h"
 #include "util/Ref.h"
 
 namespace vantrel {
 
-/// Keeps what the firing consumed until the subflow delivers: the tokens lie in their places, but no other firing may use
-/// them. Tokens inside the subflow refer to the run that they take part in, so that two runs at the same time each deliver
-/// once and for their own tokens. Owned by the transition.
+class Firing;
+
+/// Keeps the tokens that the firing chose until the subflow delivers. Tokens inside the subflow refer to the run that they take
+/// part in, so that two runs at the same time each deliver once and for their own tokens. Owned by the transition.
 class SubflowRun final : public Referable {
  public:
-  /// Marks the tokens as taken.
-  SubflowRun(Transition& pobjTransition, const std::vector<std::shared_ptr<Token>>& pcolConsumed, std::shared_ptr<WorkCase> pobjCase);
-  /// Frees the tokens.
-  ~SubflowRun();
+  /// A run that begins, the transition's newest.
+  static std::shared_ptr<SubflowRun> Start(Transition& pobjTransition, Reservation&& pChosen, Firing& pobjStarter,
+                                           std::shared_ptr<WorkCase> pobjCase);
+  /// Use Start.
+  SubflowRun(Transition& pobjTransition, Reservation&& pChosen, Firing& pobjStarter, std::shared_ptr<WorkCase> pobjCase);
   SubflowRun(const SubflowRun&) = delete;
   SubflowRun& operator=(const SubflowRun&) = delete;
 
   const Ref<Transition>& Owner() const { return mobjTransition; }
-  const std::shared_ptr<WorkCase>& Case() const { return mobjCase; }
-  /// The run that the consumed tokens themselves take part in, when the transition's workflow is a subflow, too.
+  /// The run that the chosen tokens themselves take part in, when the transition's workflow is a subflow, too.
   const Ref<SubflowRun>& Outer() const { return mobjOuter; }
+  const std::vector<std::shared_ptr<Token>>& Tokens() const { return mChosen.Tokens(); }
+  /// The firing that started it, while that is still under way.
+  Firing* Starter() const { return mobjStarter; }
+  void Starter(Firing* pobjStarter) { mobjStarter = pobjStarter; }
 
-  /// The owner's share in a run; null once it has ended.
-  static std::shared_ptr<SubflowRun> Shared(const SubflowRun& pobjRun);
   /// The oldest run of the transition for a case, or null.
-  static std::shared_ptr<SubflowRun> OldestOf(const Transition& pobjTransition, const WorkCase* pobjCase);
-  /// Takes a token out of the run that has it; a run that has nothing left ends without delivery.
-  static void Forget(Transition& pobjTransition, const Token& pobjToken);
-  /// Ends the run and hands out what it consumed, in the order of consumption.
-  std::vector<std::shared_ptr<Token>> End();
+  static SubflowRun* OldestOf(const Transition& pobjTransition, const WorkCase* pobjCase);
+  /// Ends the run and hands out what was chosen.
+  Reservation End();
 
  private:
   Ref<Transition> mobjTransition;
-  std::vector<std::shared_ptr<Token>> mcolConsumed;
   std::shared_ptr<WorkCase> mobjCase;
+  Reservation mChosen;
   Ref<SubflowRun> mobjOuter;
+  Firing* mobjStarter;
+  std::list<std::shared_ptr<SubflowRun>>::iterator mWhere;
 };
 
 /// The run that a firing takes part in: the first that one of its tokens knows, be it over or not.

@@ -2,22 +2,21 @@
 
 #include "model/DesignerState.h"
 #include "model/Workflow.h"
-#include "model/game/CaseIndex.h"
+#include "model/game/TokenIndex.h"
 
 namespace vantrel {
 
 namespace {
 
-template <class Accepts>
-Token* FirstFree(const Collection<Token>& pcolTokens, Accepts&& pAccepts) {
-  Collection<Token>::Cursor tokens(pcolTokens);
-  while (Token* token = tokens.Next()) {
-    if (TokenRules::IsFree(*token) && pAccepts(*token)) return token;
-  }
-  return nullptr;
-}
+constexpr std::int32_t kCrowd = 64;  // fewer tokens are walked through as fast as they are looked up
 
-bool Any(const Token&) { return true; }
+template <class Accepts>
+Token* FirstThat(const Place& pobjPlace, Accepts&& pAccepts) {
+  Collection<Token>::Cursor tokens(pobjPlace.Tokens());
+  Token* token = tokens.Next();
+  while (token && !pAccepts(*token)) token = tokens.Next();
+  return token;
+}
 
 }  // namespace
 
@@ -27,34 +26,125 @@ bool TokenRules::CaseTracking(const Node& pobjNode) {
   return leading && leading->CaseTracking;
 }
 
-Token* TokenRules::FirstBehind(const Place& pobjPlace) { return FirstFree(pobjPlace.Tokens(), Any); }
-
-Token* TokenRules::FirstOf(const Place& pobjPlace, const WorkCase* pobjCase) {
-  if (const auto* index = CaseIndex::Of(pobjPlace)) {
-    const auto* tokens = index->TokensOf(pobjCase);
-    return tokens ? FirstFree(*tokens, Any) : nullptr;
+void TokenRules::Recount(const Place& pobjPlace) {
+  pobjPlace.mobjIndex.reset();
+  pobjPlace.mlngTaken = 0;
+  pobjPlace.mlngKnownChanges = pobjPlace.Tokens().Changes();
+  for (Collection<Token>::Cursor tokens(pobjPlace.Tokens()); const Token* token = tokens.Next();) {
+    pobjPlace.mlngTaken += token->mblnTaken;
+    // Put in by hand: the place will not hear of its changes, so it is asked anew each time.
+    if (!(token->Place == &pobjPlace)) Forget(pobjPlace);
   }
-  return FirstFree(pobjPlace.Tokens(), [&](const Token& pobjToken) { return pobjToken.WorkCase.get() == pobjCase; });
 }
 
-bool TokenRules::ServesCase(const Place& pobjPlace, const WorkCase* pobjCase) {
-  return FirstOf(pobjPlace, pobjCase) || (pobjCase && FirstOf(pobjPlace, nullptr));
+void TokenRules::Forget(const Place& pobjPlace) { pobjPlace.mlngKnownChanges = pobjPlace.Tokens().Changes() - 1; }
+
+TokenIndex* TokenRules::IndexOf(const Place& pobjPlace) {
+  Refresh(pobjPlace);
+  auto& index = pobjPlace.mobjIndex;
+  const auto count = pobjPlace.Tokens().Count();
+  if (index && count < kCrowd / 2) index.reset();
+  if (!index && count >= kCrowd) index = std::make_unique<TokenIndex>(pobjPlace.Tokens());
+  return index.get();
 }
 
-bool TokenRules::HoldsEnabledBehind(const Place& pobjPlace) {
-  const auto* index = CaseIndex::Of(pobjPlace);
-  const auto& tokens = index ? index->Marked() : pobjPlace.Tokens();
-  return FirstFree(tokens, [](const Token& pobjToken) { return pobjToken.mblnCaseEnabled; }) != nullptr;
+std::shared_ptr<Token> TokenRules::Shared(const Place& pobjPlace, const Token* pobjToken) {
+  return pobjToken ? pobjPlace.Tokens().Find(pobjToken->Key) : nullptr;
 }
 
-void TokenRules::MarkEnabled(Place& pobjPlace, const WorkCase* pobjCase) {
-  if (auto* index = CaseIndex::Of(pobjPlace)) {
+bool TokenRules::HoldsOf(const Place& pobjPlace, const WorkCase* pobjCase, Which pWhich) {
+  if (!Holds(pobjPlace, pWhich)) return false;
+  if (const auto* index = IndexOf(pobjPlace)) return pWhich == kAll ? index->HasAnyOf(pobjCase) : index->FreeOf(pobjCase) != nullptr;
+  return FirstThat(pobjPlace, [&](const Token& token) { return token.WorkCase.get() == pobjCase && Counts(token, pWhich); });
+}
+
+bool TokenRules::HoldsMarked(const Place& pobjPlace, Which pWhich) {
+  if (!Holds(pobjPlace, pWhich)) return false;
+  if (const auto* index = IndexOf(pobjPlace)) return pWhich == kAll ? index->HasMarked() : index->HasFreeMarked();
+  return FirstThat(pobjPlace, [&](const Token& token) { return token.mblnCaseEnabled && Counts(token, pWhich); });
+}
+
+std::shared_ptr<Token> TokenRules::Next(const Place& pobjPlace) {
+  if (FreeCount(pobjPlace) <= 0) return nullptr;
+  const auto& tokens = pobjPlace.Tokens();
+  const bool newest = pobjPlace.SelectionType == vntSelectionTypeLIFO;
+  const auto& nearest = newest ? tokens.Last() : tokens.First();
+  if (IsFree(*nearest)) return nearest;
+  if (const auto* index = IndexOf(pobjPlace)) {
+    return Shared(pobjPlace, newest ? index->Free().rbegin()->second : index->Free().begin()->second);
+  }
+  const Token* chosen = nullptr;
+  VisitFree(pobjPlace, [&](const Token& token) {
+    chosen = &token;
+    return newest;
+  });
+  return Shared(pobjPlace, chosen);
+}
+
+std::shared_ptr<Token> TokenRules::NextOf(const Place& pobjPlace, const WorkCase* pobjCase) {
+  if (FreeCount(pobjPlace) <= 0) return nullptr;
+  if (const auto* index = IndexOf(pobjPlace)) {
+    const auto* free = index->FreeOf(pobjCase);
+    return free ? Shared(pobjPlace, free->begin()->second) : nullptr;
+  }
+  return Shared(pobjPlace, FirstThat(pobjPlace, [&](const Token& token) { return token.WorkCase.get() == pobjCase && IsFree(token); }));
+}
+
+bool TokenRules::MarkEnabled(Place& pobjPlace, const WorkCase* pobjCase) {
+  bool any = false;
+  if (auto* index = IndexOf(pobjPlace)) {
+    any = index->HasAnyOf(pobjCase);
     index->MarkAll(pobjCase);
-    return;
+  } else {
+    for (Collection<Token>::Cursor tokens(pobjPlace.Tokens()); Token* token = tokens.Next();) {
+      if (token->WorkCase.get() != pobjCase) continue;
+      token->mblnCaseEnabled.mblnOn = any = true;
+    }
   }
-  for (Collection<Token>::Cursor cursor(pobjPlace.Tokens()); Token* token = cursor.Next();) {
-    if (token->WorkCase.get() == pobjCase) token->CaseEnabled(true);
+  if (any) pobjPlace.CaseEnabled(true);
+  return any && pobjPlace.Image;
+}
+
+void TokenRules::Add(Place& pobjPlace, const std::shared_ptr<Token>& pobjToken) {
+  auto& tokens = pobjPlace.Tokens();
+  tokens.Add(pobjToken, pobjToken->Key);
+  if (++pobjPlace.mlngKnownChanges != tokens.Changes()) return Forget(pobjPlace);
+  auto& index = pobjPlace.mobjIndex;
+  if (!index) return;
+  if (index->IsWornOut()) {
+    index.reset();
+  } else {
+    index->Add(*pobjToken);
   }
+}
+
+std::shared_ptr<Token> TokenRules::Remove(Place& pobjPlace, const Token* pobjToken) {
+  auto& tokens = pobjPlace.Tokens();
+  auto token = pobjToken && !pobjToken->Key.empty() ? tokens.Take(pobjToken->Key) : tokens.TakeFirst();
+  if (++pobjPlace.mlngKnownChanges == tokens.Changes()) {
+    pobjPlace.mlngTaken -= token->mblnTaken;
+    if (auto* index = pobjPlace.mobjIndex.get()) index->Remove(*token);
+  } else {
+    Forget(pobjPlace);
+  }
+  token->mblnTaken = false;
+  return token;
+}
+
+void TokenRules::Take(Place& pobjPlace, Token& pobjToken) {
+  Refresh(pobjPlace);
+  pobjToken.mblnTaken = true;
+  ++pobjPlace.mlngTaken;
+  if (auto* index = pobjPlace.mobjIndex.get()) index->Take(pobjToken);
+}
+
+void TokenRules::GiveBack(Token& pobjToken) {
+  pobjToken.mblnTaken = false;
+  const auto* place = pobjToken.Place.get();
+  if (!place || place->mlngKnownChanges != place->Tokens().Changes()) return;  // will be counted anew
+  if (place->Tokens().Find(pobjToken.Key).get() != &pobjToken) return;
+  --place->mlngTaken;
+  if (auto* index = place->mobjIndex.get()) index->GiveBack(pobjToken);
 }
 
 }  // namespace vantrel

@@ -4,45 +4,80 @@
 #include <memory>
 
 #include "model/Place.h"
+#include "model/game/TokenIndex.h"
 
 namespace vantrel {
 
-/// Questions of the token game about places and their tokens. A token that a firing has taken for its subflow counts for
-/// no other firing. With case tracking on, "of a case" means the same WorkCase object; tokens without a case are of no
-/// case, which is a case like any other here.
+/// What the token game asks of places and their tokens, and the only way in which it changes them. A token that a firing has
+/// chosen is taken: until it leaves or is given back it counts for no other firing. The others are free. With case tracking
+/// on, "of a case" means the same WorkCase object; tokens without a case are of no case, which is a case like any other here.
 class TokenRules {
  public:
+  /// Whose tokens a question is about.
+  enum Which : std::uint8_t { kFree, kAll };
+
   /// The case tracking that counts: the shown workflow's; the object's own workflow's while none is shown.
   static bool CaseTracking(const Node& pobjNode);
 
   static bool IsFree(const Token& pobjToken) { return !pobjToken.mblnTaken; }
-  /// The first free token of the place, or null.
-  static Token* First(const Place& pobjPlace) {
-    const auto& tokens = pobjPlace.Tokens();
-    if (tokens.IsEmpty()) return nullptr;
-    Token* const first = tokens.First().get();
-    return IsFree(*first) ? first : FirstBehind(pobjPlace);
+  static std::int32_t FreeCount(const Place& pobjPlace) {
+    Refresh(pobjPlace);
+    return pobjPlace.Tokens().Count() - pobjPlace.mlngTaken;
   }
+  static bool HasTaken(const Place& pobjPlace) { return pobjPlace.mlngTaken > 0; }
+  /// A token at all.
+  static bool Holds(const Place& pobjPlace, Which pWhich = kFree) {
+    return pWhich == kAll ? !pobjPlace.Tokens().IsEmpty() : FreeCount(pobjPlace) > 0;
+  }
+  /// A token of the case.
+  static bool HoldsOf(const Place& pobjPlace, const WorkCase* pobjCase, Which pWhich = kFree);
+  /// A token that serves a newly arrived token's case: any without case tracking, else one of the case or of none.
+  static bool Serves(const Place& pobjPlace, const WorkCase* pobjCase, bool pblnTracking, Which pWhich = kFree) {
+    if (!pblnTracking) return Holds(pobjPlace, pWhich);
+    return HoldsOf(pobjPlace, pobjCase, pWhich) || (pobjCase && HoldsOf(pobjPlace, nullptr, pWhich));
+  }
+  /// A token that is marked as case-enabled.
+  static bool HoldsMarked(const Place& pobjPlace, Which pWhich = kFree);
+
+  /// The free token that the place's selection type names, or null.
+  static std::shared_ptr<Token> Next(const Place& pobjPlace);
   /// The first free token of the case, or null.
-  static Token* FirstOf(const Place& pobjPlace, const WorkCase* pobjCase);
-  /// A free token that serves a newly arrived token's case: any without case tracking, else one of the case or of none.
-  static bool Serves(const Place& pobjPlace, const WorkCase* pobjCase, bool pblnTracking) {
-    return pblnTracking ? ServesCase(pobjPlace, pobjCase) : First(pobjPlace) != nullptr;
+  static std::shared_ptr<Token> NextOf(const Place& pobjPlace, const WorkCase* pobjCase);
+  /// Shows all free tokens to `pSee`, in order of arrival, until it answers false.
+  template <class See>
+  static void VisitFree(const Place& pobjPlace, See&& pSee) {
+    if (const auto* index = IndexOf(pobjPlace)) {
+      for (const auto& [arrival, token] : index->Free()) {
+        if (!pSee(*token)) return;
+      }
+      return;
+    }
+    for (Collection<Token>::Cursor tokens(pobjPlace.Tokens()); const Token* token = tokens.Next();) {
+      if (IsFree(*token) && !pSee(*token)) return;
+    }
   }
-  /// A free token that is marked as case-enabled.
-  static bool HoldsEnabled(const Place& pobjPlace) {
-    const auto& tokens = pobjPlace.Tokens();
-    if (tokens.IsEmpty()) return false;
-    const Token& first = *tokens.First();
-    return (first.mblnCaseEnabled && IsFree(first)) || HoldsEnabledBehind(pobjPlace);
-  }
-  /// Marks every token of the case that lies in the place as case-enabled, and with it the place.
-  static void MarkEnabled(Place& pobjPlace, const WorkCase* pobjCase);
+
+  /// Marks every token of the case that lies in the place as case-enabled, and with it the place. True when that was shown on
+  /// the chart, which lets the user do things.
+  static bool MarkEnabled(Place& pobjPlace, const WorkCase* pobjCase);
+
+  static void Add(Place& pobjPlace, const std::shared_ptr<Token>& pobjToken);
+  /// Takes a token out of the place; one without key means the first. Error 5 when it does not lie there.
+  static std::shared_ptr<Token> Remove(Place& pobjPlace, const Token* pobjToken);
+  static bool LiesIn(const Place& pobjPlace, const Token& pobjToken) { return pobjPlace.Tokens().RankOf(pobjToken.Key, &pobjToken) >= 0; }
+  static void Take(Place& pobjPlace, Token& pobjToken);
+  static void GiveBack(Token& pobjToken);
+  /// Somebody changed tokens of the place by hand: what is known of them is no longer true.
+  static void Forget(const Place& pobjPlace);
 
  private:
-  static Token* FirstBehind(const Place& pobjPlace);
-  static bool HoldsEnabledBehind(const Place& pobjPlace);
-  static bool ServesCase(const Place& pobjPlace, const WorkCase* pobjCase);
+  static void Refresh(const Place& pobjPlace) {
+    if (pobjPlace.mlngKnownChanges != pobjPlace.Tokens().Changes()) Recount(pobjPlace);
+  }
+  static void Recount(const Place& pobjPlace);
+  static TokenIndex* IndexOf(const Place& pobjPlace);
+  static std::shared_ptr<Token> Shared(const Place& pobjPlace, const Token* pobjToken);
+  static bool Counts(const Token& pobjToken, Which pWhich) { return pWhich == kAll || IsFree(pobjToken); }
 };
 
 }  // namespace vantrel

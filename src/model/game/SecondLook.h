@@ -1,0 +1,31 @@
+// A token stays in its place after all.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "model/Place.h"
+#include "model/game/Enabling.h"
+#include "model/game/TokenGame.h"
+
+namespace vantrel {
+
+/// Asks the transitions behind a place again that would have been enabled but for a token that a firing had chosen, and
+/// fires the automatic ones.
+class SecondLook final : public GameStep {
+ public:
+  explicit SecondLook(std::shared_ptr<Place> pobjPlace);
+  bool Advance(TokenGame& pobjGame) override;
+
+ private:
+  bool NextTransition();
+
+  std::shared_ptr<Place> mobjPlace;
+  Collection<Arc>::Cursor mArcs;
+  std::shared_ptr<Transition> mobjTransition;
+  std::vector<Enabling::Question> mcolQuestions;  // of the transition
+  std::size_t mlngNext = 0;                       // of the questions
+  bool mblnTracking;
+};
+
+}  // namespace vantrel
