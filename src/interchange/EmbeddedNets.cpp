@@ -6,7 +6,7 @@ namespace vantrel {
 
 namespace {
 
-constexpr int kDeepest = 256;  // workflows that own each other are let go of one within the other
+constexpr int kDeepest = 256;  // the destructors of workflows that own each other run nested
 
 }  // namespace
 
@@ -31,7 +31,7 @@ void EmbeddedNets::Link(const PnmlXml& pobjXml) {
   for (const Use& use : mUses) use.Where->Object(use.Inner);
 }
 
-// Takes off one level after the other what nothing embeds any more (Kahn 1962); a circle stays.
+// Removes level after level of workflows that no remaining one embeds (Kahn 1962). Only circles remain.
 void EmbeddedNets::CheckNesting(const PnmlXml& pobjXml) const {
   std::unordered_map<const Workflow*, std::vector<const Use*>> within;
   std::unordered_map<const Workflow*, int> waiting;  // uses that hold a workflow

@@ -9,21 +9,21 @@
 
 namespace vantrel {
 
-/// The ids of a document that is being written: each an XML name (of ASCII letters, so that every version of XML takes it) and there once.
-/// An object keeps the id that it came with, its HiddenTag, where it can; else its key, or its key with a number, serves.
+/// The ids of a document that is being written. Each is unique and an XML name of ASCII letters, which every version of XML accepts. An
+/// object keeps its HiddenTag, the id that it was read with, if possible; else it gets its key, or its key with a number.
 class ExportIds {
  public:
-  /// An id of its own for something that is no object of a workflow.
+  /// A new id for something other than an object of a workflow.
   std::string Make(std::string_view pstrWanted, std::string_view pstrOtherwise);
 
   /// Makes the ids of a workflow's places, transitions and arcs.
   void Add(const Workflow& pobjWorkflow);
-  /// Empty for an object that none of the added workflows has.
+  /// Empty for an object of no added workflow.
   const std::string& Of(const Object* pobjObject) const;
 
  private:
   std::unordered_set<std::string> mTaken;
-  std::unordered_map<std::string, int> mNumbers;  // last number tried behind an id
+  std::unordered_map<std::string, int> mNumbers;  // last number tried after an id
   std::unordered_map<const Object*, std::string> mIds;
 };
 

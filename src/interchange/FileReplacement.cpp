@@ -33,7 +33,7 @@ void WriteAll(File pobjFile, std::string_view pstrBytes, const std::string& pstr
   if (!written || !closed) Fail(pstrPath, std::strerror(written ? errno : problem));
 }
 
-/// A file of its own in the folder of the target, gone at the end of the scope unless it has become the target.
+/// A temporary file in the folder of the target. Removed at the end of the scope unless it has become the target.
 class NeighbourFile {
  public:
   explicit NeighbourFile(const fs::path& pobjTarget) {

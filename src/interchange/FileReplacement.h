@@ -5,8 +5,8 @@
 
 namespace vantrel {
 
-/// Makes a file of these bytes. An existing one is replaced in one step once everything is written beside it, keeps its permissions, and
-/// stays as it is when something fails; a link is followed. Pipes and devices are written to.
+/// Writes these bytes to a file. Writes an existing one beside itself first and then replaces it in one step: it keeps its permissions, and
+/// a failure leaves it as it was. Follows a link. Writes to pipes and devices directly.
 /// Throws PnmlError that names the file.
 void ReplaceFile(const std::string& pstrPath, std::string_view pstrBytes);
 

@@ -47,7 +47,7 @@ NetPlacement LayOut(const PnmlNet& pobjNet, const NodeNumbers& pcolNumbers) {
   for (const PnmlArc& arc : pobjNet.Arcs) graph.Edges.push_back({pcolNumbers.at(arc.Source), pcolNumbers.at(arc.Target)});
   graph.Start = StartOf(pobjNet, graph.Edges);
   LayoutResult drawing = ArrangeInLayers(graph);
-  // The picture lies within the node's room, right of its connector and under its caption; bend points are points of the drawing.
+  // The picture is inside the node's room, right of its connector and under its caption. Bend points are points of the drawing.
   for (auto& point : drawing.TopLeft) {
     point.X += kMargin + kConnector;
     point.Y += kMargin + kCaptionHeight;
@@ -61,7 +61,7 @@ NetPlacement LayOut(const PnmlNet& pobjNet, const NodeNumbers& pcolNumbers) {
   return {std::move(drawing.TopLeft), std::move(drawing.Bends), true};
 }
 
-// A net of our own has no needless ones.
+// A net that this system wrote has no needless ones.
 std::vector<LayoutPoint> NeededBends(const PnmlArc& pobjArc, const PnmlPoint& pobjFrom, const PnmlPoint& pobjTo, bool pblnOwn) {
   if (pobjArc.Bends.empty()) return {};
   std::vector<PlanePoint> line = {pobjFrom};

@@ -14,7 +14,7 @@ namespace vantrel {
 struct NetPlacement {
   std::vector<LayoutPoint> TopLeft;             ///< of each node
   std::vector<std::vector<LayoutPoint>> Bends;  ///< of each arc, from source to target, none of them on a straight line
-  bool IsLaidOut = false;                       ///< the file's positions were of no use
+  bool IsLaidOut = false;                       ///< the file's positions were not usable
 };
 
 /// Numbers of a net's nodes by id.

@@ -2,7 +2,7 @@
 
 namespace vantrel {
 
-/// A point of a drawing; y grows downwards. Who uses it says the unit.
+/// A point of a drawing; y grows downwards. Its users say which unit.
 struct PlanePoint {
   double X = 0;
   double Y = 0;

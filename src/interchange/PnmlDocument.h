@@ -16,7 +16,7 @@ namespace vantrel {
 
 class PnmlXml;
 
-/// The section of the tool "Vantrel" in an element of a file, as the handle of an XML node; good while PnmlNet::Source lives.
+/// The section of the tool "Vantrel" in an element of a file: the handle of an XML node, valid while PnmlNet::Source lives.
 using PnmlSection = pugi::xml_node_struct*;
 
 /// In the units of the file: pixels.
@@ -24,12 +24,12 @@ using PnmlPoint = PlanePoint;
 
 enum class PnmlKind : std::uint8_t { Place, Transition };
 
-/// What a place of a sub-process page is to the transition around it.
+/// How a place on the page of a sub-process relates to the transition.
 enum class PnmlBorder : std::uint8_t { None, Start, End };
 
 struct PnmlNet;
 
-/// A place or a transition as the file has it.
+/// A place or a transition as it is in the file.
 struct PnmlNode {
   PnmlKind Kind = PnmlKind::Place;
   std::string Id;  ///< unique within its net; any text, spaces included
@@ -52,16 +52,16 @@ struct PnmlArc {
   PnmlSection Section = nullptr;
 };
 
-/// One place/transition net: every page of it taken together.
+/// One place/transition net with all its pages.
 struct PnmlNet {
   std::string Id, Type, Name;
   std::vector<PnmlNode> Nodes;  ///< in the order of the file
   std::vector<PnmlArc> Arcs;    ///< in the order of the file
-  /// One line for every arc left out because place/transition nets have none of its kind; see PnmlOptions::SkipUnsupported.
+  /// One line for every arc that was left out because place/transition nets lack its kind; see PnmlOptions::SkipUnsupported.
   std::vector<std::string> Skipped;
   PnmlSection Section = nullptr;          ///< of a net that this system wrote
   std::vector<PnmlNet> Embedded;          ///< nets in the section of the outermost one, each under its own id
-  std::shared_ptr<const PnmlXml> Source;  ///< what the sections lie in; of the outermost net
+  std::shared_ptr<const PnmlXml> Source;  ///< owns the sections; for the outermost net alone
 };
 
 }  // namespace vantrel

@@ -15,14 +15,14 @@ struct TextPosition {
 };
 
 /// A net that cannot be read, or a file that cannot be written: Error 321. Its description is one line: `FILE: what (line L, column C)`,
-/// without the bracket where no place is known.
+/// without the bracket if the position is unknown.
 class PnmlError : public Error {
  public:
   PnmlError(const std::string& pstrFile, const std::string& pstrWhat);
   PnmlError(const std::string& pstrFile, const std::string& pstrWhat, const TextPosition& pobjPosition);
 };
 
-/// Text of a file for use in a message: in double quotes, on one line, shortened where it is endless.
+/// Text of a file for a message: in double quotes, on one line, shortened if it is long.
 std::string QuotedForMessage(std::string_view pstrText);
 
 }  // namespace vantrel

@@ -24,7 +24,7 @@ PnmlPoint ReadPoint(const PnmlXml& pobjXml, const pugi::xml_node& pobjPoint) {
   return {ReadCoordinate(pobjXml, pobjPoint, "x"), ReadCoordinate(pobjXml, pobjPoint, "y")};
 }
 
-/// The point that `graphics/pstrElement` gives. Some editors write the element without numbers when there is nothing to say.
+/// The point of `graphics/pstrElement`. Some editors write the element without numbers.
 std::optional<PnmlPoint> ReadGraphicsPoint(const PnmlXml& pobjXml, const pugi::xml_node& pobjOwner, std::string_view pstrElement) {
   const pugi::xml_node point = ChildNamed(ChildNamed(pobjOwner, "graphics"), pstrElement);
   if (!point.attribute("x") && !point.attribute("y")) return std::nullopt;

@@ -17,14 +17,14 @@ class PnmlIds {
  public:
   explicit PnmlIds(const PnmlXml& pobjXml) : mXml(pobjXml) {}
 
-  /// plngNode is the node's index in PnmlNet::Nodes. Throws PnmlError for an element without an id and for an id there is already.
+  /// plngNode is the node's index in PnmlNet::Nodes. Throws PnmlError for an element without an id and for an id already used.
   void AddNode(const pugi::xml_node& pobjElement, PnmlKind plngKind, std::size_t plngNode);
 
-  /// A referencePlace or referenceTransition. Throws PnmlError as above and for one that refers to nothing.
+  /// Adds a referencePlace or referenceTransition. Throws PnmlError as above and for one that refers to nothing.
   void AddReference(const pugi::xml_node& pobjElement, PnmlKind plngKind);
 
-  /// Finds the node that every reference stands for, over any number of other references. Throws PnmlError for a reference to an id that
-  /// is not there or is of the other kind, and for references in a circle. To be called once, before Find.
+  /// Finds the node of every reference, through any number of other references. Throws PnmlError for a reference to an unknown id or to a
+  /// node of the other kind, and for references in a circle. Call it once, before Find.
   void Resolve();
 
   /// The index of the node that an id means, or nothing.

@@ -17,7 +17,7 @@ namespace {
 
 /// What the builders of one file share.
 struct Assembly {
-  const PnmlXml* Source = nullptr;  // there where any element has a section
+  const PnmlXml* Source = nullptr;  // not null if any element has a section
   EmbeddedNets Embedded;
 };
 
@@ -34,7 +34,7 @@ std::vector<GivenName> NamesOf(const PnmlNet& pobjNet, PnmlKind pKind, const Ass
   return names;
 }
 
-/// Builds one workflow; one object a net.
+/// Builds one workflow. Make one for each net.
 class WorkflowBuilder {
  public:
   WorkflowBuilder(const PnmlNet& pobjNet, Assembly& pobjAssembly)
@@ -204,7 +204,7 @@ void WorkflowBuilder::FindEnds() {
   if (!workflow.EndPlace() && mResult.SinkPlaces == 1) workflow.EndPlace(sink);
 }
 
-/// Nothing also for a place that the file no longer has.
+/// Null also for a place that is no longer in the file.
 std::shared_ptr<Place> WorkflowBuilder::PlaceOfSection(const char* pstrSetting) const {
   const auto found = mNumbers.find(SectionText(*mAssembly.Source, mNet.Section, pstrSetting));
   return found == mNumbers.end() ? nullptr : std::dynamic_pointer_cast<Place>(mObjects[static_cast<std::size_t>(found->second)]);
@@ -229,7 +229,7 @@ ImportedNet BuildWorkflow(const PnmlNet& pobjNet) {
     assembly.Embedded.AddWorkflow(inner.Id, inner.Workflow);
   }
   assembly.Embedded.AddWorkflow(result.Id, result.Workflow);
-  // Without the net's own section, which another tool may have dropped, nothing is embedded.
+  // Another tool may have dropped the net's own section; then nothing is embedded.
   if (pobjNet.Section) assembly.Embedded.Link(*assembly.Source);
   return result;
 }

@@ -25,7 +25,7 @@ struct ImportedNet {
 
 /// Reads a net and builds its workflow: keys in document order, the file's ids in HiddenTag, names unique per kind, pixels
 /// of the file as twips (15 each), a layout where the file has none that is of use. Of a file that ExportPnml wrote it makes
-/// the workflow that was written. Throws PnmlError and leaves nothing behind.
+/// the workflow that was written. Throws PnmlError, and then nothing was made.
 ImportedNet ImportPnml(const std::string& pstrPath, const PnmlOptions& pobjOptions = {});
 
 /// Builds the workflow of a net that has been read; sub-process nets become embedded workflows of their transitions.

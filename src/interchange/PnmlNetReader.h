@@ -11,8 +11,8 @@
 
 namespace vantrel {
 
-/// Reads one `net` element with all its pages; every net within it gets a reader of its own. Recursion is as deep as the elements are,
-/// which PnmlXml limits.
+/// Reads one `net` element with all its pages. Every net within it gets its own reader. The recursion is as deep as the elements, and
+/// PnmlXml limits that.
 class PnmlNetReader {
  public:
   /// pobjXml must outlive the reader.

@@ -6,9 +6,9 @@
 
 namespace vantrel {
 
-/// Numbers as net files write them: with a point, whatever the process's locale, and nothing around them.
+/// Numbers as net files have them: with a decimal point in every locale, and nothing around them.
 
-/// A coordinate in pixels; nothing for a text that is no finite number within ten million pixels of zero.
+/// A coordinate in pixels; empty for a text that is not a finite number within ten million pixels of zero.
 std::optional<double> ParseCoordinate(std::string_view pstrText);
 
 /// A whole number from 0 to 2^31 - 1; nothing for any other text. An editor that knows several kinds of tokens writes `Default,3` for three

@@ -8,7 +8,7 @@ namespace vantrel {
 constexpr float kFilePixel = 15;  ///< twips: files count pixels of 96 to the inch
 constexpr float kNodeSize = 32 * kFilePixel;
 
-/// What a coordinate of a file counts from, in twips behind the workflow's zero: a file has the centres of nodes and of captions' anchors,
+/// The origin of a file's coordinates, in twips from the workflow's zero: a file has the centres of nodes and of captions' anchors,
 /// a workflow the top-left corners.
 constexpr float kOfCentre = kNodeSize / 2;  ///< positions of nodes
 constexpr float kOfCaption = -kNodeSize / 2;
@@ -16,11 +16,11 @@ constexpr float kOfPoint = 0;  ///< bend points
 
 float TwipsOfPixels(double psngPixels, float psngOrigin);
 
-/// The shortest decimal number that TwipsOfPixels makes these twips of. Where there is none (beyond ten million pixels, or nearer to zero
-/// than a file's numbers tell apart) the number next to it, 0 for no number.
+/// The shortest decimal number from which TwipsOfPixels makes these twips. Where there is none (beyond ten million pixels, or too near to
+/// zero for a file's numbers), the nearest such number; 0 for NaN.
 std::string PixelText(float psngTwips, float psngOrigin);
 
-/// True when the file's pixels are those that PixelText wrote for the twips: what is stored more exactly besides still holds.
+/// True when the file's pixels are those that PixelText wrote for the twips: then the exact values stored beside them still hold.
 bool IsPixelOf(double psngPixels, float psngTwips, float psngOrigin);
 
 /// True when the text alone brings the twips back.

@@ -9,9 +9,9 @@
 
 namespace vantrel {
 
-/// What to read from a file and what to put up with.
+/// What to read from a file and what to accept.
 struct PnmlOptions {
-  std::string NetId;                          ///< the net wanted of a file with several; empty: the first
+  std::string NetId;                          ///< the id of the net in a file with several; empty: the first
   bool SkipUnsupported = false;               ///< leave out arcs that place/transition nets do not have, instead of refusing the file
   std::size_t SizeLimit = 64U * 1024 * 1024;  ///< bytes
 };
@@ -20,13 +20,13 @@ struct PnmlOptions {
 /// field: with or without pages and namespaces, `value` for `text`, `arcpath` for positions, the weight in the arc's name, a net a level
 /// deeper.
 ///
-/// The pages of a net are taken together and reference nodes give way to what they stand for. A page that carries the id of a transition
-/// and holds a net of its own is that transition's sub-process. What belongs to a tool, and what is unknown, is passed over; only an arc of
-/// a kind that place/transition nets do not have (inhibitor, reset, read, …) is never passed over in silence nor read as an ordinary one.
+/// Reads the pages of a net as one and replaces reference nodes by the nodes that they refer to. A page that has the id of a transition and
+/// holds a net is that transition's sub-process. Sections of tools and unknown elements are skipped. An arc of a kind that place/transition
+/// nets do not have (inhibitor, reset, read, …) is an error, unless such arcs are to be skipped; it is never read as an ordinary one.
 ///
-/// Both operations throw PnmlError, whose one line says what is wrong and where: text that is no XML or no net, a NetId that is not there,
-/// nodes without or with the same id, arcs that lead nowhere or join two places or two transitions, references without an end, numbers
-/// that are none, foreign arcs, a file over the size limit, elements nested deeper than 256, declared entities.
+/// Both operations throw PnmlError, whose one line says what is wrong and where: text that is not XML or not a net, an unknown NetId, nodes
+/// without id or with the same one, arcs that lead nowhere or join two places or two transitions, references without an end, invalid
+/// numbers, foreign arcs, a file over the size limit, elements nested deeper than 256, declared entities.
 class PnmlReader {
  public:
   explicit PnmlReader(PnmlOptions pobjOptions = {});

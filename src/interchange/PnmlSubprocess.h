@@ -9,14 +9,14 @@
 
 namespace vantrel {
 
-/// Tells what the places are through which a sub-process touches the net around its transition: both nets have them, under the same id.
+/// Finds the start and end among the places that a sub-process shares with the net around its transition: both have them under one id.
 class PnmlSubprocessBorder {
  public:
   /// pobjOuter is the net with the transition; its nodes and arcs must stay while this lives.
   explicit PnmlSubprocessBorder(const PnmlNet& pobjOuter);
 
-  /// Sets Border of the shared places: Start where no arc of the sub-process leads in, End where none leads out. For a place that has no
-  /// arc inside at all, the arcs between it and the transition decide.
+  /// Sets Border of the shared places: Start if no arc of the sub-process leads in, End if none leads out. For a place without any arc
+  /// inside, the arcs between it and the transition decide.
   void Mark(PnmlNet& pobjSubnet, std::string_view pstrTransition) const;
 
  private:

@@ -106,7 +106,7 @@ void PnmlWriter::OpenNode(const char* pstrElement, const Node& pobjNode) {
   WriteName(pobjNode);
 }
 
-// The label is there without a text, too: the place of the caption hangs on it.
+// Written even without a text: the label has the caption's position.
 void PnmlWriter::WriteName(const Node& pobjNode) {
   mXml.Open("name");
   const std::string label = PnmlLabel(pobjNode.Caption());

@@ -13,8 +13,8 @@
 
 namespace vantrel {
 
-/// Writes one document, see ToPnml. Embedded workflows stand side by side in the section of the net, as nets of their own; the sections of
-/// the transitions refer to them.
+/// Writes one document; see ToPnml. Writes embedded workflows side by side, as nets in the section of the net. The sections of the
+/// transitions refer to them.
 class PnmlWriter {
  public:
   /// Both must outlive the writer.
@@ -44,7 +44,7 @@ class PnmlWriter {
   VantrelSection mSection{mXml, mIds};
 };
 
-/// The workflow and all that are embedded in it, however deep, each once, in the order in which they are met.
+/// The workflow and all that are embedded in it at any depth, each once, in the order in which they are met.
 std::vector<std::shared_ptr<const Workflow>> WorkflowsWithin(const Workflow& pobjWorkflow);
 
 /// True for an arc that a PNML net can have: with a direction and both ends in that workflow.

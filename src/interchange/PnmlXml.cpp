@@ -11,7 +11,7 @@ namespace vantrel {
 
 namespace {
 
-/// No net of the field is deeper than 20; whatever walks the tree by recursion relies on this limit.
+/// No net that other tools drew is deeper than 20. Recursive walks of the tree rely on this limit.
 constexpr std::size_t kDepthLimit = 256;
 
 std::string_view Trimmed(std::string_view pstrText) {

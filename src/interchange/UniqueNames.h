@@ -11,12 +11,11 @@ namespace vantrel {
 /// The name that a file has for an object.
 struct GivenName {
   std::string Text;
-  bool IsFinal = false;  ///< stays whatever the others are called
+  bool IsFinal = false;  ///< kept even if others have the same name
 };
 
-/// Makes the names of one kind of object unique. Every name that the file gives keeps to the first object that has it, after
-/// the final ones; an object without name gets its key as name (the kind's word and its number), or the next free one where that is taken;
-/// one whose name is taken gets that name and the next free number.
+/// Makes the names of one kind of object unique. Final names are kept first; then the first object with a name keeps it, and later ones get
+/// that name with the next free number. An object without a name gets its key (the kind's word and its number), or the next free one.
 class UniqueNames {
  public:
   UniqueNames(const std::string& pstrWord, const std::vector<GivenName>& pcolGiven);
@@ -28,7 +27,7 @@ class UniqueNames {
   std::string FreeName(const std::string& pstrPrefix);
 
   std::unordered_set<std::string> mcolTaken;
-  std::unordered_map<std::string, int> mcolNumbers;  // last number tried behind a prefix
+  std::unordered_map<std::string, int> mcolNumbers;  // last number tried after a prefix
   std::vector<std::string> mcolNames;
   std::size_t mlngNext = 0;
 };

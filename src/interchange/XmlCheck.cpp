@@ -48,7 +48,7 @@ bool IsCharacterReference(std::string_view pstrName) {
   return problem == std::errc() && end == last && IsXmlCharacter(code);
 }
 
-/// One walk over the text; mAt is always at the next thing to be understood.
+/// One walk over the text; mAt is always at the next piece to read.
 class XmlWalk {
  public:
   XmlWalk(std::string_view pstrText, std::size_t plngDepthLimit) : mText(pstrText), mDepthLimit(plngDepthLimit) {}

@@ -43,7 +43,7 @@ Encoding EncodingOfName(std::string_view pstrName) {
     return Encoding::Latin1;
   }
   if (name == "windows-1252" || name == "cp1252") return Encoding::Windows1252;
-  // A text that declares UTF-16 in single bytes was recoded by something that left the declaration alone.
+  // A text that declares UTF-16 in single bytes was recoded by a tool that kept the declaration.
   if (name.empty() || name == "utf-8" || name == "utf8" || name == "us-ascii" || name == "ascii" || StartsWith(name, "utf-16")) {
     return Encoding::Utf8;
   }
@@ -96,7 +96,7 @@ void AppendChecked(XmlText& pobjText, char32_t plngCode) {
   AppendUtf8(pobjText.Utf8, plngCode);
 }
 
-/// The length of the UTF-8 sequence at an offset, 0 when there is none (Unicode standard, table 3-7).
+/// The length of the UTF-8 sequence at an offset (Unicode standard, table 3-7); 0 when it is invalid.
 std::size_t SequenceLength(std::string_view pstrText, std::size_t plngAt, char32_t& plngCode) {
   const auto byte = [&](std::size_t index) { return static_cast<unsigned char>(pstrText[plngAt + index]); };
   const unsigned char lead = byte(0);

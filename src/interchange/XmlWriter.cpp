@@ -8,7 +8,7 @@ namespace vantrel {
 
 namespace {
 
-/// How a character that means something to a parser, or that it would change, is written; empty for any other.
+/// How to write a character that a parser would interpret or change; empty for any other.
 std::string_view Reference(char pstrCharacter) {
   switch (pstrCharacter) {
     case '&':

@@ -6,8 +6,8 @@
 
 namespace vantrel {
 
-/// Writes one XML 1.0 document, UTF-8, an element a line. Names are the caller's to get right; values may be any text: what XML has no
-/// way to carry (control characters, bytes that are no UTF-8) becomes U+FFFD, and line ends survive as they are.
+/// Writes one XML 1.0 document in UTF-8, an element a line. The caller gives valid names. Values may be any text: what XML cannot contain
+/// (control characters, bytes that are not UTF-8) becomes U+FFFD, and line ends are kept.
 class XmlWriter {
  public:
   XmlWriter();

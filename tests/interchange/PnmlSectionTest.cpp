@@ -1,4 +1,4 @@
-// Sections of ours that somebody else has had in hand.
+// Sections of ours after other tools have edited the file.
 #include <string>
 
 #include <gmock/gmock.h>
@@ -57,7 +57,8 @@ TEST_P(DamagedSection, IsRefusedWithTheLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     , DamagedSection,
-    testing::Values(Damage{"tokenValue=\"4\"", "tokenValue=\"four\"", "the value \"four\" of tokenValue in the section of Vantrel is none"},
+    testing::Values(Damage{"tokenValue=\"4\"", "tokenValue=\"four\"",
+                           "the value \"four\" of tokenValue in the section of Vantrel is invalid"},
                     Damage{"valueType=\"long\" value=\"3\"", "valueType=\"long\" value=\"3000000000\"", "\"3000000000\" of value"},
                     Damage{"valueType=\"long\"", "valueType=\"tall\"", "\"tall\" of valueType"},
                     Damage{"prompt=\"blue\"", "prompt=\"red\"", "the option \"red\" is there twice"},

@@ -55,7 +55,7 @@ bool IsDecimal(std::string_view pstrText) {
          std::count(pstrText.begin(), pstrText.end(), '.') < 2;
 }
 
-/// By the element's path from behind; the longest that fits counts.
+/// By the end of the element's path; the longest that fits counts.
 const std::map<std::string, Rule>& Rules() {
   static const std::vector<Attribute> kPoint{{"x", IsDecimal}, {"y", IsDecimal}};
   static const std::vector<Child> kLabel{{"text", '1'}, {"graphics", '?'}, {"toolspecific", '*'}};

@@ -5,7 +5,7 @@
 
 namespace vantrel {
 
-/// The nodes and rows of a layout are numbered from 0 by signed numbers; vectors want them unsigned.
+/// Indexes a vector with the signed numbers, from 0, of a layout's nodes and rows.
 inline std::size_t At(std::int32_t plngIndex) { return static_cast<std::size_t>(plngIndex); }
 
 }  // namespace vantrel

@@ -56,7 +56,7 @@ class BlockCompactor {
 
   double Row(VertexIndex plngVertex) const { return mRows[At(mRoot[At(plngVertex)])]; }
 
-  /// Blocks do not cross, so there is an order in which all that are before another come first.
+  /// Blocks do not cross, so they can be ordered from top to bottom.
   void FindOrder() {
     std::vector<std::size_t> waiting(mBlocks.size());
     for (std::size_t block = 0; block < mBlocks.size(); ++block) {

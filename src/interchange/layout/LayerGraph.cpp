@@ -190,7 +190,7 @@ class LayerGraphBuilder {
     mResult.Left[static_cast<std::size_t>(plngRight)].push_back(plngLeft);
   }
 
-  /// A walk in depth puts what belongs together next to each other, which leaves the ordering less to do.
+  /// A depth-first walk puts connected nodes next to each other, which leaves less to order.
   void FillLayers() {
     const auto last = std::max_element(mResult.LayerOf.begin(), mResult.LayerOf.end());
     if (last == mResult.LayerOf.end()) return;

@@ -137,7 +137,7 @@ class Sweeper {
     return improved;
   }
 
-  /// How many crossings fewer there are with the two exchanged.
+  /// The number of crossings that exchanging the two removes.
   std::int64_t Gain(VertexIndex plngUpper, VertexIndex plngLower) const {
     std::int64_t gain = 0;
     for (const Order* neighbours : {&mGraph.Left, &mGraph.Right}) {

@@ -118,7 +118,7 @@ class Alignment {
 
 using Drawings = std::array<std::vector<double>, 4>;
 
-/// Puts the drawings' edges where the narrowest one has its own: upper edges of those that lean upwards, lower edges of the others.
+/// Aligns the drawings with the narrowest one: those that lean upwards at their upper edges, the others at their lower edges.
 void LineUp(Drawings& pcolDrawings) {
   std::array<std::pair<double, double>, 4> bounds;
   std::size_t narrowest = 0;

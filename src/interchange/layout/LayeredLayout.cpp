@@ -26,7 +26,7 @@ struct Column {
   double Width = 0;
 };
 
-/// Draws one connected component of a graph into the result, below what is there already.
+/// Draws one connected component of a graph into the result, below the ones before.
 class ComponentDrawing {
  public:
   ComponentDrawing(const LayoutGraph& pobjGraph, const GraphComponent& pobjComponent)

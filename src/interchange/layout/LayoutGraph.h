@@ -23,11 +23,11 @@ struct LayoutEdge {
   std::int32_t To = 0;
 };
 
-/// What a layout has to know of a net. Nodes go by number, from 0.
+/// What a layout needs to know of a net. Nodes are numbered from 0.
 struct LayoutGraph {
   std::vector<LayoutSize> Nodes;
-  std::vector<LayoutEdge> Edges;      ///< loops, repeated and opposite edges are all right
-  std::optional<std::int32_t> Start;  ///< the node at the far left of what hangs together with it
+  std::vector<LayoutEdge> Edges;      ///< loops, repeated and opposite edges are allowed
+  std::optional<std::int32_t> Start;  ///< the leftmost node of its component
 };
 
 /// A drawing with its top left corner at (0, 0).

@@ -1,4 +1,4 @@
-// The exact path of an arc, where PNML with its bend points alone does not say it.
+// The exact path of an arc, for paths that PNML's bend points cannot express.
 #pragma once
 
 #include <optional>
@@ -15,7 +15,7 @@ struct PathSegment {
   float X1 = 0, Y1 = 0, X2 = 0, Y2 = 0;
 };
 
-/// Where the path of an arc begins and ends that nobody has drawn yet, for nodes of the usual size with connectors left and right.
+/// Where the path of an arc begins and ends before it is drawn, for nodes of the usual size with connectors left and right.
 PathSegment UsualRun(const Node& pobjSource, const Node& pobjTarget);
 
 /// True when the arc begins and ends like that, its segments meet, and every bend point is exact in pixels.
@@ -23,7 +23,7 @@ bool IsUsualPath(const Arc& pobjArc);
 
 /// The segments of the chain (ChainOf), four numbers each, with blanks between.
 std::string ArcPathText(const Arc& pobjArc);
-/// Nothing for a text that is no such list.
+/// Empty for a text that is not such a list.
 std::optional<std::vector<PathSegment>> ReadArcPath(std::string_view pstrText);
 
 }  // namespace vantrel

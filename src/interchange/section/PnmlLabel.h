@@ -4,8 +4,8 @@
 
 namespace vantrel {
 
-/// What a reader of the file gets for a text written as the text of a PNML label: without the blanks around it, and with U+FFFD for what
-/// XML cannot carry.
+/// The text that a reader gets for a text written as a PNML label: without the blanks around it, and with U+FFFD for what XML cannot
+/// contain.
 std::string PnmlLabel(const std::string& pstrText);
 
 /// True for a weight that PNML can say: a positive whole number, written as such.

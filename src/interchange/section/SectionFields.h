@@ -1,4 +1,4 @@
-// What stands in a section of Vantrel, field by field: the same list writes (SectionWriter) and reads (SectionReader).
+// The fields of a section of Vantrel: one list writes them (SectionWriter) and reads them (SectionReader).
 #pragma once
 
 #include <cstdint>

@@ -9,13 +9,13 @@
 
 namespace vantrel {
 
-/// The reading side of SectionFields: an attribute that is there sets its field. Throws PnmlError for a text that is no value of the
-/// field's type; attributes that no field asks for are passed over.
+/// The reading side of SectionFields: an attribute sets its field. Throws PnmlError for a text that is not a value of the field's type;
+/// ignores unknown attributes.
 class SectionReader {
  public:
   SectionReader(const PnmlXml& pobjXml, const pugi::xml_node& pobjElement) : mXml(pobjXml), mElement(pobjElement) {}
 
-  /// Nothing where the element has no such attribute.
+  /// Empty when the element has no such attribute.
   template <class T>
   std::optional<T> Value(const char* pstrName) const {
     const pugi::xml_attribute attribute = mElement.attribute(pstrName);
@@ -33,10 +33,10 @@ class SectionReader {
     if (const auto value = Value<T>(pstrName)) pSet(*value);
   }
 
-  /// Throws the PnmlError for an attribute whose value makes no sense.
+  /// Throws the PnmlError for an attribute with an invalid value.
   [[noreturn]] void Refuse(const char* pstrName) const {
     mXml.Fail(
-        "the value " + QuotedForMessage(mElement.attribute(pstrName).value()) + " of " + pstrName + " in the section of Vantrel is none",
+        "the value " + QuotedForMessage(mElement.attribute(pstrName).value()) + " of " + pstrName + " in the section of Vantrel is invalid",
         mElement);
   }
 

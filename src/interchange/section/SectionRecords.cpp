@@ -24,7 +24,7 @@ void WriteTyped(XmlWriter& pobjXml, const char* pstrType, const std::string& pst
   pobjXml.Attribute(kValue, pstrValue);
 }
 
-// Variants tell their kinds of numbers apart only by comparison, and the wider kinds have to be asked first.
+// Only a comparison tells which kind of number a variant holds, and wider kinds must be tried first.
 void WriteNumber(XmlWriter& pobjXml, const Variant& pvarValue) {
   const double number = pvarValue.ToDouble();
   if (std::isnan(number) || pvarValue == Variant(number)) return WriteTyped(pobjXml, "double", ToSectionText(number));

@@ -10,8 +10,8 @@ namespace vantrel {
 /// Writes an element `property` for each record. Values that are objects of the host are left out.
 void WriteRecords(XmlWriter& pobjXml, const PropertyCollection& pcolRecords);
 
-/// Adds a record for each `property` in the element, under its name where that is free. Throws PnmlError for a value that is none and for
-/// an option that is there twice.
+/// Adds a record for each `property` in the element, under its name if that is free. Throws PnmlError for an invalid value and for an
+/// option that is given twice.
 void ReadRecords(const PnmlXml& pobjXml, const pugi::xml_node& pobjElement, PropertyCollection& pcolRecords);
 
 }  // namespace vantrel

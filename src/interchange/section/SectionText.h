@@ -13,12 +13,12 @@
 
 namespace vantrel {
 
-/// Any bytes as a text that XML can carry: a backslash is doubled, and a byte that XML has no way to write becomes `\xHH`.
+/// Any bytes as a text that XML can contain: a backslash is doubled, and a byte that XML cannot contain becomes `\xHH`.
 std::string EncodeText(std::string_view pstrText);
-/// The bytes again. A backslash that begins neither form stands for itself.
+/// The bytes of such a text. A backslash that begins neither form is an ordinary one.
 std::string DecodeText(std::string_view pstrText);
 
-/// A value of a section as text: `true` and `false`, numbers with a point that come back exactly, dates as milliseconds.
+/// A value of a section as text: `true` and `false`, numbers with a decimal point and all their digits, dates as milliseconds.
 template <class T>
 std::string ToSectionText(const T& pValue) {
   if constexpr (std::is_same_v<T, std::string>) {
@@ -35,7 +35,7 @@ std::string ToSectionText(const T& pValue) {
   }
 }
 
-/// The value of a text; nothing when it is none of that type.
+/// The value of a text; empty when it is not of that type.
 template <class T>
 std::optional<T> FromSectionText(std::string_view pstrText) {
   if constexpr (std::is_same_v<T, std::string>) {

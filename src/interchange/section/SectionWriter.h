@@ -8,7 +8,7 @@
 
 namespace vantrel {
 
-/// The writing side of SectionFields: a field becomes an attribute of the element that is open, unless it has its usual value.
+/// The writing side of SectionFields: writes a field as an attribute of the open element, unless it has its default value.
 class SectionWriter {
  public:
   explicit SectionWriter(XmlWriter& pobjXml) : mXml(pobjXml) {}

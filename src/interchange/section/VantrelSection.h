@@ -20,12 +20,12 @@ class VantrelSection {
   void Open();
   void Close() { mXml.Close(); }
 
-  /// What goes into the open section of a net: its settings and its notes.
+  /// Writes settings and notes into the open section of a net.
   void Write(const Workflow& pobjWorkflow);
   /// A whole section. pstrEmbedded is the id of the net that is embedded in the transition, or empty.
   void Write(const Place& pobjPlace);
   void Write(const Transition& pobjTransition, const std::string& pstrEmbedded);
-  /// Nothing where PNML says it all.
+  /// Writes nothing where PNML says it all.
   void Write(const Arc& pobjArc);
 
  private:

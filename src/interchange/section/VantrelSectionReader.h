@@ -1,6 +1,6 @@
-// The sections of the tool "Vantrel" in a file, as read. What a section says more exactly than PNML can holds only while both agree: where
-// another tool has moved, renamed or bent something since, its change counts. A value that is none throws PnmlError; settings that are
-// unknown are passed over.
+// Reads the sections of the tool "Vantrel" in a file. A section can be more exact than PNML, and counts only while both agree: where
+// another tool has moved, renamed or bent something since, its change counts. Throws PnmlError for an invalid value; unknown settings are
+// ignored.
 #pragma once
 
 #include <string>
@@ -11,11 +11,11 @@
 
 namespace vantrel {
 
-/// The section of an element, or an empty node. Those of other tools and versions are none.
+/// The section of an element, or an empty node. Sections of other tools and versions do not count.
 pugi::xml_node FindSection(const pugi::xml_node& pobjElement);
 
 bool HasSectionValue(PnmlSection pobjSection, const char* pstrName);
-/// A value out of a section's settings; empty where there is none.
+/// A value of a section's settings; empty if it is missing.
 std::string SectionText(const PnmlXml& pobjXml, PnmlSection pobjSection, const char* pstrName);
 
 /// pblnExact: the node stands where the file has it.
@@ -23,7 +23,7 @@ void ReadSection(const PnmlXml& pobjXml, const PnmlNode& pobjFrom, bool pblnExac
 void ReadSection(const PnmlXml& pobjXml, const PnmlNode& pobjFrom, bool pblnExact, Transition& pobjTransition);
 /// pblnExact: the arc runs as the file has it.
 void ReadSection(const PnmlXml& pobjXml, const PnmlArc& pobjFrom, bool pblnExact, Arc& pobjArc);
-/// Settings and notes; start, end and embedded nets are the caller's to find.
+/// Reads settings and notes. The caller finds start, end and embedded nets.
 void ReadSection(const PnmlXml& pobjXml, PnmlSection pobjSection, Workflow& pobjWorkflow);
 
 }  // namespace vantrel
