@@ -1,4 +1,4 @@
-// The limit that the token game is measured against.
+// The limit that the token game is compared with.
 #pragma once
 
 #include <cstdint>
@@ -6,8 +6,8 @@
 
 namespace vantrel::bench {
 
-/// The leanest simulator of a place/transition net: a count per place, a count of missing inputs per transition, and the
-/// enabled transitions as a queue. No objects, no cases, no history.
+/// The leanest simulator of a place/transition net: a count for each place, a count of missing inputs for each transition, and a queue
+/// of enabled transitions. No objects, no cases, no history.
 class ArrayNet {
  public:
   ArrayNet(std::int32_t plngPlaces, std::int32_t plngTransitions)

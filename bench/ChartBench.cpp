@@ -1,5 +1,5 @@
-// The chart view against the same picture made of QGraphicsScene items, in windows of the same size: 10,000 nodes (picture, caption,
-// two connectors) and 12,000 lines. Rows come in pairs; what counts is the ratio within a pair. See docs/performance.md.
+// The chart view beside the same picture made of QGraphicsScene items, in windows of the same size: 10,000 nodes (picture, caption, two
+// connectors) and 12,000 lines. Rows come in pairs, and the figure is the ratio within a pair. See docs/performance.md.
 #include <QApplication>
 #include <QGraphicsItem>
 #include <QGraphicsScene>
@@ -93,7 +93,7 @@ class OwnChart {
   std::vector<Element*> mcolParts;
 };
 
-// A caption that is left out where it cannot be read, as in the chart.
+// A caption that is not painted when it is too small to read, as in the chart.
 class Caption final : public QGraphicsSimpleTextItem {
  public:
   using QGraphicsSimpleTextItem::QGraphicsSimpleTextItem;
@@ -103,7 +103,7 @@ class Caption final : public QGraphicsSimpleTextItem {
   }
 };
 
-// The peer: its pictures are pixels of one size, which is in its favour.
+// The peer. Its pictures are pixels of one size, which makes it faster.
 class SceneChart {
  public:
   explicit SceneChart(Scope pScope) : mobjView(&mobjScene) {

@@ -8,10 +8,10 @@
 
 namespace vantrel::bench {
 
-/// So many places and transitions each, three arcs a place, every arc of three segments; texts and positions of usual length.
+/// So many places and as many transitions, three arcs for each place, three segments for each arc; texts and positions of usual length.
 std::shared_ptr<Workflow> MakeChart(std::int32_t plngPlaces);
 
-/// Rows that saving it writes: the workflow, its nodes, its arcs and their segments.
+/// The number of rows that saving it writes: the workflow, its nodes, its arcs and their segments.
 std::int64_t RowsOf(const Workflow& pobjWorkflow);
 
 }  // namespace vantrel::bench

@@ -1,6 +1,6 @@
-// What the user waits for: a chart from its assignment to the first painting, and single frames, which are an event and the painting
-// it leads to. `nodes` and `arcs` are the size of the chart, `view` the nodes in view, `worst` the longest frame in milliseconds,
-// `paints` the paintings a frame: one, or the figure is none.
+// What users wait for: a chart from its assignment to the first painting, and single frames. A frame is an event with the painting that
+// follows. `nodes` and `arcs` are the size of the chart, `view` the nodes in view, `worst` the longest frame in milliseconds,
+// `paints` the paintings a frame: with another number than one the figure is invalid.
 #include <algorithm>
 #include <chrono>
 
@@ -54,7 +54,7 @@ int NodesInView(FrameChart& pobjChart) {
   }));
 }
 
-// Begins with a press where pPress says, then a frame is what pFrame does with the number of the frame.
+// Presses the button as pPress does, then measures pFrame, called with the number of the frame.
 template <class Press, class Frame>
 void Frames(benchmark::State& pobjState, Scope pScope, Press&& pPress, Frame&& pFrame) {
   FrameChart chart;
@@ -89,11 +89,11 @@ QPointF PressNode(FrameChart& pobjChart) {
 
 QPointF PressAmongAll(FrameChart& pobjChart) {
   pobjChart.Widget().Control().SelectAll();
-  pobjChart.Widget().Control().MultiSelectOn = true;  // as behind a rubber band
+  pobjChart.Widget().Control().MultiSelectOn = true;  // as after a rubber band
   return PressNode(pobjChart);
 }
 
-// Beside captions and arcs; where everything is in view, in the margin: far from the origin a press takes arcs from afar.
+// A point beside captions and arcs; where everything is in view, one in the margin, as far from the origin a press hits distant arcs.
 QPointF PressChart(FrameChart& pobjChart) {
   const double zoom = pobjChart.Widget().View().Transform().Zoom;
   const QPointF at = zoom < 1 ? QPointF(6, 6) : pobjChart.SomeNode() + QPointF(40, 24) * zoom;

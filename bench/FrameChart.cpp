@@ -18,7 +18,7 @@ constexpr int kAcross = 80, kDown = 64;  // pixels between nodes
 bool IsPlace(std::int64_t plngNode) { return (plngNode + plngNode / kColumns) % 2 == 0; }
 std::string IdOf(std::int64_t plngNode) { return "n" + std::to_string(plngNode); }
 
-// Ends of all arcs, six for five nodes: a place and a transition each, for neighbours in a row or a column differ in kind.
+// The ends of all arcs, six for five nodes. Neighbours in a row or a column differ in kind, so each arc joins a place and a transition.
 template <class Take>
 void ForEachArc(std::int64_t plngNodes, Take&& pTake) {
   std::int64_t left = plngNodes * 6 / 5;
@@ -29,16 +29,11 @@ void ForEachArc(std::int64_t plngNodes, Take&& pTake) {
 }
 
 template <class N>
-std::shared_ptr<N> AddNode(Workflow& pobjNet, Collection<N>& pcolNodes, std::int64_t plngNumber) {
-  auto node = std::make_shared<N>();
-  node->Workflow = &pobjNet;
-  node->Key = std::string(pcolNodes.KeyWord()) + std::to_string(plngNumber + 1);
-  node->AssignName(node->Key);
-  node->Caption("Task " + std::to_string(plngNumber));
-  node->MoveTo(static_cast<float>(plngNumber % kColumns * kAcross) * kTwipsPerPixel,
-               static_cast<float>(plngNumber / kColumns * kDown) * kTwipsPerPixel);
-  pcolNodes.Add(node, node->Key);
-  return node;
+std::shared_ptr<N> Placed(std::shared_ptr<N> pobjNode, std::int64_t plngNumber) {
+  pobjNode->Caption("Task " + std::to_string(plngNumber));
+  pobjNode->MoveTo(static_cast<float>(plngNumber % kColumns * kAcross) * kTwipsPerPixel,
+                   static_cast<float>(plngNumber / kColumns * kDown) * kTwipsPerPixel);
+  return pobjNode;
 }
 
 }  // namespace
@@ -61,14 +56,14 @@ std::string GridPnml(std::int64_t plngNodes, bool pblnPositions) {
 }
 
 std::shared_ptr<Workflow> GridNet(std::int64_t plngNodes) {
-  const DesignerStateScope scope;
   auto net = std::make_shared<Workflow>();
   std::vector<std::shared_ptr<Place>> places(static_cast<std::size_t>(plngNodes));
   std::vector<std::shared_ptr<Transition>> transitions(places.size());
   for (std::size_t i = 0; i < places.size(); ++i) {
     const auto number = static_cast<std::int64_t>(i);
-    if (IsPlace(number)) places[i] = AddNode(*net, net->Places, number);
-    if (!IsPlace(number)) transitions[i] = AddNode(*net, net->Transitions, number);
+    const std::string name = std::to_string(number + 1);
+    if (IsPlace(number)) places[i] = Placed(net->NewPlace("Place" + name), number);
+    if (!IsPlace(number)) transitions[i] = Placed(net->NewTransition("Transition" + name), number);
   }
   ForEachArc(plngNodes, [&](std::int64_t plngFrom, std::int64_t plngTo) {
     const auto from = static_cast<std::size_t>(plngFrom), to = static_cast<std::size_t>(plngTo);

@@ -1,4 +1,4 @@
-// A chart in a window as its user has it, to measure how long he waits.
+// A chart in a window as users have it, to measure how long they wait.
 #pragma once
 
 #include <QMouseEvent>
@@ -12,24 +12,24 @@
 
 namespace vantrel::bench {
 
-/// A net of rows of a hundred nodes, every node leading to the next one and some to the row below: 12,000 arcs for 10,000 nodes. As
-/// PNML; without positions a layout is made of it.
+/// A net of rows of a hundred nodes, as PNML. Every node leads to the next one and some to the row below: 12,000 arcs for 10,000 nodes.
+/// Without positions it gets a layout.
 std::string GridPnml(std::int64_t plngNodes, bool pblnPositions);
-/// The same net without a detour through PNML.
+/// The same net, made without PNML.
 std::shared_ptr<Workflow> GridNet(std::int64_t plngNodes);
 
-/// A widget in the size of a window, and what reaches it from mouse and wheel. An event and the painting that it leads to are a frame.
+/// A widget of a window's size, with input from mouse and wheel. An event with the painting that follows is a frame.
 class FrameChart final : public QObject {
  public:
   FrameChart();
-  /// Until it is painted.
+  /// Returns when it is painted.
   void Show(const std::shared_ptr<Workflow>& pobjNet);
   VantrelWidget& Widget() { return mobjWidget; }
   /// The centre of a node in the middle of the view.
   QPointF SomeNode();
   void Mouse(QEvent::Type pType, const QPointF& pobjAt);
   void Wheel(int pintNotches, Qt::KeyboardModifiers pModifiers);
-  /// Lets everything happen that the last event has led to, painting included.
+  /// Runs everything that the last event has set off, painting included.
   static void Settle();
   std::int64_t Paints() const { return mlngPaints; }
 

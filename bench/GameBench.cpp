@@ -1,4 +1,4 @@
-// Firings a second through FireNext, beside the leanest array simulator of the same net in the same run.
+// Firings a second through FireNext, beside the leanest array simulator with the same net in the same run.
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 

@@ -12,21 +12,12 @@ constexpr std::int32_t kRing = 10;
 constexpr std::int32_t kWidth = 50;
 
 std::shared_ptr<Place> AddPlace(Workflow& pobjWorkflow) {
-  auto place = std::make_shared<Place>();
-  place->Workflow = &pobjWorkflow;
-  place->Key = NextKey(pobjWorkflow.Places, "Place");
-  place->AssignName(place->Key);
-  pobjWorkflow.Places.Add(place, place->Key);
-  return place;
+  return pobjWorkflow.NewPlace("Place" + std::to_string(pobjWorkflow.Places.Count() + 1));
 }
 
 std::shared_ptr<Transition> AddTransition(Workflow& pobjWorkflow, const std::shared_ptr<Place>& pobjFrom = nullptr,
                                           const std::shared_ptr<Place>& pobjTo = nullptr) {
-  auto transition = std::make_shared<Transition>();
-  transition->Workflow = &pobjWorkflow;
-  transition->Key = NextKey(pobjWorkflow.Transitions, "Transition");
-  transition->AssignName(transition->Key);
-  pobjWorkflow.Transitions.Add(transition, transition->Key);
+  auto transition = pobjWorkflow.NewTransition("Transition" + std::to_string(pobjWorkflow.Transitions.Count() + 1));
   if (pobjFrom) pobjWorkflow.CreateArc(pobjFrom, transition, vntInArc);
   if (pobjTo) pobjWorkflow.CreateArc(pobjTo, transition, vntOutArc);
   return transition;

@@ -1,4 +1,4 @@
-// The nets that the token game is measured on, as workflows and as arrays.
+// The nets for measuring the token game, as workflows and as arrays.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ enum class Shape : std::int64_t {
 std::shared_ptr<Workflow> MakeWorkflow(Shape pShape);
 ArrayNet MakeArrayNet(Shape pShape);
 
-/// A straight chain of transitions, all automatic or none, ready for a token in its start place.
+/// A straight chain of transitions, either all automatic or all not, ready for a token in its start place.
 std::shared_ptr<Workflow> MakeChain(std::int32_t plngTransitions, TriggerTypes pTrigger);
 
 }  // namespace vantrel::bench

@@ -1,6 +1,6 @@
-// Importing nets and saving them: what `vantrel import` of a hundred files costs.
+// Importing and saving nets: the cost of `vantrel import` with a hundred files.
 //
-// The nets are those of the folder that VANTREL_NETS names, taken in turn until there are a hundred.
+// Takes the nets of the folder that VANTREL_NETS names, again and again until there are a hundred.
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -25,7 +25,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Files that can be read, in the order of their names.
+/// The files that can be read, in the order of their names.
 std::vector<std::string> Nets() {
   const char* const folder = std::getenv("VANTREL_NETS");
   std::set<std::string> files;

@@ -1,4 +1,4 @@
-// What must not depend on how much there is: look-ups in a collection, drawing one arc.
+// What must not depend on the size: look-ups in a collection, drawing one arc.
 #include <memory>
 #include <string>
 #include <vector>
@@ -38,7 +38,7 @@ void FindByKey(benchmark::State& state) {
   for (auto _ : state) benchmark::DoNotOptimize(tokens->Find(keys[next++ % kLookups]));
 }
 
-// Out of the middle, and back at the end: the order is no longer that of the numbers.
+// Takes items out of the middle and adds them at the end, so that the order is not that of the numbers.
 void RemoveAndAdd(benchmark::State& state) {
   const auto tokens = FilledCollection(state.range(0));
   std::int64_t next = 0;

@@ -1,4 +1,4 @@
-// Reading nets and making workflows of them, with positions in the file and without (then a layout is made).
+// Reading nets into workflows, with positions in the file and without (then a layout is made).
 #include <string>
 
 #include <benchmark/benchmark.h>
@@ -9,7 +9,7 @@ namespace vantrel::bench {
 
 namespace {
 
-/// Blocks of a fork, two branches and a join, one behind the other.
+/// Blocks of a fork, two branches and a join, one after the other.
 std::string MakePnml(std::int64_t plngNodes, bool pblnGraphics) {
   std::string nodes, arcs;
   int arcCount = 0;

@@ -1,4 +1,4 @@
-// Saving and reading a workflow on a PostgreSQL server, beside libpq given one statement a call.
+// Saving and reading a workflow on a PostgreSQL server, beside libpq with one statement a call.
 //
 // Needs the address of a server in VANTREL_POSTGRES, whose user may create databases; scripts/postgres-server makes one.
 #include "database/postgres/Postgres.h"
@@ -36,7 +36,7 @@ std::string ServerAddress() {
   return address;
 }
 
-/// libpq, given one statement of text a call.
+/// libpq with one statement of text a call.
 class PlainPostgres {
  public:
   explicit PlainPostgres(const std::string& pstrAddress) : mConnection(PQconnectdb(pstrAddress.c_str())) {
@@ -62,7 +62,7 @@ class PlainPostgres {
   PGconn* mConnection;
 };
 
-/// A database with tables and nothing in them, gone with this object.
+/// A database with empty tables, deleted with this object.
 class EmptyDatabase {
  public:
   EmptyDatabase() : mName("vantrel_bench_" + std::to_string(++sCount)) {
@@ -91,7 +91,7 @@ void Save(VNTRDB& pobjAccess, const std::shared_ptr<Workflow>& pobjWorkflow) {
 
 enum class Asked : std::uint8_t { Rows, Everything };
 
-/// The texts of what saving a new chart asks, and of what reading it asks.
+/// The statements of saving a new chart, and those of reading it, as text.
 struct Texts {
   explicit Texts(Asked pAsked, std::int32_t plngPlaces) {
     const EmptyDatabase empty;

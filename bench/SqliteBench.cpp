@@ -1,6 +1,6 @@
-// Saving and reading a workflow in SQLite, beside the same rows and the same statements given to SQLite's own interface.
+// Saving and reading a workflow in SQLite, beside SQLite's own interface with the same rows and the same statements.
 //
-// Every save goes into a file of its own with the tables of data/schema/sqlite.sql; opening it is not measured, committing is.
+// Every save uses a new file with the tables of data/schema/sqlite.sql. Opening the file is not measured, committing is.
 #include "database/sqlite/Sqlite.h"
 
 #include <cmath>
@@ -32,7 +32,7 @@ std::string SchemaText() {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// A database file with tables and nothing in them, gone with this object.
+/// A database file with empty tables, deleted with this object.
 class EmptyDatabase {
  public:
   EmptyDatabase() : mPath((std::filesystem::temp_directory_path() / ("vantrel-bench-" + std::to_string(++sCount) + ".db")).string()) {
@@ -76,7 +76,7 @@ class PlainSqlite {
 
   void Execute(const char* pstrText) { Check(sqlite3_exec(mDatabase, pstrText, nullptr, nullptr, nullptr) == SQLITE_OK); }
 
-  /// Prepared once for each shape; columns of rows are fetched.
+  /// Prepares once for each shape and fetches the columns of rows.
   void RunPrepared(const EngineStatement& pobjStatement) {
     auto& statement = mPrepared[pobjStatement.Text];
     if (!statement) statement = Prepare(pobjStatement.Text);
@@ -147,7 +147,7 @@ void Replay(PlainSqlite& pobjDatabase, const StatementLog& pcolLog, How pHow, co
   pobjDatabase.Execute("COMMIT");
 }
 
-/// A database of the system whose statements are noted.
+/// A database of the system whose statements are recorded.
 struct LoggedDatabase {
   explicit LoggedDatabase(const std::string& pstrPath) {
     auto session = std::make_unique<LoggingSession>(std::make_unique<SqliteSession>(SqliteOptions{}), Log);
@@ -192,7 +192,7 @@ void SaveWorkflow(benchmark::State& state, bool pblnAgain) {
   state.SetItemsProcessed(state.iterations() * rows);
 }
 
-/// What the save of a new chart asked, and what the second save of it asked.
+/// The statements of the first save of a chart, and those of the second.
 struct SaveLogs {
   explicit SaveLogs(std::int32_t plngPlaces) {
     const EmptyDatabase file;

@@ -24,7 +24,7 @@ std::string Literal(const Variant& pvarValue) {
 
 std::string AsText(const EngineStatement& pobjStatement) {
   if (pobjStatement.Parameters.empty()) return pobjStatement.Text;
-  // "?" counts for itself, "$2" says which one it is. Names never hold either.
+  // Each "?" is the next parameter, "$2" is the second. Names contain neither.
   const std::string& from = pobjStatement.Text;
   std::string text;
   std::size_t next = 0;

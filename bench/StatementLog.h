@@ -1,4 +1,4 @@
-// What a save or a read asks of an engine, to give the same to the engine's own interface.
+// Records what a save or a read asks of an engine, to ask the same through the engine's own interface.
 #pragma once
 
 #include <memory>
@@ -12,14 +12,14 @@ namespace vantrel::bench {
 struct LoggedStatement {
   EngineStatement Statement;
   bool IsQuery = false;
-  bool IsRow = false;  ///< adds or changes a row, and is no deletion
+  bool IsRow = false;  ///< adds or changes a row
 };
 using StatementLog = std::vector<LoggedStatement>;
 
 /// The statement with its parameters written into the text.
 std::string AsText(const EngineStatement& pobjStatement);
 
-/// A session that notes what passes through it.
+/// A session that records the statements that it passes on.
 class LoggingSession final : public Session {
  public:
   LoggingSession(std::unique_ptr<Session> pobjSession, std::shared_ptr<StatementLog> pcolLog)

@@ -138,8 +138,8 @@ function(vantrel_install_headers)
   install(FILES ${PROJECT_BINARY_DIR}/include/vantrel/version.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/vantrel COMPONENT library)
 endfunction()
 
-# Half of what a source takes to compile are headers that its neighbours read, too. Names in unnamed namespaces must differ then within a
-# folder; a source that cannot do so sets SKIP_UNITY_BUILD_INCLUSION.
+# Headers that its neighbours read as well take half of the time to compile a source. Names in unnamed namespaces must then differ within
+# a folder; a source that cannot be compiled so sets SKIP_UNITY_BUILD_INCLUSION.
 function(vantrel_compile_together target)
   get_target_property(type ${target} TYPE)
   if(VANTREL_COMPILE_TOGETHER AND NOT type STREQUAL "INTERFACE_LIBRARY")

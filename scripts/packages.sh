@@ -12,5 +12,6 @@ test_packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   python3-minimal
   postgresql
+  poppler-utils
   xvfb xdotool openbox
 )

@@ -11,7 +11,7 @@ volatile std::sig_atomic_t glngCame = 0;
 Interrupt::Interrupt() {
   glngCame = 0;
   struct sigaction action = {};
-  // The third one ends the program at once. Not the second: who stops a whole group of processes sends two in one go.
+  // The third one kills the program. Not the second: a shell that stops a whole group of processes sends two at once.
   action.sa_handler = [](int) {
     const int came = glngCame + 1;
     glngCame = came;

@@ -4,7 +4,7 @@
 
 namespace vantrel {
 
-/// While one lives, the first Ctrl-C is a wish to come to an end, and the third one ends the program as ever. One at a time.
+/// While it lives, the first Ctrl-C only asks the program to come to an end, and the third one kills it as usual. One at a time.
 class Interrupt {
  public:
   Interrupt();

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
-/// Bytes of the character that the text begins with; 0 when it begins with none (RFC 3629).
+/// The bytes of the character that the text begins with (RFC 3629); 0 when they are not UTF-8.
 std::size_t CharacterLength(std::string_view pstrText) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(pstrText[i]); };
   const unsigned char first = byte(0);

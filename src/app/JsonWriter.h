@@ -6,8 +6,8 @@
 
 namespace vantrel {
 
-/// Writes one JSON text (RFC 8259) piece by piece. What is no UTF-8 becomes the replacement character U+FFFD. Putting the
-/// pieces in an order that makes sense is up to the caller.
+/// Writes one JSON text (RFC 8259) piece by piece. Bytes that are not UTF-8 become the replacement character U+FFFD. The caller puts
+/// the pieces in a valid order.
 class JsonWriter {
  public:
   JsonWriter& Open(char pstrBracket);   ///< '{' or '['
@@ -15,7 +15,7 @@ class JsonWriter {
   JsonWriter& Key(std::string_view pstrKey);
   JsonWriter& Text(std::string_view pstrText);
   JsonWriter& Number(std::int64_t plngNumber);
-  /// As the shortest decimals that give the same value again; null for what is no number or infinite.
+  /// The shortest decimals that give the same value when read; null for NaN and infinity.
   JsonWriter& Decimal(float psngNumber);
   JsonWriter& Decimal(double pdblNumber);
   JsonWriter& Boolean(bool pblnValue);

@@ -5,7 +5,7 @@
 
 namespace vantrel {
 
-/// The text with control characters as blanks, so that it stays on one line and moves no cursor.
+/// The text with blanks for control characters, so that it stays on one line and moves no cursor.
 std::string OnOneLine(std::string pstrText);
 
 }  // namespace vantrel

@@ -1,4 +1,4 @@
-// How far something is, on a terminal.
+// Shows progress on a terminal.
 #pragma once
 
 #include <chrono>
@@ -7,12 +7,12 @@
 
 namespace vantrel {
 
-/// A line that appears after a second, changes five times a second, and is gone at the end. Ask IsDue before making its text.
+/// A line that appears after a second, changes five times a second, and is erased at the end. Ask IsDue before making its text.
 class ProgressLine {
  public:
   using Clock = std::chrono::steady_clock;
 
-  /// Times are arguments for the sake of tests.
+  /// Times are parameters so that tests can give them.
   explicit ProgressLine(std::ostream& pobjTerminal, Clock::time_point pStart = Clock::now());
   ~ProgressLine();
   ProgressLine(const ProgressLine&) = delete;

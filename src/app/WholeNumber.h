@@ -6,8 +6,8 @@
 
 namespace vantrel {
 
-/// For Option::transform: lets an option take decimal whole numbers between the bounds and nothing else, and drops zeros in
-/// front, behind which CLI11 takes a number for octal.
+/// For Option::transform: accepts decimal whole numbers between the bounds and nothing else. Removes leading zeros, with which CLI11
+/// would read a number as octal.
 CLI::Validator WholeNumber(std::uint64_t plngLeast, std::uint64_t plngMost);
 
 }  // namespace vantrel

@@ -7,6 +7,12 @@ namespace vantrel {
 
 constexpr float kTwipsPerPixel = 15;
 
+struct Point {
+  float X = 0, Y = 0;
+
+  friend bool operator==(const Point&, const Point&) = default;
+};
+
 struct Rect {
   float Left = 0, Top = 0, Right = 0, Bottom = 0;
 

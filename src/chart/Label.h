@@ -34,6 +34,10 @@ class Label final : public BoxElement {
   Color ForeColor() const { return mForeColor; }
   void ForeColor(Color plngColor) { Set(mForeColor, plngColor); }
 
+  /// Its object is chosen; views show that.
+  bool Marked() const { return mMarked; }
+  void Marked(bool pblnOn) { Set(mMarked, pblnOn); }
+
   void CopySettings(const Label& pobjTemplate);
 
  private:
@@ -47,6 +51,7 @@ class Label final : public BoxElement {
   std::int16_t mAppearance = 0;
   std::int16_t mBackStyle = 0;
   bool mAutoSize = false;
+  bool mMarked = false;
 };
 
 }  // namespace vantrel

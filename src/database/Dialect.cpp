@@ -17,7 +17,7 @@ bool IsJoined(const SqlToken& pToken) {
          (pToken.Kind == SqlTokenKind::Word && (IsSameName(pToken.Text, "inner") || IsSameName(pToken.Text, "union")));
 }
 
-// What stands behind the FROM that belongs to the first SELECT.
+// The text after the FROM that belongs to the first SELECT.
 std::string TableBehindFrom(SqlTokenizer& pobjTokens) {
   int depth = 0;
   for (SqlToken token = pobjTokens.Next(); token.Kind != SqlTokenKind::End; token = pobjTokens.Next()) {

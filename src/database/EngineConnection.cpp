@@ -66,7 +66,7 @@ void EngineConnection::BeginOutermost(Transaction pTransaction) {
     mobjSession->Begin(pTransaction);
   } catch (const Error&) {
     if (mobjSession->IsOpen()) throw;
-    // Only now the session is known to be lost, and nothing is lost with it.
+    // The session turns out to be lost only now. No change was in it.
     Open();
     mobjSession->Begin(pTransaction);
   }

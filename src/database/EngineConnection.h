@@ -1,4 +1,4 @@
-// A connection to any engine: the rules of connections and transactions over what the engine's adapter does.
+// A connection to any engine: the rules of connections and transactions, over the engine's adapter.
 #pragma once
 
 #include <map>
@@ -18,20 +18,20 @@ class EngineConnection final : public Connection {
   ~EngineConnection() override;
 
   void Execute(const std::string& pstrSql, std::int32_t plngOptions = kOptionsUnspecified) override;
-  /// The user and the password belong into the address; throws Error 5 for others. Does nothing on a connection that is open at
-  /// the address already.
+  /// User and password belong in the address; throws Error 5 for parameters that are not empty. Does nothing on a connection that is
+  /// open at that address.
   void Open(const std::string& pstrAddress = {}, const std::string& pstrUserId = {}, const std::string& pstrPassword = {},
             std::int32_t plngOptions = kOptionsUnspecified) override;
   std::unique_ptr<Recordset> NewRecordset() override;
 
-  /// Opens a lost session anew when it begins an outermost transaction.
+  /// Opens a lost session again when it begins an outermost transaction.
   void BeginTrans(Transaction pTransaction) override;
   void CommitTrans() override;
   /// An inner one ends the engine's transaction at once; from then on the outer ones are lost.
   void RollbackTrans() noexcept override;
   bool IsTransactionLost() const override;
 
-  /// For row sets: like the session's, with Error 3709 where the connection or the transaction is lost.
+  /// For row sets: like the session's, but throws Error 3709 when the connection or the transaction is lost.
   EngineRows Query(const EngineStatement& pobjStatement);
   std::int64_t Run(const EngineStatement& pobjStatement);
   std::int32_t Insert(const EngineStatement& pobjStatement);
@@ -40,14 +40,14 @@ class EngineConnection final : public Connection {
   std::shared_ptr<const std::vector<std::string>> ColumnsOf(const std::string& pstrTable);
 
  private:
-  /// The session for a statement. Throws the error of that number, with the reason, when there can be none now.
+  /// The session for a statement. When there is none, throws the error of that number, with the reason.
   Session& Usable(std::int32_t plngNumber);
   template <class Action>
   auto ForRowSet(Action pAction);
   std::string ReasonOfLoss() const;
   void BeginOutermost(Transaction pTransaction);
   void EndTransaction() noexcept;
-  /// Keeps why the transaction is lost, when it is.
+  /// Notes why the transaction is lost, if it is.
   void NoteFailure(const std::string& pstrDescription);
 
   std::unique_ptr<Session> mobjSession;

@@ -53,7 +53,7 @@ void EngineRecordset::Open(const std::string& pstrSource) {
   ForgetAssigned();
 }
 
-// Learns the columns of a table whose rows can wait: for a new row they would be fetched for nothing.
+// Asks for the columns of a table alone. Adding a row needs none of its rows.
 bool EngineRecordset::CanWait() {
   if (mstrTable.empty()) return false;
   mcolColumns = mobjConnection.ColumnsOf(mstrTable);

@@ -1,4 +1,4 @@
-// A row set in memory: all rows of a statement, and the one that is being added or changed.
+// A row set in memory: all rows of a statement, and the one being added or changed.
 #pragma once
 
 #include <cstddef>
@@ -12,8 +12,8 @@
 
 namespace vantrel {
 
-/// The rows of a table that is named alone, and the row that is looked for by its id, are fetched when somebody asks for them:
-/// adding a row costs one statement. What was assigned and not written is forgotten when the row set moves on.
+/// Fetches the rows of a table named alone, or the row with an id, only when they are read, so that adding a row takes one
+/// statement. Assigned columns that were not written are forgotten when another row becomes current.
 class EngineRecordset final : public Recordset {
  public:
   explicit EngineRecordset(EngineConnection& pobjConnection);
@@ -52,9 +52,9 @@ class EngineRecordset final : public Recordset {
 
   EngineConnection& mobjConnection;
   std::string mstrSource;
-  std::string mstrTable;                                        // that rows are written to, once it is known
+  std::string mstrTable;                                        // that rows are written to, once known
   std::shared_ptr<const std::vector<std::string>> mcolColumns;  // null before Open
-  mutable std::vector<Variant> mcolValues;                      // row behind row
+  mutable std::vector<Variant> mcolValues;                      // row after row
   mutable std::size_t mlngRow = 0;                              // the current one, not counting a new one
   bool mblnWhole = false;                                       // the source is a table that is named alone
   mutable bool mblnFetched = false;                             // else mcolValues holds rows added here alone

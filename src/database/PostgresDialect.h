@@ -5,7 +5,7 @@
 
 namespace vantrel {
 
-/// Names are in small letters, as in the schema, and stand in double quotes.
+/// Names are written in small letters, as in the schema, and in double quotes.
 class PostgresDialect final : public Dialect {
  protected:
   void AppendName(std::string& pstrText, std::string_view pstrName) const override;
@@ -13,7 +13,7 @@ class PostgresDialect final : public Dialect {
   void AppendBoolean(std::string& pstrText, bool pblnValue) const override;
   void AppendDate(std::string& pstrText, Date pdtmValue) const override;
   std::string_view ReturningId() const override { return " RETURNING \"id\""; }
-  /// The server gives a changed row last. For whole rows of one table of the schema only: others need not have an id.
+  /// The server gives a changed row last, so whole rows of one table of the schema are ordered by id. Other tables may have none.
   std::string_view RowOrder(std::string_view pstrText) const override;
 };
 

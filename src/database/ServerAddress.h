@@ -9,7 +9,7 @@ namespace vantrel {
 /// True for an address of the form `postgresql://...` or `postgres://...`.
 bool IsServerAddress(std::string_view pstrAddress);
 
-/// From the colon before the password to the sign behind it; nothing where there is none. Takes in too much rather than too little.
+/// The text from the colon before the password to the sign after it; empty without a password. In doubt it is too long, never too short.
 std::string_view PasswordIn(std::string_view pstrAddress);
 
 /// The address as messages may show it: without any password. Options that may hold one are left out.

@@ -1,4 +1,4 @@
-// What the adapter of an engine does; EngineConnection makes a Connection of it.
+// What an engine's adapter implements. EngineConnection makes a Connection of it.
 #pragma once
 
 #include <cstdint>
@@ -16,17 +16,17 @@ class Dialect;
 struct EngineStatement {
   std::string Text;                 ///< with numbered parameters where the dialect took values out
   std::vector<Variant> Parameters;  ///< never objects
-  bool IsReusable = false;          ///< the text is a shape that will come again with other values: worth preparing
+  bool IsReusable = false;          ///< the same text will come again with other values, so prepare it
 };
 
-/// All rows of a result, one behind the other.
+/// All rows of a result, one after the other.
 struct EngineRows {
   std::vector<std::string> Columns;
   std::vector<Variant> Values;  ///< Columns.size() for each row, in the kinds of the columns (text, single, date, ...)
 };
 
-/// A session with an engine, for one thread. Failures are Errors whose description names the database where that helps; 3704 for
-/// a session that is closed or lost. A refused statement has changed nothing and leaves the transaction usable.
+/// A session with an engine, for one thread. Throws Errors whose description names the database where that helps, and Error 3704 on
+/// a closed or lost session. A refused statement changes nothing and leaves the transaction usable.
 class Session {
  public:
   Session() = default;
@@ -37,16 +37,16 @@ class Session {
   virtual const vantrel::Dialect& Dialect() const = 0;
   virtual void Open(const std::string& pstrAddress) = 0;
   virtual void Close() noexcept = 0;
-  /// False before Open and from the moment when the session is known to be lost.
+  /// False before Open and as soon as the session is known to be lost.
   virtual bool IsOpen() const = 0;
 
   /// Rows changed.
   virtual std::int64_t Run(const EngineStatement& pobjStatement) = 0;
   virtual EngineRows Query(const EngineStatement& pobjStatement) = 0;
-  /// Runs what Dialect::InsertRow made. The new row's id, given by the engine.
+  /// Runs the statement of Dialect::InsertRow. Returns the new row's id, which the engine gives.
   virtual std::int32_t Insert(const EngineStatement& pobjStatement) = 0;
 
-  /// Several statements in the engine's own language, for example the tables to create; all or none of them.
+  /// Runs several statements in the engine's own language, such as those that create the tables: all or none of them.
   virtual void RunScript(const std::string& pstrScript) = 0;
 
   virtual void Begin(Transaction pTransaction) = 0;

@@ -1,4 +1,4 @@
-// Cuts a statement of the system into its tokens, without copying any of it.
+// Cuts a statement of the system into tokens without copying it.
 #pragma once
 
 #include <cstddef>
@@ -21,13 +21,13 @@ struct SqlToken {
   bool IsWord(SqlWord pClass) const { return Kind == SqlTokenKind::Word && Class == pClass; }
 };
 
-/// Throws Error vntErrStatement for what cannot be a token. The statement must outlive it and its tokens.
+/// Throws Error vntErrStatement for an invalid token. The statement must outlive it and its tokens.
 class SqlTokenizer {
  public:
   explicit SqlTokenizer(std::string_view pstrSql);
 
   SqlToken Next();
-  /// The token that Next gives next.
+  /// The token that Next will give.
   const SqlToken& Peek() const { return mNext; }
 
  private:
@@ -45,7 +45,7 @@ class SqlTokenizer {
   SqlToken mNext;
 };
 
-/// The value of a text token: doubled quotes made single.
+/// The value of a text token, with doubled quotes made single.
 std::string UndoubleQuotes(std::string_view pstrText);
 
 }  // namespace vantrel

@@ -8,7 +8,7 @@ namespace vantrel {
 
 enum class SqlWord : std::uint8_t {
   Name,
-  Keyword,   ///< one without a part of its own in a translation
+  Keyword,   ///< one that is translated like any other
   Function,  ///< a name where no parenthesis follows
   BeforeBy,  ///< ORDER, GROUP: names where no BY follows
   By,
@@ -27,7 +27,7 @@ enum class SqlWord : std::uint8_t {
 /// Capital and small letters alike.
 SqlWord ClassOf(std::string_view pstrWord);
 
-/// Two names, capital and small letters of ASCII alike.
+/// Compares names; capital and small letters of ASCII count as equal.
 bool IsSameName(std::string_view pstrA, std::string_view pstrB);
 
 constexpr char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }

@@ -5,7 +5,7 @@
 
 namespace vantrel {
 
-/// Names stand in double quotes: SQLite must be told not to take unknown ones for texts.
+/// Names are written in double quotes. SQLite must be told not to read unknown ones as texts.
 class SqliteDialect final : public Dialect {
  protected:
   void AppendName(std::string& pstrText, std::string_view pstrName) const override;

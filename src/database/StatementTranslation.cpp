@@ -119,7 +119,7 @@ void Dialect::Translation::TranslateWord(const SqlToken& pToken) {
 void Dialect::Translation::TranslateSymbol(const SqlToken& pToken) {
   const char symbol = pToken.Text.front();
   if ((symbol == '-' || symbol == '+') && mblnValueFollows && mTokens.Peek().Kind == SqlTokenKind::Number) {
-    // The number takes its sign along: an engine cannot tell the type of a signed parameter.
+    // The sign becomes part of the number: an engine cannot tell the type of a signed parameter.
     return AddNumber(mTokens.Next().Text, symbol == '-');
   }
   AddSymbol(pToken.Text);

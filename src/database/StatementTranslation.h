@@ -1,4 +1,4 @@
-// One statement on its way into an engine's language.
+// The translation of one statement into an engine's language.
 #pragma once
 
 #include <string_view>
@@ -8,7 +8,7 @@
 
 namespace vantrel {
 
-/// Writes the statement anew, token by token and with single blanks, so that statements of one shape become one text.
+/// Writes the statement again, token by token and with single blanks, so that statements of one shape have the same text.
 class Dialect::Translation {
  public:
   Translation(const Dialect& pobjDialect, std::string_view pstrSql);
@@ -23,7 +23,7 @@ class Dialect::Translation {
   bool IsName(const SqlToken& pToken) const;
   void AddNumber(std::string_view pstrDigits, bool pblnNegative);
   void AddValue(Variant pvarValue);
-  /// The values behind IN, which stay text, up to and with the closing parenthesis.
+  /// The values after IN, which stay text, up to and including the closing parenthesis.
   void TranslateList();
   void TranslateListItem(const SqlToken& pToken);
 
@@ -39,7 +39,7 @@ class Dialect::Translation {
   bool mblnGlue = true;           // no blank before the next token
   bool mblnValueFollows = false;  // a minus here is a sign
   bool mblnAfterDot = false;
-  bool mblnOrdering = false;  // behind ORDER BY or GROUP BY a number is the place of a column and no value
+  bool mblnOrdering = false;  // after ORDER BY or GROUP BY a number is the place of a column, not a value
 };
 
 }  // namespace vantrel

@@ -17,7 +17,7 @@ class TransactionScope {
   TransactionScope(const TransactionScope&) = delete;
   TransactionScope& operator=(const TransactionScope&) = delete;
 
-  /// Throws Connection::CommitTrans's Error, and the changes are gone.
+  /// Throws what Connection::CommitTrans throws; then the changes are gone.
   void Commit() {
     mblnOpen = false;
     mConnection.CommitTrans();

@@ -2,7 +2,7 @@
 
 #include "designer/ChartObjects.h"
 #include "designer/ElementBinding.h"
-#include "util/MsgBox.h"
+#include "designer/HostEvents.h"
 
 namespace vantrel {
 
@@ -14,8 +14,8 @@ constexpr const char* kSecondArc = "Only one arc is permitted between a transiti
 constexpr const char* kNoSource = "First select an object that the arc will be drawn from.";
 constexpr const char* kFromEndPlace = "Arcs extending from an End Places is not allowed.";
 
-void RefuseLikeObjects(const ModelObject& pobjFrom) {
-  MsgBox(kLikeObjects);
+void RefuseLikeObjects(Vantrel& pobjControl, const ModelObject& pobjFrom) {
+  SayLater(pobjControl, kLikeObjects);
   const auto* node = dynamic_cast<const Node*>(&pobjFrom);
   if (node && node->OutArcs.IsEmpty() && node->OutConnector) node->OutConnector->Visible(false);
 }
@@ -39,12 +39,12 @@ std::shared_ptr<Arc> ArcInserting::Insert(const std::shared_ptr<ModelObject>& po
   const auto transition = source ? source : std::dynamic_pointer_cast<Transition>(pobjTo);
   const auto place = std::dynamic_pointer_cast<Place>(source ? pobjTo : pobjFrom);
   if (!place || !transition) {
-    RefuseLikeObjects(*pobjFrom);
+    RefuseLikeObjects(mobjControl, *pobjFrom);
     return nullptr;
   }
   if (!IsPartOf(*place, *workflow) || !IsPartOf(*transition, *workflow)) throw Error(vntErrInvalidCall);
   if (AreJoined(*place, *transition, *workflow)) {
-    MsgBox(kSecondArc);
+    SayLater(mobjControl, kSecondArc);
     return nullptr;
   }
   auto arc = workflow->CreateArc(place, transition, source ? vntOutArc : vntInArc);
@@ -58,13 +58,13 @@ std::shared_ptr<Arc> ArcInserting::Insert(const std::shared_ptr<ModelObject>& po
 void ArcInserting::Start() {
   const auto* element = mobjControl.CurrentControl().get();
   if (!element) {
-    MsgBox(kNoSource);
+    SayLater(mobjControl, kNoSource);
     return;
   }
   const auto object = mobjControl.GetVNTRObject(element->Tag());
   const auto& end = mobjControl.Workflow()->EndPlace();
   if (object && end && end.get() == object.get()) {
-    MsgBox(kFromEndPlace);
+    SayLater(mobjControl, kFromEndPlace);
     return;
   }
   mobjControl.mblnInsertingArc = true;

@@ -8,6 +8,7 @@
 #include "designer/Vantrel.h"
 #include "designer/gestures/DoubleClicks.h"
 #include "designer/gestures/Drops.h"
+#include "designer/gestures/ElementUnder.h"
 #include "designer/gestures/Gesture.h"
 #include "designer/gestures/Hover.h"
 #include "designer/gestures/Keys.h"
@@ -22,8 +23,10 @@ namespace {
 // Does what an event asks for and shows the user what goes wrong. False when the control is gone by then, and its input with it.
 bool Serve(Vantrel& pobjControl, const std::function<void()>& pServe) {
   const Ref<Vantrel> control(&pobjControl);
-  const ControlScope scope(pobjControl);
-  ShowErrors(pServe);
+  ShowErrors([&] {
+    const ControlScope scope(pobjControl);
+    pServe();
+  });
   return static_cast<bool>(control);
 }
 
@@ -58,12 +61,11 @@ void ChartInput::Press(const PointerInput& pobjInput) {
     if (pobjInput.Button != vntLeftButton) return;
     Abandon();
   }
-  std::shared_ptr<Gesture> gesture;
-  const bool lives = Serve(mobjControl, [&] {
+  Serve(mobjControl, [&] {
     mobjControl.FocusFrame.CancelEdit();
-    gesture = PressAt(mobjControl, pobjInput);
+    // Null also when a menu, or a host that a transition's action asked, has ended the control.
+    if (const auto gesture = PressAt(mobjControl, pobjInput)) mobjGesture = gesture;
   });
-  if (lives) mobjGesture = gesture;
 }
 
 void ChartInput::Move(const PointerInput& pobjInput) {
@@ -79,14 +81,20 @@ void ChartInput::Move(const PointerInput& pobjInput) {
 }
 
 void ChartInput::Release(const PointerInput& pobjInput) {
-  if (!mobjGesture || pobjInput.Button != vntLeftButton) return;
+  if (!mobjGesture || pobjInput.Button != vntLeftButton) return ReleaseIdly(pobjInput);
   if (!IsSomewhere(pobjInput)) return Abandon();
   const auto gesture = std::exchange(mobjGesture, nullptr);
   Serve(mobjControl, [&] { gesture->Release(pobjInput); });
 }
 
+void ChartInput::ReleaseIdly(const PointerInput& pobjInput) {
+  const Element* const element = IsSomewhere(pobjInput) ? ElementUnder(mobjControl, pobjInput.X, pobjInput.Y) : nullptr;
+  if (element && element->Family() == ctlImageFamily) mobjControl.FocusFrame.Visible(false);
+}
+
 void ChartInput::DoubleClick(const PointerInput& pobjInput) {
   if (pobjInput.Button != vntLeftButton || !IsSomewhere(pobjInput)) return;
+  if (mobjControl.Comfort.QuickPressEndsArc && mobjControl.IsInsertingArc()) return Press(pobjInput);
   bool isUsed = true;
   // Two presses in quick succession are no double-click where that means nothing.
   if (Serve(mobjControl, [&] { isUsed = DoubleClickAt(mobjControl, pobjInput); }) && !isUsed) Press(pobjInput);
@@ -100,7 +108,7 @@ bool ChartInput::Key(std::int16_t pintCode, std::int16_t pintShift) {
     return pintCode == kEscapeKey;
   }
   if (pintCode == kEscapeKey) Abandon();
-  Serve(mobjControl, [&] { isUsed = (frame.HasFocus() && frame.Key(pintCode)) || PressKey(mobjControl, pintCode, pintShift); });
+  Serve(mobjControl, [&] { isUsed = (frame.TakesKeys() && frame.Key(pintCode)) || PressKey(mobjControl, pintCode, pintShift); });
   return isUsed;
 }
 

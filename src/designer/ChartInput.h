@@ -36,6 +36,9 @@ class ChartInput {
   bool IsCaptured() const { return mobjGesture != nullptr; }
 
  private:
+  // A button that no gesture waits for: over an image, the focus frame goes.
+  void ReleaseIdly(const PointerInput& pobjInput);
+
   Vantrel& mobjControl;
   Subscription mobjResized, mobjScrolledAcross, mobjScrolledDown;
   std::shared_ptr<Gesture> mobjGesture;  // while the left button is down

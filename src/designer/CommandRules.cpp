@@ -15,6 +15,10 @@ std::shared_ptr<Place> CurrentPlace(const Vantrel& pobjControl) { return std::dy
 
 }  // namespace
 
+bool MayChange(const Vantrel& pobjControl) {
+  return !pobjControl.Comfort.LockHolds || (pobjControl.UseMode() == vntDesign && !pobjControl.LockControls());
+}
+
 bool IsAlways(const Vantrel&) { return true; }
 
 bool HasWorkflow(const Vantrel& pobjControl) { return pobjControl.Workflow() != nullptr; }

@@ -5,6 +5,9 @@ namespace vantrel {
 
 class Vantrel;
 
+/// Whether mouse and keyboard may change the chart: with Comfort::LockHolds, in design mode while it is not locked.
+bool MayChange(const Vantrel& pobjControl);
+
 bool IsAlways(const Vantrel& pobjControl);
 bool HasWorkflow(const Vantrel& pobjControl);
 bool CanCopy(const Vantrel& pobjControl);

@@ -4,7 +4,10 @@
 #include <iterator>
 
 #include "designer/CommandRules.h"
+#include "designer/HostEvents.h"
 #include "designer/Vantrel.h"
+#include "designer/gestures/Choosing.h"
+#include "designer/gestures/ElementUnder.h"
 #include "util/MsgBox.h"
 
 namespace vantrel {
@@ -15,7 +18,25 @@ namespace {
 void ReplaceWorkflow(Vantrel& pobjControl) {
   const Ref<Vantrel> control(&pobjControl);
   const auto ask = pobjControl.MayReplaceWorkflow;
-  if ((!ask || ask()) && control) control->NewWorkflow();
+  if (ask) {
+    const HostTurn turn;
+    if (!ask()) return;
+  }
+  if (control) control->NewWorkflow();
+}
+
+// What was chosen before would be moved and deleted along with it.
+template <class T>
+void ChooseInserted(const Ref<Vantrel>& pobjControl, const std::shared_ptr<T>& pobjObject) {
+  if (!pobjControl || !pobjControl->Comfort.ChosenIsSeen) return;
+  const auto element = ElementOf(*pobjObject);
+  if (IsOnChart(element)) ChooseAlone(*pobjControl, element);
+}
+
+template <auto Insert>
+void InsertAndChoose(Vantrel& pobjControl) {
+  const Ref<Vantrel> control(&pobjControl);
+  ChooseInserted(control, Insert(pobjControl));
 }
 
 void ToggleLock(Vantrel& pobjControl) {
@@ -45,11 +66,12 @@ constexpr ControlCommand kCommands[] = {
     {Ids::Delete, "Delete", "Del", CanDelete, [](Vantrel& control) { control.Delete(); }},
     {Ids::SelectAll, "Select All", "Ctrl+A", CanSelectAll, [](Vantrel& control) { control.SelectAll(); }},
     {Ids::InsertArc, "Insert Arc", "A", CanInsertArc, [](Vantrel& control) { control.StartArcInsert(); }},
-    {Ids::InsertPlace, "Insert Place", "P", CanInsert, [](Vantrel& control) { control.InsertPlace(); }},
-    {Ids::InsertTransition, "Insert Transition", "T", CanInsert, [](Vantrel& control) { control.InsertTransition(); }},
+    {Ids::InsertPlace, "Insert Place", "P", CanInsert, InsertAndChoose<[](Vantrel& control) { return control.InsertPlace(); }>},
+    {Ids::InsertTransition, "Insert Transition", "T", CanInsert,
+     InsertAndChoose<[](Vantrel& control) { return control.InsertTransition(); }>},
     {Ids::InsertElbow, "Insert Elbow", "E", CanInsertElbow, [](Vantrel& control) { control.InsertElbow(); }},
     {Ids::RemoveElbow, "Remove Elbow", "Shift+E", CanRemoveElbow, [](Vantrel& control) { control.RemoveElbow(); }},
-    {Ids::AddNotation, "Add Notation", "N", CanInsert, [](Vantrel& control) { control.AddNotation(); }},
+    {Ids::AddNotation, "Add Notation", "N", CanInsert, InsertAndChoose<[](Vantrel& control) { return control.AddNotation(); }>},
     {Ids::AlignHorizontal, "Align Horizontal", "H", CanAlign, [](Vantrel& control) { control.AlignSelection("Horizontal"); }},
     {Ids::AlignVertical, "Align Vertical", "V", CanAlign, [](Vantrel& control) { control.AlignSelection("Vertical"); }},
     {Ids::Backcolor, "Backcolor", "", CanInsert, [](Vantrel& control) { control.SetBackcolor(); }},

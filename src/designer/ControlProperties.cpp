@@ -1,5 +1,6 @@
 #include "designer/ControlProperties.h"
 
+#include "designer/HostEvents.h"
 #include "designer/StillShown.h"
 #include "model/DesignerState.h"
 #include "model/PropertyBuilder.h"
@@ -47,7 +48,7 @@ void ControlProperties::UseMode(UseModeConstant pintMode) {
       mobjControl.FocusFrame.Visible(false);
     }
   }
-  mobjControl.OnUseModeChange.Raise(pintMode);
+  RaiseLater(mobjControl, &Vantrel::OnUseModeChange, pintMode);
 }
 
 void ControlProperties::ShowOnArcs(bool Workflow::*pFlag, bool pblnOn) {
@@ -72,7 +73,11 @@ void ControlProperties::BackColor(Color plngColor) {
 void ControlProperties::ChooseBackColor() {
   const Ref<Vantrel> control(&mobjControl);
   const Color before = mobjControl.BackColor();
-  const Color chosen = ComDlg32(mobjControl.Tools()).SelectColor(before);
+  Color chosen = before;
+  {
+    const HostTurn turn;
+    chosen = ComDlg32(mobjControl.Tools()).SelectColor(before);
+  }
   if (control && chosen != before) BackColor(chosen);
 }
 

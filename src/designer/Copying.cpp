@@ -2,7 +2,7 @@
 
 #include <unordered_set>
 
-#include "designer/CopiedArcs.h"
+#include "designer/PastePlace.h"
 #include "designer/Selecting.h"
 
 namespace vantrel {
@@ -20,13 +20,16 @@ void Copying::AddInnerArcs(ObjectCollection& pcolObjects) const {
 
 void Copying::Copy() {
   const auto selection = mobjControl.Selection();
-  if (selection->IsEmpty()) {
-    mobjControl.Clipboard = std::make_shared<ObjectCollection>();
-  } else {
-    mobjControl.Clipboard = selection;
-    AddInnerArcs(*selection);
+  const bool isApart = selection->IsEmpty() || mobjControl.Comfort.PasteKeepsOriginals;
+  const auto copied = isApart ? std::make_shared<ObjectCollection>() : selection;
+  if (isApart) {
+    for (const auto& object : *selection) Selecting::AddTo(*copied, object);
   }
-  KeepPaths(*mobjControl.Clipboard);
+  AddInnerArcs(*copied);
+  mobjControl.Clipboard = copied;
+  PastePlace::Objects objects;
+  for (const auto& object : *copied) objects.push_back(object);
+  mobjControl.mobjPastePlace->Copied(mobjControl, objects);
 }
 
 }  // namespace vantrel

@@ -5,7 +5,8 @@
 
 namespace vantrel {
 
-/// The clipboard becomes the selection's own collection, not a copy of it, with the arcs whose two ends are selected.
+/// The clipboard becomes the selection's own collection, not a copy of it, with the arcs whose two ends are selected. With
+/// Comfort::PasteKeepsOriginals it becomes a collection of its own.
 class Copying {
  public:
   explicit Copying(Vantrel& pobjControl) : mobjControl(pobjControl) {}

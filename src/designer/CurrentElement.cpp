@@ -1,8 +1,8 @@
 #include "designer/CurrentElement.h"
 
 #include "designer/ChartObjects.h"
+#include "designer/HostEvents.h"
 #include "designer/Selecting.h"
-#include "designer/StillShown.h"
 
 namespace vantrel {
 
@@ -17,7 +17,9 @@ void CurrentElement::DropHighlight() {
   const auto& workflow = mobjControl.Workflow();
   if (!element || !workflow || !element->Visible() || !IsSegment(*element)) return;
   const auto segment = workflow->Vectors.Find(element->Tag());
-  if (segment && segment->Arc()) segment->Arc()->RemoveFocus();
+  if (!segment || !segment->Arc()) return;
+  const bool staysSelected = mobjControl.Comfort.ChosenIsSeen && segment->Selected();
+  if (!staysSelected) segment->Arc()->RemoveFocus();
 }
 
 // A click on one object replaces a selection of one; a click on one of several keeps them. Marks and the rubber band repaint what
@@ -50,11 +52,9 @@ void CurrentElement::Set(const Ref<Element>& pobjElement) {
   const auto object = mobjControl.GetVNTRObject(element->Tag());
   if (!object) throw Error(vntErrObjectNotSet);
   if (!IsSelected(*object)) Selecting(mobjControl).Add(object);
-  const StillShown shown(mobjControl);
-  mobjControl.OnSelected.Raise(*object);
-  if (!shown || !element) return;
   if (mobjControl.UseMode() == vntDesign) Mark(*element, object);
   mobjControl.mobjCurrentControl = element;
+  RaiseForObject(mobjControl, &Vantrel::OnSelected, object);
 }
 
 }  // namespace vantrel

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "designer/ChartObjects.h"
-#include "designer/ObjectRemoval.h"
 #include "designer/Selecting.h"
 #include "designer/StillShown.h"
 
@@ -23,13 +22,12 @@ std::vector<std::shared_ptr<ModelObject>> Deleting::Doomed() const {
 void Deleting::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
   const auto object = pobjObject;  // NOLINT(performance-unnecessary-copy-initialization): it may be the selection's share, which goes
   const auto workflow = mobjControl.Workflow();
-  if (!workflow) throw Error(vntErrObjectNotSet);
+  if (!workflow || !object) throw Error(vntErrObjectNotSet);
   const StillShown shown(mobjControl);
   workflow->Dirty(true);
   if (!shown) return;
-  ObjectRemoval removal(*workflow);
-  removal.Remove(object);
-  Selecting(mobjControl).Forget(removal.Removed());
+  const auto chartObject = std::dynamic_pointer_cast<ChartObject>(object);
+  if (chartObject && chartObject->Kind() != ChartKind::Elbow) Selecting(mobjControl).Forget(workflow->Remove(chartObject));
   mobjControl.CurrentControl(nullptr);
   workflow->Dirty(true);
 }

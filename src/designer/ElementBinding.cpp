@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "designer/ChartObjects.h"
-#include "model/ArcChain.h"
 #include "model/VNTRGlobal.h"
 #include "util/Lookup.h"
 
@@ -21,38 +20,6 @@ void SizeLabel(Label& pobjLabel, float& psngWidth, float& psngHeight) {
     psngHeight = pobjLabel.Height();
   }
   pobjLabel.Resize(psngWidth, psngHeight);
-}
-
-void EnsureSegment(Arc& pobjArc) {
-  Workflow& workflow = *pobjArc.Workflow;
-  const auto vector = std::make_shared<Vector>();
-  vector->Key = NextKey(workflow.Vectors, "Vector");
-  vector->Arc(&pobjArc);
-  workflow.Vectors.Add(vector, vector->Key);
-}
-
-void Link(const std::vector<Vector*>& pcolChain) {
-  for (std::size_t i = 1; i < pcolChain.size(); ++i) {
-    pcolChain[i - 1]->OutVector = pcolChain[i];
-    pcolChain[i]->InVector = pcolChain[i - 1];
-  }
-  pcolChain.front()->InVector = nullptr;
-  pcolChain.back()->OutVector = nullptr;
-}
-
-Elbow* BendPointBetween(const Workflow& pobjWorkflow, const Vector& pobjBefore, const Vector& pobjBehind) {
-  for (Elbow* elbow : pobjBefore.Elbows()) {
-    if (elbow->OutVector() == &pobjBehind && IsPartOf(*elbow, pobjWorkflow)) return elbow;
-  }
-  return nullptr;
-}
-
-Elbow& NewBendPoint(Workflow& pobjWorkflow, Vector& pobjBefore, Vector& pobjBehind) {
-  const auto elbow = std::make_shared<Elbow>(&pobjWorkflow);
-  elbow->InVector(&pobjBefore);
-  elbow->OutVector(&pobjBehind);
-  pobjWorkflow.Elbows.Add(elbow, elbow->Key);
-  return *elbow;
 }
 
 }  // namespace
@@ -137,28 +104,25 @@ void ElementBinding::BindSegments(const std::vector<Vector*>& pcolChain) {
   }
 }
 
-void ElementBinding::BindBendPoint(Arc& pobjArc, Vector& pobjBefore, Vector& pobjBehind) {
-  Workflow& workflow = *pobjArc.Workflow;
-  Elbow* elbow = BendPointBetween(workflow, pobjBefore, pobjBehind);
-  if (!elbow) elbow = &NewBendPoint(workflow, pobjBefore, pobjBehind);
-  elbow->Selected(false);
-  Image& handle = Renew(mobjSurface.ctlHandle, elbow->Handle, elbow->Key);
-  elbow->CentreHandle(pobjBefore.X2(), pobjBefore.Y2());
-  elbow->Visible(false);
+void ElementBinding::BindBendPoint(Elbow& pobjElbow) {
+  pobjElbow.Selected(false);
+  Image& handle = Renew(mobjSurface.ctlHandle, pobjElbow.Handle, pobjElbow.Key);
+  pobjElbow.CentreHandle(pobjElbow.InVector()->X2(), pobjElbow.InVector()->Y2());
+  pobjElbow.Visible(false);
   handle.BringToFront();
 }
 
 void ElementBinding::Bind(Arc& pobjArc) {
   Select(pobjArc, false);
   BindLabels(pobjArc);
-  auto chain = ChainOf(pobjArc);
-  if (chain.empty()) {
-    EnsureSegment(pobjArc);
-    chain = ChainOf(pobjArc);
-  }
-  Link(chain);
+  if (pobjArc.Segments().empty()) pobjArc.AddSegment();
+  const auto chain = pobjArc.LinkSegments();
   BindSegments(chain);
-  for (std::size_t i = 1; i < chain.size(); ++i) BindBendPoint(pobjArc, *chain[i - 1], *chain[i]);
+  for (const Vector* segment : chain) {
+    for (Elbow* elbow : segment->Elbows()) {
+      if (elbow->InVector() == segment) BindBendPoint(*elbow);
+    }
+  }
 }
 
 void ElementBinding::Bind(Notation& pobjNotation) {

@@ -32,7 +32,7 @@ class ElementBinding {
   void BindNode(Node& pobjNode, const PicturePtr& pobjPicture);
   void BindLabels(Arc& pobjArc);
   void BindSegments(const std::vector<Vector*>& pcolChain);
-  void BindBendPoint(Arc& pobjArc, Vector& pobjBefore, Vector& pobjBehind);
+  void BindBendPoint(Elbow& pobjElbow);
   Image& NewImage(Ref<Image>& pobjMember, const std::string& pstrKey, const PicturePtr& pobjPicture);
   Label& NewLabel(ElementFamily<Label>& pobjFamily, Ref<Label>& pobjMember, const std::string& pstrKey, const std::string& pstrCaption);
   template <class E>

@@ -196,6 +196,8 @@ void FocusFrame::CancelEdit() {
   OnEditing.Raise();
 }
 
+bool FocusFrame::TakesKeys() const { return HasFocus() && !mobjControl.Comfort.ChosenIsSeen; }
+
 bool FocusFrame::Key(std::int16_t pintCode) {
   if (pintCode == kEscapeKey) {
     Visible(false);

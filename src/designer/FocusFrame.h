@@ -70,8 +70,10 @@ class FocusFrame {
   void EndEdit(const std::string& pstrText);
   /// The text box goes without effect.
   void CancelEdit();
-  /// Whether keys go to the frame rather than to the chart: from a press on a handle on, until a press elsewhere.
+  /// From a press on a handle on, until a press elsewhere.
   bool HasFocus() const { return mblnFocus && Visible(); }
+  /// Whether keys go to the frame rather than to the chart: while it has the focus, unless Comfort::ChosenIsSeen is on.
+  bool TakesKeys() const;
   void HasFocus(bool pblnOn) { mblnFocus = pblnOn; }
   /// A key while the frame has the focus: Escape hides it, Delete clears a label's text or deletes an image's object. False for others.
   bool Key(std::int16_t pintCode);

@@ -5,7 +5,6 @@
 #include "designer/ElementBinding.h"
 #include "designer/Selecting.h"
 #include "designer/StillShown.h"
-#include "util/Lookup.h"
 
 namespace vantrel {
 
@@ -18,7 +17,7 @@ constexpr std::int16_t kFlat = 0, kFixedSingle = 1;
 std::shared_ptr<Elbow> BendPointGoingWith(const Vector& pobjSegment) {
   for (Elbow* bendPoint : pobjSegment.Elbows()) {
     const auto& joined = pobjSegment.InVector ? bendPoint->OutVector() : bendPoint->InVector();
-    if (joined == &pobjSegment) return bendPoint->shared_from_this();
+    if (joined == &pobjSegment) return ShareOf(*bendPoint);
   }
   return nullptr;
 }
@@ -28,32 +27,28 @@ std::shared_ptr<Elbow> BendPointGoingWith(const Vector& pobjSegment) {
 Workflow& Inserting::Chart() const { return *Ref<Workflow>(mobjControl.Workflow()); }
 
 template <class N>
-std::shared_ptr<N> Inserting::InsertNode(Collection<N>& pcolNodes, const std::string& pstrCaption) {
-  RequirePosition(mobjControl);
-  auto node = std::make_shared<N>();
-  node->Workflow = mobjControl.Workflow();
-  node->Key = NextKey(pcolNodes, pcolNodes.KeyWord());
-  node->AssignName(NextName(pcolNodes, pcolNodes.KeyWord()));
-  node->Caption(node->Name());
-  node->Top(mobjControl.CurrentY);
-  node->Left(mobjControl.CurrentX);
-  ElementBinding(mobjControl).Bind(*node);
-  pcolNodes.Add(node, node->Key);
-  node->Caption(pstrCaption.empty() ? node->Name() : pstrCaption);
-  node->Visible(true);
-  node->Draw();
-  return node;
+void Inserting::Show(N& pobjNode, const std::string& pstrCaption) {
+  pobjNode.Caption(pobjNode.Name());
+  pobjNode.MoveTo(mobjControl.CurrentX, mobjControl.CurrentY);
+  ElementBinding(mobjControl).Bind(pobjNode);
+  pobjNode.Caption(pstrCaption.empty() ? pobjNode.Name() : pstrCaption);
+  pobjNode.Visible(true);
+  pobjNode.Draw();
 }
 
 std::shared_ptr<Place> Inserting::InsertPlace(const std::string& pstrCaption) {
-  auto place = InsertNode(Chart().Places, pstrCaption);
+  RequirePosition(mobjControl);
+  auto place = Chart().NewPlace();
+  Show(*place, pstrCaption);
   place->Dirty(true);
   Chart().Dirty(true);
   return place;
 }
 
 std::shared_ptr<Transition> Inserting::InsertTransition(const std::string& pstrCaption) {
-  auto transition = InsertNode(Chart().Transitions, pstrCaption);
+  RequirePosition(mobjControl);
+  auto transition = Chart().NewTransition();
+  Show(*transition, pstrCaption);
   Chart().Dirty(true);
   return transition;
 }
@@ -61,9 +56,7 @@ std::shared_ptr<Transition> Inserting::InsertTransition(const std::string& pstrC
 std::shared_ptr<Notation> Inserting::AddNotation() {
   RequirePosition(mobjControl);
   Workflow& workflow = Chart();
-  auto note = std::make_shared<Notation>();
-  note->Workflow = &workflow;
-  note->Key = NextKey(workflow.Notations, workflow.Notations.KeyWord());
+  auto note = workflow.NewNotation();
   MoveTo(*note, mobjControl.CurrentX, mobjControl.CurrentY);
   note->Appearance = kFlat;
   note->BorderStyle = kFixedSingle;
@@ -71,7 +64,6 @@ std::shared_ptr<Notation> Inserting::AddNotation() {
   note->Height(kNoteHeight);
   note->Dirty = true;
   ElementBinding(mobjControl).Bind(*note);
-  workflow.Notations.Add(note, note->Key);
   workflow.Dirty(true);
   return note;
 }
@@ -97,7 +89,7 @@ void Inserting::RemoveElbow() {
   if (arc->Segments().size() < 2) return;
   mobjControl.CurrentControl(nullptr);
   // Off chart and selection first: removing it tells everybody, and listeners must find only what is left.
-  std::vector<std::shared_ptr<ModelObject>> leaving{vector};
+  std::vector<std::shared_ptr<ChartObject>> leaving{vector};
   if (const auto bendPoint = BendPointGoingWith(*vector)) {
     if (bendPoint->Handle) bendPoint->Handle->Unload();
     leaving.push_back(bendPoint);
@@ -108,6 +100,7 @@ void Inserting::RemoveElbow() {
   arc->RemoveVector(vector);
   if (!shown) return;
   arc->RemoveFocus();
+  if (mobjControl.Comfort.ChosenIsSeen) mobjControl.Selection(nullptr);
   mobjControl.Dirty(true);
 }
 

@@ -25,7 +25,7 @@ class Inserting {
   /// The shown workflow.
   Workflow& Chart() const;
   template <class N>
-  std::shared_ptr<N> InsertNode(Collection<N>& pcolNodes, const std::string& pstrCaption);
+  void Show(N& pobjNode, const std::string& pstrCaption);
   std::shared_ptr<Vector> CurrentSegment() const;
 
   Vantrel& mobjControl;

@@ -10,6 +10,9 @@
 #include "designer/Deleting.h"
 #include "designer/ElementBinding.h"
 #include "designer/FreeNames.h"
+#include "designer/HostEvents.h"
+#include "designer/PastePlace.h"
+#include "designer/Selecting.h"
 #include "designer/StillShown.h"
 
 namespace vantrel {
@@ -37,8 +40,7 @@ void Pasting::RequireKeys(const Objects& pcolObjects) const {
   std::size_t segments = 0;
   for (const auto& object : pcolObjects) {
     const auto* arc = dynamic_cast<const Arc*>(object.get());
-    if (arc) arc = KeptPathOf(*arc);
-    if (arc) segments += arc->Segments().size();
+    if (arc) segments += arc->Path().size();
   }
   RequireKeysFor(pcolObjects.size(), mobjWorkflow->Places);
   RequireKeysFor(pcolObjects.size(), mobjWorkflow->Transitions);
@@ -51,7 +53,9 @@ void Pasting::RequireKeys(const Objects& pcolObjects) const {
 // The names of what will be deleted are free.
 void Pasting::ChooseNames(const Objects& pcolObjects) {
   std::unordered_set<const ModelObject*> leaving;
-  for (const auto& object : Deleting(mobjControl).Doomed()) leaving.insert(object.get());
+  if (!mobjControl.Comfort.PasteKeepsOriginals) {
+    for (const auto& object : Deleting(mobjControl).Doomed()) leaving.insert(object.get());
+  }
   const auto leaves = [&](const ModelObject& object) { return leaving.contains(&object); };
   FreeNames places(mobjWorkflow->Places, leaves), transitions(mobjWorkflow->Transitions, leaves);
   for (const auto& object : pcolObjects) {
@@ -61,16 +65,12 @@ void Pasting::ChooseNames(const Objects& pcolObjects) {
   }
 }
 
-void Pasting::TakeCorner(const Objects& pcolObjects) {
-  float left = std::numeric_limits<float>::max(), top = left;
-  for (const auto& object : pcolObjects) {
-    const auto bounds = BoundsOf(*object);
-    if (!bounds) continue;
-    left = std::min(left, bounds->Left);
-    top = std::min(top, bounds->Top);
-  }
-  msngShiftX = left - mobjControl.CurrentX;
-  msngShiftY = top - mobjControl.CurrentY;
+void Pasting::ChoosePlace(const Objects& pcolObjects) {
+  const auto from = PastePlace::CornerOf(pcolObjects);
+  const PastePlace::Corner current{mobjControl.CurrentX, mobjControl.CurrentY};
+  const auto to = mobjControl.Comfort.PasteKeepsOriginals ? mobjControl.mobjPastePlace->Take(mobjControl) : current;
+  msngShiftX = from.Left - to.Left;
+  msngShiftY = from.Top - to.Top;
 }
 
 void Pasting::SelectCopy(const ModelObject& pobjFrom, const std::shared_ptr<ModelObject>& pobjCopy) {
@@ -112,8 +112,7 @@ void Pasting::PasteArc(const Arc& pobjFrom) {
   if (end == mCopies.end() || otherEnd == mCopies.end()) return;
   const auto place = std::static_pointer_cast<Place>(end->second);
   const auto transition = std::static_pointer_cast<Transition>(otherEnd->second);
-  const Arc* path = KeptPathOf(pobjFrom);
-  const auto arc = (path ? path : &pobjFrom)->Clone(mobjWorkflow, place, transition);
+  const auto arc = pobjFrom.Clone(mobjWorkflow, place, transition);
   const bool inward = arc->ArcDirection == vntInArc;
   (inward ? place->OutArcs : place->InArcs).Add(arc, arc->Key);
   (inward ? transition->InArcs : transition->OutArcs).Add(arc, arc->Key);
@@ -137,6 +136,12 @@ void Pasting::PasteAll(const Objects& pcolObjects) {
   }
 }
 
+void Pasting::MakeRoom() {
+  if (!mobjControl.Comfort.PasteKeepsOriginals) return mobjControl.Delete();
+  mobjControl.CurrentControl(nullptr);
+  mobjControl.Selection(nullptr);
+}
+
 void Pasting::Paste() {
   const auto clipboard = mobjControl.Clipboard;
   if (!clipboard || clipboard->IsEmpty()) return;
@@ -144,22 +149,23 @@ void Pasting::Paste() {
   Objects objects;  // as they are now: deleting and listeners change selection and clipboard
   for (const auto& object : *clipboard) objects.push_back(object);
   mobjWorkflow = mobjControl.Workflow() ? mobjControl.Workflow() : std::make_shared<Workflow>();
-  KeepPaths(*clipboard);
   RequirePictures(objects);
   RequireKeys(objects);
   ChooseNames(objects);
-  TakeCorner(objects);
+  ChoosePlace(objects);
   const Ref<Vantrel> control(&mobjControl);
   if (!mobjControl.Workflow()) mobjControl.Workflow(mobjWorkflow);
   if (!control || mobjControl.Workflow() != mobjWorkflow) return;
   const StillShown shown(mobjControl);
-  mobjControl.Delete();
+  MakeRoom();
   if (!shown) return;
   PasteAll(objects);
+  Selecting(mobjControl).MakeSingleCurrent();
+  if (!shown) return;
   mobjControl.Refresh();
   const auto pasted = mobjControl.Selection();
   mobjWorkflow->Dirty(true);
-  if (shown) mobjControl.OnPasted.Raise(pasted);
+  if (shown) RaiseLater(mobjControl, &Vantrel::OnPasted, pasted);
 }
 
 }  // namespace vantrel

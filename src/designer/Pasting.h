@@ -6,13 +6,13 @@
 #include <unordered_map>
 #include <vector>
 
-#include "designer/CopiedArcs.h"
 #include "designer/Vantrel.h"
 
 namespace vantrel {
 
-/// The group keeps its layout; its top-left corner comes to the control's current position. What is selected goes first, and the
-/// copies of places, transitions and notes are the selection then. Arcs are pasted between copies of both their ends alone.
+/// The group keeps its layout; its top-left corner comes to the control's current position. What is selected is deleted first, and the
+/// copies of places, transitions and notes become the selection. An arc is pasted only between copies of both its ends. See also
+/// Comfort::PasteKeepsOriginals.
 /// Everything that can fail is done before anything is deleted.
 class Pasting {
  public:
@@ -23,7 +23,8 @@ class Pasting {
  private:
   using Objects = std::vector<std::shared_ptr<ModelObject>>;
 
-  void TakeCorner(const Objects& pcolObjects);
+  void ChoosePlace(const Objects& pcolObjects);
+  void MakeRoom();
   void RequirePictures(const Objects& pcolObjects) const;
   void RequireKeys(const Objects& pcolObjects) const;
   void ChooseNames(const Objects& pcolObjects);

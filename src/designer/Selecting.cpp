@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "designer/ChartObjects.h"
+#include "designer/gestures/ElementUnder.h"
 
 namespace vantrel {
 
@@ -73,6 +74,20 @@ void Selecting::Set(const std::shared_ptr<ObjectCollection>& pcolObjects) {
   mobjControl.mcolSelection = objects;
 }
 
+void Selecting::Replace(const std::shared_ptr<ObjectCollection>& pcolObjects) {
+  Set(pcolObjects);
+  const Element* current = mobjControl.CurrentControl().get();
+  if (!mobjControl.Comfort.ChosenIsSeen || !current) return;
+  const auto object = ObjectOf(mobjControl, *current);
+  if (!object || !IsSelected(*object)) mobjControl.CurrentControl(nullptr);
+}
+
+void Selecting::MakeSingleCurrent() {
+  const auto selection = mobjControl.Selection();
+  if (!mobjControl.Comfort.ChosenIsSeen || selection->Count() != 1) return;
+  if (const auto element = ElementOf(*selection->First())) mobjControl.CurrentControl(element);
+}
+
 void Selecting::Add(const std::shared_ptr<ModelObject>& pobjObject) {
   AddTo(*mobjControl.mcolSelection, pobjObject);
   Select(*pobjObject, true);
@@ -83,7 +98,7 @@ void Selecting::SelectOnly(const std::shared_ptr<ModelObject>& pobjObject) {
   Add(pobjObject);
 }
 
-void Selecting::Forget(const std::vector<std::shared_ptr<ModelObject>>& pcolObjects) {
+void Selecting::Forget(const std::vector<std::shared_ptr<ChartObject>>& pcolObjects) {
   const auto before = mobjControl.mcolSelection;
   bool wasSelected = false;
   for (const auto& object : pcolObjects) {
@@ -103,18 +118,19 @@ void Selecting::Forget(const std::vector<std::shared_ptr<ModelObject>>& pcolObje
   mobjControl.mcolSelection = rest;
 }
 
-std::shared_ptr<ObjectCollection> Selecting::All(const Workflow* pobjWorkflow) {
+std::shared_ptr<ObjectCollection> Selecting::All(const Workflow* pobjWorkflow, bool pblnBendPoints) {
   auto objects = std::make_shared<ObjectCollection>();
-  const auto every = [](const ModelObject&) { return true; };
+  const auto every = [&](const ModelObject& object) { return pblnBendPoints || !dynamic_cast<const Elbow*>(&object); };
   const auto* w = pobjWorkflow;
   if (w) Gather(*objects, every, w->Transitions, w->Places, w->Elbows, w->Notations);
   return objects;
 }
 
-std::shared_ptr<ObjectCollection> Selecting::InRectangle(const Workflow* pobjWorkflow, const Rect& pobjArea) {
+std::shared_ptr<ObjectCollection> Selecting::InRectangle(const Workflow* pobjWorkflow, const Rect& pobjArea, bool pblnBendPoints) {
   auto objects = std::make_shared<ObjectCollection>();
   const auto inside = [&](const auto& object) {
     const auto* shape = Shape(object);
+    if (!pblnBendPoints && shape && shape->Family() == ctlHandleFamily) return false;
     return shape && IsInside(shape->Bounds(), pobjArea);
   };
   const auto* w = pobjWorkflow;

@@ -16,14 +16,19 @@ class Selecting {
 
   /// Null clears every mark of the workflow. Nothing without a workflow.
   void Set(const std::shared_ptr<ObjectCollection>& pcolObjects);
+  /// The same; with Comfort::ChosenIsSeen an element whose object is not selected then is current no more.
+  void Replace(const std::shared_ptr<ObjectCollection>& pcolObjects);
   void Add(const std::shared_ptr<ModelObject>& pobjObject);
   void SelectOnly(const std::shared_ptr<ModelObject>& pobjObject);
   /// Objects leave the workflow.
-  void Forget(const std::vector<std::shared_ptr<ModelObject>>& pcolObjects);
+  void Forget(const std::vector<std::shared_ptr<ChartObject>>& pcolObjects);
 
-  /// Both empty without a workflow.
-  static std::shared_ptr<ObjectCollection> All(const Workflow* pobjWorkflow);
-  static std::shared_ptr<ObjectCollection> InRectangle(const Workflow* pobjWorkflow, const Rect& pobjArea);
+  /// With Comfort::ChosenIsSeen, makes the element of a single selected object current.
+  void MakeSingleCurrent();
+
+  /// Both empty without a workflow, and without bend points when they are not wanted.
+  static std::shared_ptr<ObjectCollection> All(const Workflow* pobjWorkflow, bool pblnBendPoints);
+  static std::shared_ptr<ObjectCollection> InRectangle(const Workflow* pobjWorkflow, const Rect& pobjArea, bool pblnBendPoints);
   /// Adds under the object's key, or under none when that is taken.
   static void AddTo(ObjectCollection& pcolObjects, const std::shared_ptr<ModelObject>& pobjObject);
 

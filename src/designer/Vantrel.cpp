@@ -14,6 +14,7 @@
 #include "designer/Deleting.h"
 #include "designer/ElementBinding.h"
 #include "designer/Inserting.h"
+#include "designer/PastePlace.h"
 #include "designer/Pasting.h"
 #include "designer/PopupMenus.h"
 #include "designer/Selecting.h"
@@ -32,6 +33,7 @@ Vantrel::Vantrel(Toolkit& pobjToolkit)
       mobjToolkit(pobjToolkit),
       mobjHost(std::make_unique<ControlHost>(*this)),
       mobjMenus(std::make_shared<PopupMenus>(*this)),
+      mobjPastePlace(std::make_unique<PastePlace>()),
       mcolSelection(std::make_shared<ObjectCollection>()) {
   mobjState->Host = mobjHost.get();
   BackColor(kWhite);
@@ -58,9 +60,8 @@ void Vantrel::UseMode(UseModeConstant pintMode) {
 std::string Vantrel::UseModeName(std::int32_t plngMode) { return ControlProperties::UseModeName(plngMode); }
 
 void Vantrel::Dirty(bool pblnDirty) {
-  const ControlScope scope(*this);
   mblnDirty = pblnDirty;
-  OnDirtyChange.Raise(pblnDirty);
+  RaiseLater(*this, &Vantrel::OnDirtyChange, pblnDirty);
 }
 
 bool Vantrel::ShowWeights() const { return mWorkflow && mWorkflow->ShowWeights; }
@@ -99,7 +100,7 @@ void Vantrel::CurrentControl(const Ref<Element>& pobjElement) {
 
 void Vantrel::Selection(const std::shared_ptr<ObjectCollection>& pcolObjects) {
   const ControlScope scope(*this);
-  Selecting(*this).Set(pcolObjects);
+  Selecting(*this).Replace(pcolObjects);
 }
 
 std::shared_ptr<ModelObject> Vantrel::GetVNTRObject(const std::string& pstrKey) const {
@@ -221,12 +222,14 @@ void Vantrel::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
   Deleting(*this).DeleteObject(pobjObject);
 }
 
-std::shared_ptr<ObjectCollection> Vantrel::GetSelections() const { return Selecting::InRectangle(mWorkflow.get(), MultiSelect.Area()); }
+std::shared_ptr<ObjectCollection> Vantrel::GetSelections() const {
+  return Selecting::InRectangle(mWorkflow.get(), MultiSelect.Area(), !Comfort.ChosenIsSeen);
+}
 
 std::shared_ptr<ObjectCollection> Vantrel::SelectAll() {
   const ControlScope scope(*this);
-  auto objects = Selecting::All(mWorkflow.get());
-  Selecting(*this).Set(objects);
+  auto objects = Selecting::All(mWorkflow.get(), !Comfort.ChosenIsSeen);
+  Selecting(*this).Replace(objects);
   return objects;
 }
 
@@ -260,12 +263,16 @@ MenuItem& Vantrel::RoleMenu() { return mobjMenus->Role(); }
 
 void Vantrel::ShowDesignMenu() {
   const auto menus = mobjMenus;
-  mobjToolkit.ShowPopup(DesignMenu());
+  MenuItem& menu = DesignMenu();
+  const HostTurn turn;
+  mobjToolkit.ShowPopup(menu);
 }
 
 void Vantrel::ShowTestMenu() {
   const auto menus = mobjMenus;
-  mobjToolkit.ShowPopup(TestMenu());
+  MenuItem& menu = TestMenu();
+  const HostTurn turn;
+  mobjToolkit.ShowPopup(menu);
 }
 
 void Vantrel::ShowObjectProperties() {
@@ -274,6 +281,7 @@ void Vantrel::ShowObjectProperties() {
   const auto dialogs = Dialogs;
   auto object = mobjCurrentControl ? GetVNTRObject(mobjCurrentControl->Tag()) : nullptr;
   if (const auto vector = std::dynamic_pointer_cast<Vector>(object)) object = vector->Arc().Lock();
+  const HostTurn turn;
   dialogs->ShowProperties(*this, object ? *object : *this);
 }
 

@@ -8,6 +8,7 @@
 
 #include "chart/ChartSurface.h"
 #include "designer/ChartInput.h"
+#include "designer/Comfort.h"
 #include "designer/Dialogs.h"
 #include "designer/FocusFrame.h"
 #include "designer/ScrollBar.h"
@@ -21,6 +22,7 @@
 namespace vantrel {
 
 class ControlHost;
+class PastePlace;
 class PopupMenus;
 
 /// What a control's selection and clipboard hold: model objects under their keys.
@@ -53,6 +55,7 @@ class Vantrel final : public ModelObject {
   std::shared_ptr<vantrel::VNTRDB> VNTRDB;  ///< offered to the host; reads embedded workflows
   bool CaseTestingEnabled = false;          ///< GetProperties offers KeepHistory and CaseTracking, too
   bool EnablePopups = false, PropertyPopupEnabled = false;
+  vantrel::Comfort Comfort;                             ///< all off at first
   std::shared_ptr<vantrel::Object> DragObject;          ///< what the host drags over the chart
   std::shared_ptr<ObjectCollection> Clipboard;          ///< never null unless a host makes it so; outlives workflow changes
   std::shared_ptr<vantrel::Dialogs> Dialogs;            ///< never null; does nothing at first
@@ -156,15 +159,21 @@ class Vantrel final : public ModelObject {
   void Resize(float psngWidth, float psngHeight);
   Toolkit& Tools() const { return mobjToolkit; }
 
+  // Events wait until the outermost call of a control is over, and come in the order in which they were raised: listeners find the
+  // operation done, and may do anything, closing the control included, which then tells nothing more. What the host does to the model
+  // itself is told at once. What a listener throws reaches whoever made the call, after everybody was told; users see it in a message box.
+  // While a listener runs an event loop, calls made from there tell what waits when they end.
+  // These two come in the middle of a firing, which needs their effect:
   Event<const std::string&, const std::shared_ptr<Transition>&> OnRunCommand;  ///< an action for the host to run
+  Event<const std::shared_ptr<Place>&, const std::shared_ptr<Token>&> OnTokenAdded;
+
   Event<const std::shared_ptr<vantrel::Object>&, std::int16_t, std::int16_t, float, float>
       OnObjectDragDrop;                 ///< pobjDragObject, Button, Shift, X, y: let go over the background
   Event<const std::string&> OnMessage;  ///< never raised
   Event<const std::shared_ptr<Transition>&> OnTransitionDblClick;
-  Event<const std::shared_ptr<Place>&, const std::shared_ptr<Token>&> OnTokenAdded;
   Event<const std::shared_ptr<vantrel::Object>&, const std::shared_ptr<vantrel::Object>&> OnObjectDropped;  ///< target, source
   Event<const std::shared_ptr<Transition>&, const std::string&> OnContentsClick;
-  /// The object selected or right-clicked; the control itself for the background.
+  /// The object selected or right-clicked; the control itself for the background. It lives as long as listeners are told of it.
   Event<ModelObject&> OnSelected, OnRightClick;
   Event<const std::shared_ptr<ObjectCollection>&> OnPasted;
   Event<const std::shared_ptr<Arc>&> OnArcInserted;
@@ -185,6 +194,7 @@ class Vantrel final : public ModelObject {
   Toolkit& mobjToolkit;
   std::unique_ptr<ControlHost> mobjHost;  // what the model reaches as gobjVantrel
   std::shared_ptr<PopupMenus> mobjMenus;  // shared: an entry of a menu that is open may end the control
+  std::unique_ptr<PastePlace> mobjPastePlace;
   std::shared_ptr<vantrel::Workflow> mWorkflow;
   Subscription mTokenAdded;
   std::shared_ptr<ObjectCollection> mcolSelection;

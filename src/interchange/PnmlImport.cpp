@@ -8,8 +8,6 @@
 #include "interchange/UniqueNames.h"
 #include "interchange/section/ArcPathText.h"
 #include "interchange/section/VantrelSectionReader.h"
-#include "model/DesignerState.h"
-#include "util/Lookup.h"
 
 namespace vantrel {
 
@@ -54,7 +52,6 @@ class WorkflowBuilder {
   /// Of the object added last.
   void Describe(Node& pobjObject, const PnmlNode& pobjNode) const;
   void AddArc(std::size_t plngNumber);
-  void Bend(Arc& pobjArc, const std::vector<LayoutPoint>& pcolBends) const;
   void FindEnds();
   std::shared_ptr<Place> PlaceOfSection(const char* pstrSetting) const;
 
@@ -80,9 +77,6 @@ ImportedNet WorkflowBuilder::Build() {
 }
 
 void WorkflowBuilder::AddNode(std::size_t plngNumber) {
-  // The sides that the drawing is made for; those that an object is given become the next one's.
-  gintInputPosition = vntLeft;
-  gintOutputPosition = vntRight;
   const PnmlNode& node = mNet.Nodes[plngNumber];
   if (node.Kind == PnmlKind::Place) {
     AddPlace(node);
@@ -93,10 +87,9 @@ void WorkflowBuilder::AddNode(std::size_t plngNumber) {
 
 void WorkflowBuilder::AddPlace(const PnmlNode& pobjNode) {
   Workflow& workflow = *mResult.Workflow;
-  const auto place = std::make_shared<Place>();
-  place->Key = NextKey(workflow.Places, "Place");
-  place->AssignName(mPlaceNames.Next());
-  workflow.Places.Add(place, place->Key);
+  const std::string name = mPlaceNames.Next();
+  const auto place = workflow.NewPlace(name);
+  place->AssignName(name);  // a section may say that it is empty
   if (pobjNode.InitialMarking > 0) mResult.Marking.push_back({place, pobjNode.InitialMarking});
   if (pobjNode.Border == PnmlBorder::Start) workflow.StartPlace = place;
   if (pobjNode.Border == PnmlBorder::End) workflow.EndPlace(place);
@@ -106,11 +99,9 @@ void WorkflowBuilder::AddPlace(const PnmlNode& pobjNode) {
 }
 
 void WorkflowBuilder::AddTransition(const PnmlNode& pobjNode) {
-  Workflow& workflow = *mResult.Workflow;
-  const auto transition = std::make_shared<Transition>();
-  transition->Key = NextKey(workflow.Transitions, "Transition");
-  transition->AssignName(mTransitionNames.Next());
-  workflow.Transitions.Add(transition, transition->Key);
+  const std::string name = mTransitionNames.Next();
+  const auto transition = mResult.Workflow->NewTransition(name);
+  transition->AssignName(name);
   if (pobjNode.Subnet) {
     const ImportedNet inner = WorkflowBuilder(*pobjNode.Subnet, mAssembly).Build();
     mResult.Skipped.insert(mResult.Skipped.end(), inner.Skipped.begin(), inner.Skipped.end());
@@ -128,11 +119,9 @@ void WorkflowBuilder::AddTransition(const PnmlNode& pobjNode) {
 
 void WorkflowBuilder::Describe(Node& pobjObject, const PnmlNode& pobjNode) const {
   const LayoutPoint& corner = mPlacement.TopLeft[mObjects.size() - 1];
-  pobjObject.Workflow = mResult.Workflow;
   pobjObject.HiddenTag = pobjNode.Id;
   pobjObject.Caption(pobjNode.Name);
-  pobjObject.Left(corner.X);
-  pobjObject.Top(corner.Y);
+  pobjObject.MoveTo(corner.X, corner.Y);
   if (!pobjNode.NameOffset || mPlacement.IsLaidOut) return;
   pobjObject.CaptionOffsetLeft(TwipsOfPixels(pobjNode.NameOffset->X, kOfCaption));
   pobjObject.CaptionOffsetTop(TwipsOfPixels(pobjNode.NameOffset->Y, kOfCaption));
@@ -142,44 +131,18 @@ void WorkflowBuilder::AddArc(std::size_t plngNumber) {
   const PnmlArc& from = mNet.Arcs[plngNumber];
   const auto& source = mObjects[static_cast<std::size_t>(mNumbers.at(from.Source))];
   const auto& target = mObjects[static_cast<std::size_t>(mNumbers.at(from.Target))];
-  auto place = std::dynamic_pointer_cast<Place>(source);
-  const bool inward = place != nullptr;
-  if (!inward) place = std::dynamic_pointer_cast<Place>(target);
-  const auto transition = std::dynamic_pointer_cast<Transition>(inward ? target : source);
+  const bool inward = source->Kind() == ChartKind::Place;
+  const auto place = std::static_pointer_cast<Place>(inward ? source : target);
+  const auto transition = std::static_pointer_cast<Transition>(inward ? target : source);
   const auto arc = mResult.Workflow->CreateArc(place, transition, inward ? vntInArc : vntOutArc);
   arc->HiddenTag = from.Id;
-  arc->Weight(from.Weight);
-  Vector* const first = arc->Segments().front();
+  arc->AssignWeight(from.Weight);
   const PathSegment run = UsualRun(*source, *target);
-  first->Start(run.X1, run.Y1);
-  first->End(run.X2, run.Y2);
-  Bend(*arc, mPlacement.Bends[plngNumber]);
+  std::vector<Point> path{{run.X1, run.Y1}};
+  for (const LayoutPoint& bend : mPlacement.Bends[plngNumber]) path.push_back({bend.X, bend.Y});
+  path.push_back({run.X2, run.Y2});
+  arc->Path(path);
   if (from.Section) ReadSection(*mAssembly.Source, from, !mPlacement.IsLaidOut, *arc);
-}
-
-// Every bend splits the last segment of the chain, which then ends at the target.
-void WorkflowBuilder::Bend(Arc& pobjArc, const std::vector<LayoutPoint>& pcolBends) const {
-  Workflow& workflow = *mResult.Workflow;
-  Vector* last = pobjArc.Segments().front();
-  for (const LayoutPoint& bend : pcolBends) {
-    const auto behind = std::make_shared<Vector>();
-    behind->Key = NextKey(workflow.Vectors, "Vector");
-    behind->Arc(&pobjArc);
-    behind->Start(bend.X, bend.Y);
-    behind->End(last->X2(), last->Y2());
-    last->End(bend.X, bend.Y);
-    last->OutVector = behind;
-    behind->InVector = last;
-    workflow.Vectors.Add(behind, behind->Key);
-
-    const auto elbow = std::make_shared<Elbow>();
-    elbow->Key = NextKey(workflow.Elbows, "Elbow");
-    elbow->InVector(last);
-    elbow->OutVector(behind);
-    elbow->CentreHandle(bend.X, bend.Y);
-    workflow.Elbows.Add(elbow, elbow->Key);
-    last = behind.get();
-  }
 }
 
 void WorkflowBuilder::FindEnds() {
@@ -217,9 +180,6 @@ ImportedNet ImportPnml(const std::string& pstrPath, const PnmlOptions& pobjOptio
 }
 
 ImportedNet BuildWorkflow(const PnmlNet& pobjNet) {
-  // What is built here is not on any chart yet: a control that shows another workflow must not lend it elements.
-  const DesignerStateScope scope;
-  gobjVantrel = nullptr;
   Assembly assembly;
   assembly.Source = pobjNet.Source.get();
   ImportedNet result = WorkflowBuilder(pobjNet, assembly).Build();

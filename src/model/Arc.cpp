@@ -66,7 +66,7 @@ std::vector<Elbow*> Arc::BendPoints() const {
 std::shared_ptr<Collection<Vector>> Arc::Vectors() const {
   if (!Workflow) return nullptr;
   auto vectors = std::make_shared<Collection<Vector>>();
-  for (Vector* segment : Segments()) vectors->Add(segment->shared_from_this(), segment->Key);
+  for (Vector* segment : Segments()) vectors->Add(ShareOf(*segment), segment->Key);
   return vectors;
 }
 
@@ -75,7 +75,7 @@ std::shared_ptr<Collection<Elbow>> Arc::Elbows() const {
   const auto* workflow = Workflow ? Workflow.get() : gobjWorkflow.get();
   if (!workflow) return elbows;
   for (Elbow* elbow : InOrderOf(workflow->Elbows, ElbowsOf(mcolSegments))) {
-    elbows->Add(elbow->shared_from_this(), elbow->Key);
+    elbows->Add(ShareOf(*elbow), elbow->Key);
   }
   return elbows;
 }

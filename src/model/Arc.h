@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "chart/Label.h"
+#include "model/ChartObject.h"
 #include "model/Enumerations.h"
 #include "model/Forward.h"
-#include "model/ModelObject.h"
 #include "util/Collection.h"
 #include "util/Ref.h"
 
@@ -20,13 +20,12 @@ class Recordset;
 /// Joins one place and one transition; carries a weight (shown, not used by the game) and a guard (the label that users
 /// choose among when a vntSelect transition fires). Drawn as a chain of segments (Vector) joined at bend points (Elbow),
 /// which the workflow owns; the arc finds its own without looking through the workflow. Twips throughout.
-class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
+class Arc final : public ChartObject {
  public:
   Arc() = default;
   /// Takes its labels off the chart.
   ~Arc() override;
 
-  std::string Key;  ///< in the workflow's Arcs
   Ref<vantrel::Workflow> Workflow;
   std::string Description;
   std::string Tag, HiddenTag;  ///< free for the host
@@ -40,6 +39,7 @@ class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
   bool Dirty = false;
 
   std::string Class() const override { return "VNTR.Arc.1"; }
+  ChartKind Kind() const override { return ChartKind::Arc; }
   std::string NameText() const override { return Name(); }
   /// "source->target" by the names of its ends; the key while an end is missing.
   std::string Name() const;
@@ -47,9 +47,9 @@ class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
   bool Visible() const { return mblnVisible; }
   /// Shows or hides segments and labels; bend points stay as they are.
   void Visible(bool pblnOn);
-  bool Selected() const { return mblnSelected; }
+  bool Selected() const override { return mblnSelected; }
   /// Thick segments with their bend points, or thin ones without.
-  void Selected(bool pblnOn);
+  void Selected(bool pblnOn) override;
   /// The look of a selected arc without being selected, and back.
   void Setfocus() { ShowFocus(true); }
   void RemoveFocus() { ShowFocus(false); }
@@ -57,6 +57,8 @@ class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
   const std::string& Weight() const { return mstrWeight; }
   /// Stores and shows it; the control then has no current element.
   void Weight(const std::string& pstrWeight);
+  /// Stores it alone, for an arc that is on no chart yet.
+  void AssignWeight(const std::string& pstrWeight) { mstrWeight = pstrWeight; }
   const std::string& Guard() const { return mstrGuard; }
   void Guard(const std::string& pstrGuard);
 
@@ -88,6 +90,20 @@ class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
   std::vector<Vector*> Segments() const;
   std::vector<Elbow*> BendPoints() const;
 
+  /// The path as points from source to target: of an arc that left its workflow, or whose workflow is gone, the last one if it was
+  /// bent. Where stored segments do not meet, the end of the first one counts.
+  std::vector<Point> Path() const;
+  /// Replaces the path: makes and removes segments and bend points as needed, links them, marks the arc dirty and draws it. An
+  /// arc on a chart keeps its look. Error 5 for fewer than two points, Error 91 without a workflow.
+  void Path(const std::vector<Point>& pcolPoints);
+  /// Remembers a bent path for Path: before the arc leaves its workflow or the workflow goes.
+  void KeepPath();
+  /// Adds a segment without links to the workflow's Vectors: for readers of stored segments. Error 91 without a workflow.
+  std::shared_ptr<Vector> AddSegment();
+  /// Links the segments into one chain and gives each joint that has none a bend point without a handle. Returns the chain, from
+  /// source to target; good until an object is removed from the workflow.
+  std::vector<Vector*> LinkSegments();
+
   /// Brings path, bend points and labels to where ends and offsets say; nothing while invisible. Skips what is missing.
   void Draw();
 
@@ -118,11 +134,14 @@ class Arc final : public ModelObject, public std::enable_shared_from_this<Arc> {
   friend class Vector;
 
   void ShowFocus(bool pblnOn);
+  void RemoveSegment(Vector& pobjVector);
+  void GiveElements(const std::vector<Vector*>& pcolChain) const;
   void CopySettings(const Arc& pobjFrom);
   void Store(const std::string& pstrPropName, const Variant& pvarValue);
   void MarkWorkflowDirty() const;
 
   std::vector<Vector*> mcolSegments;  // every living segment whose Arc is this one, in no order
+  std::vector<Point> mcolLastPath;
   std::string mstrWeight = "1";
   std::string mstrGuard;
   float msngCaptionOffsetX = 0, msngCaptionOffsetY = -200;

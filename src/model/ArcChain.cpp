@@ -13,10 +13,10 @@ namespace vantrel {
 namespace {
 
 using Chain = std::vector<Vector*>;
-using Point = std::pair<float, float>;
+using Spot = std::pair<float, float>;
 
-Point StartOf(const Vector& pobjSegment) { return {pobjSegment.X1(), pobjSegment.Y1()}; }
-Point EndOf(const Vector& pobjSegment) { return {pobjSegment.X2(), pobjSegment.Y2()}; }
+Spot StartOf(const Vector& pobjSegment) { return {pobjSegment.X1(), pobjSegment.Y1()}; }
+Spot EndOf(const Vector& pobjSegment) { return {pobjSegment.X2(), pobjSegment.Y2()}; }
 
 Chain ByLinks(const Chain& pcolSegments) {
   const auto first = std::find_if(pcolSegments.begin(), pcolSegments.end(), [](const Vector* segment) { return !segment->InVector; });
@@ -31,7 +31,7 @@ Chain ByLinks(const Chain& pcolSegments) {
 
 // The first one of the workflow when the path is closed.
 Vector* AtSource(const Chain& pcolSegments) {
-  std::map<Point, int> ends;
+  std::map<Spot, int> ends;
   for (const Vector* segment : pcolSegments) {
     if (StartOf(*segment) != EndOf(*segment)) ++ends[EndOf(*segment)];
   }
@@ -41,7 +41,7 @@ Vector* AtSource(const Chain& pcolSegments) {
 }
 
 Chain ByEnds(const Chain& pcolSegments) {
-  std::multimap<Point, Vector*> waiting;  // equal points stay in the workflow's order
+  std::multimap<Spot, Vector*> waiting;  // equal points stay in the workflow's order
   Vector* const first = AtSource(pcolSegments);
   for (Vector* segment : pcolSegments) {
     if (segment != first) waiting.emplace(StartOf(*segment), segment);

@@ -1,9 +1,9 @@
-// How an arc's chain of segments changes: splitting, joining, copying.
+// How an arc's chain of segments changes: splitting, joining, replacing, copying.
 #include <cmath>
 #include <unordered_map>
 
 #include "model/Arc.h"
-#include "model/DesignerState.h"
+#include "model/ArcChain.h"
 #include "model/Workflow.h"
 #include "util/Lookup.h"
 
@@ -27,14 +27,114 @@ void HalveGeometry(Vector& pobjOld, Vector& pobjNew) {
   pobjNew.LineWidth(pobjOld.LineWidth());
 }
 
+// The bend point at which one segment ends and the other starts, or null.
+Elbow* Joint(const Workflow& pobjWorkflow, const Vector& pobjBefore, const Vector& pobjBehind) {
+  for (Elbow* elbow : pobjBefore.Elbows()) {
+    if (elbow->OutVector() == &pobjBehind && pobjWorkflow.Has(*elbow)) return elbow;
+  }
+  return nullptr;
+}
+
+void Join(Workflow& pobjWorkflow, Vector& pobjBefore, Vector& pobjBehind) {
+  pobjBefore.OutVector = &pobjBehind;
+  pobjBehind.InVector = &pobjBefore;
+  if (Joint(pobjWorkflow, pobjBefore, pobjBehind)) return;
+  const auto elbow = std::make_shared<Elbow>(&pobjWorkflow);
+  elbow->InVector(&pobjBefore);
+  elbow->OutVector(&pobjBehind);
+  elbow->CentreHandle(pobjBefore.X2(), pobjBefore.Y2());
+  pobjWorkflow.Elbows.Add(elbow, elbow->Key);
+}
+
 }  // namespace
+
+std::shared_ptr<Vector> Arc::AddSegment() {
+  vantrel::Workflow& workflow = *Workflow;
+  auto vector = std::make_shared<Vector>();
+  vector->Key = NextKey(workflow.Vectors, "Vector");
+  vector->Arc(this);
+  workflow.Vectors.Add(vector, vector->Key);
+  return vector;
+}
+
+std::vector<Vector*> Arc::LinkSegments() {
+  auto chain = ChainOf(*this);
+  for (std::size_t i = 1; i < chain.size(); ++i) Join(*Workflow, *chain[i - 1], *chain[i]);
+  if (!chain.empty()) chain.front()->InVector = chain.back()->OutVector = nullptr;
+  return chain;
+}
+
+std::vector<Point> Arc::Path() const {
+  const auto chain = ChainOf(*this);
+  if (chain.empty()) return mcolLastPath;
+  std::vector<Point> points;
+  for (const Vector* segment : chain) {
+    if (points.empty()) points.push_back({segment->X1(), segment->Y1()});
+    points.push_back({segment->X2(), segment->Y2()});
+  }
+  return points;
+}
+
+// A straight run says nothing that the arc's ends do not.
+void Arc::KeepPath() {
+  if (mcolSegments.size() > 1) mcolLastPath = Path();
+}
+
+void Arc::Path(const std::vector<Point>& pcolPoints) {
+  if (pcolPoints.size() < 2) throw Error(vntErrInvalidCall);
+  auto chain = LinkSegments();
+  for (; chain.size() >= pcolPoints.size(); chain.pop_back()) RemoveSegment(*chain.back());
+  while (chain.size() + 1 < pcolPoints.size()) {
+    Vector* const segment = AddSegment().get();
+    if (!chain.empty()) Join(*Workflow, *chain.back(), *segment);
+    chain.push_back(segment);
+  }
+  for (std::size_t i = 0; i < chain.size(); ++i) {
+    chain[i]->Start(pcolPoints[i].X, pcolPoints[i].Y);
+    chain[i]->End(pcolPoints[i + 1].X, pcolPoints[i + 1].Y);
+    if (i > 0) Joint(*Workflow, *chain[i - 1], *chain[i])->CentreHandle(pcolPoints[i].X, pcolPoints[i].Y);
+  }
+  GiveElements(chain);
+  Dirty = true;
+  Draw();
+}
+
+// Lines for the segments that were added to an arc on a chart, and the look of the others for their bend points.
+void Arc::GiveElements(const std::vector<Vector*>& pcolChain) const {
+  if (!pcolChain.front()->LineControl) return;
+  for (Vector* segment : pcolChain) {
+    for (Elbow* elbow : segment->Elbows()) elbow->Visible(mblnSelected);
+    if (segment->LineControl) continue;
+    segment->LineControl = Workflow->Chart().NewLine();
+    if (segment->LineControl) segment->LineControl->Tag(segment->Key);
+    segment->LineWidth(pcolChain.front()->LineWidth());
+    segment->Visible(mblnVisible);
+    segment->Draw();
+  }
+}
+
+// The last one of the chain, with the bend point before it.
+void Arc::RemoveSegment(Vector& pobjVector) {
+  vantrel::Workflow& workflow = *Workflow;
+  if (pobjVector.InVector) pobjVector.InVector->OutVector = nullptr;
+  while (!pobjVector.Elbows().empty()) {
+    const auto elbow = ShareOf(*pobjVector.Elbows().front());
+    workflow.Elbows.RemoveIfThere(elbow->Key);
+    elbow->InVector(nullptr);
+    elbow->OutVector(nullptr);
+    if (elbow->Handle) elbow->Handle->Unload();
+  }
+  const auto vector = workflow.Vectors.Take(pobjVector.Key);
+  vector->Arc(nullptr);
+  if (vector->LineControl) vector->LineControl->Unload();
+}
 
 std::shared_ptr<Vector> Arc::InsertVector(const std::shared_ptr<Vector>& pobjVector) {
   vantrel::Workflow& workflow = *Workflow;
-  auto vector = std::make_shared<Vector>();
-  vector->LineControl = workflow.Chart().NewLine();
   const auto bendPoints = BendPoints();
-  vector->Arc(shared_from_this());
+  const auto vector = AddSegment();
+  vector->LineControl = workflow.Chart().NewLine();
+  if (auto* line = vector->LineControl.get()) line->Tag(vector->Key);
   LinkBehind(*pobjVector, *vector);
   for (Elbow* bendPoint : bendPoints) {
     if (bendPoint->InVector() == pobjVector) bendPoint->InVector(vector);
@@ -43,14 +143,9 @@ std::shared_ptr<Vector> Arc::InsertVector(const std::shared_ptr<Vector>& pobjVec
   elbow->InVector(pobjVector);
   elbow->OutVector(vector);
   HalveGeometry(*pobjVector, *vector);
-
-  vector->Key = NextKey(workflow.Vectors, "Vector");
-  if (auto* line = vector->LineControl.get()) line->Tag(vector->Key);
   if (auto* handle = elbow->Handle.get()) handle->BringToFront();
   elbow->CentreHandle(vector->X1(), vector->Y1());
-  workflow.Vectors.Add(vector, vector->Key);
   workflow.Elbows.Add(elbow, elbow->Key);
-
   Dirty = true;
   vector->Visible(true);
   Draw();
@@ -110,32 +205,20 @@ std::shared_ptr<Arc> Arc::Clone(const std::shared_ptr<vantrel::Workflow>& pobjWo
   pobjWorkflow->Arcs.Add(arc, arc->Key);
   arc->CopySettings(*this);
 
-  std::unordered_map<const Vector*, std::shared_ptr<Vector>> copies;
-  const auto segments = Segments();
-  for (const Vector* segment : segments) {
-    auto vector = std::make_shared<Vector>();
-    vector->Key = NextKey(pobjWorkflow->Vectors, "Vector");
-    vector->Arc(arc);
-    vector->Start(segment->X1() + dx, segment->Y1() + dy);
-    vector->End(segment->X2() + dx, segment->Y2() + dy);
-    pobjWorkflow->Vectors.Add(vector, vector->Key);
-    copies.emplace(segment, vector);
+  if (Segments().empty()) {
+    auto points = mcolLastPath;
+    for (Point& point : points) point = {point.X + dx, point.Y + dy};
+    if (!points.empty()) arc->Path(points);
   }
-  for (const Vector* segment : segments) {
-    const auto behind = copies.find(segment->OutVector.get());
-    if (behind == copies.end()) continue;
-    copies[segment]->OutVector = behind->second;
-    behind->second->InVector = copies[segment];
+  std::unordered_map<const Vector*, Vector*> copies;
+  for (const Vector* segment : Segments()) {
+    Vector* const copy = arc->AddSegment().get();
+    copy->Start(segment->X1() + dx, segment->Y1() + dy);
+    copy->End(segment->X2() + dx, segment->Y2() + dy);
+    copies.emplace(segment, copy);
   }
-  for (const Elbow* bendPoint : BendPoints()) {
-    const auto in = copies.find(bendPoint->InVector().get()), out = copies.find(bendPoint->OutVector().get());
-    if (in == copies.end() || out == copies.end()) continue;
-    const auto elbow = std::make_shared<Elbow>(pobjWorkflow);
-    elbow->InVector(in->second);
-    elbow->OutVector(out->second);
-    elbow->CentreHandle(in->second->X2(), in->second->Y2());
-    pobjWorkflow->Elbows.Add(elbow, elbow->Key);
-  }
+  const auto chain = ChainOf(*this);
+  for (std::size_t i = 1; i < chain.size(); ++i) Join(*pobjWorkflow, *copies[chain[i - 1]], *copies[chain[i]]);
   arc->Dirty = true;
   return arc;
 }

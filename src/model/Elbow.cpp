@@ -16,9 +16,8 @@ constexpr float kHandleSize = 6 * kTwipsPerPixel;  // of a handle that no chart 
 
 Elbow::Elbow() : Elbow(gobjVantrel->Workflow()) {}
 
-Elbow::Elbow(const Ref<Workflow>& pobjWorkflow)
-    : Key(pobjWorkflow ? NextKey(pobjWorkflow->Elbows, "Elbow") : "Elbow1"),
-      Handle((pobjWorkflow ? pobjWorkflow->Chart() : *gobjVantrel).NewHandle()) {
+Elbow::Elbow(const Ref<Workflow>& pobjWorkflow) : Handle((pobjWorkflow ? pobjWorkflow->Chart() : *gobjVantrel).NewHandle()) {
+  Key = pobjWorkflow ? NextKey(pobjWorkflow->Elbows, "Elbow") : "Elbow1";
   if (Image* handle = Handle.get()) {
     handle->Tag(Key);
     handle->Visible(false);
@@ -69,6 +68,16 @@ void Elbow::Left(float psngLeft) {
   if (mobjInVector) mobjInVector->X2(x);
   if (mobjOutVector) mobjOutVector->X1(x);
   Dirty(true);
+}
+
+std::optional<Rect> Elbow::Bounds() const {
+  const Image* handle = Handle.get();
+  return Rect{msngLeft, msngTop, msngLeft + (handle ? handle->Width() : 0), msngTop + (handle ? handle->Height() : 0)};
+}
+
+void Elbow::MoveTo(float psngLeft, float psngTop) {
+  if (psngLeft != msngLeft) Left(psngLeft);
+  if (psngTop != msngTop) Top(psngTop);
 }
 
 void Elbow::CentreHandle(float psngX, float psngY) {

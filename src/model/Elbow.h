@@ -5,15 +5,15 @@
 #include <string>
 
 #include "chart/Image.h"
+#include "model/ChartObject.h"
 #include "model/Forward.h"
-#include "model/ModelObject.h"
 #include "util/Ref.h"
 
 namespace vantrel {
 
 /// Joins two consecutive segments of one arc and shows a small square handle at the joint, hidden at first. Owned by the
 /// workflow's Elbows. Answers the property protocol with its arc's. Twips.
-class Elbow final : public ModelObject, public std::enable_shared_from_this<Elbow> {
+class Elbow final : public ChartObject {
  public:
   /// Belongs to the workflow that the current control shows.
   Elbow();
@@ -22,10 +22,10 @@ class Elbow final : public ModelObject, public std::enable_shared_from_this<Elbo
   /// Takes the handle off the chart.
   ~Elbow() override;
 
-  std::string Key;
   Ref<Image> Handle;
 
   std::string Class() const override { return "VNTR.Elbow.1"; }
+  ChartKind Kind() const override { return ChartKind::Elbow; }
 
   const Ref<Vector>& InVector() const { return mobjInVector; }  ///< ends at the joint
   void InVector(const Ref<Vector>& pobjVector) { Attach(mobjInVector, pobjVector); }
@@ -37,13 +37,15 @@ class Elbow final : public ModelObject, public std::enable_shared_from_this<Elbo
   void Top(float psngTop);
   float Left() const { return msngLeft; }
   void Left(float psngLeft);
+  std::optional<Rect> Bounds() const override;
+  void MoveTo(float psngLeft, float psngTop) override;
   /// Puts the handle round a point without moving the joint and without a mark.
   void CentreHandle(float psngX, float psngY);
 
   bool Visible() const { return mblnVisible; }
   void Visible(bool pblnOn);
-  bool Selected() const { return mblnSelected; }
-  void Selected(bool pblnOn) { mblnSelected = pblnOn; }
+  bool Selected() const override { return mblnSelected; }
+  void Selected(bool pblnOn) override { mblnSelected = pblnOn; }
   bool Dirty() const { return mblnDirty; }
   /// True also marks the arc and the segment behind.
   void Dirty(bool pblnDirty);

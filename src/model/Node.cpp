@@ -72,6 +72,18 @@ Node::Node(const char* pstrEnabledImageKey, const char* pstrDisabledImageKey)
       mTop(gobjVantrel->CurrentY()),
       mLeft(gobjVantrel->CurrentX()) {}
 
+Node::Node(const char* pstrEnabledImageKey, const char* pstrDisabledImageKey, vantrel::Workflow& pobjWorkflow)
+    : Workflow(&pobjWorkflow),
+      EnabledImageKey(pstrEnabledImageKey),
+      DisabledImageKey(pstrDisabledImageKey),
+      mInputPosition(vntLeft),
+      mOutputPosition(vntRight),
+      mTop(pobjWorkflow.Chart().CurrentY()),
+      mLeft(pobjWorkflow.Chart().CurrentX()) {
+  const DesignerState& state = pobjWorkflow.Designer();
+  if (state.Host->Workflow() == &pobjWorkflow) AssignSides(state.InputPosition, state.OutputPosition);
+}
+
 void Node::MarkWorkflowDirty() const {
   if (auto* workflow = Workflow.get()) workflow->Dirty(true);
 }
@@ -93,6 +105,16 @@ void Node::MoveTo(float psngLeft, float psngTop) {
   mTop = psngTop;
   MarkDirty();
   Draw();
+}
+
+std::optional<Rect> Node::Bounds() const {
+  const auto* image = Image.get();
+  return Rect{mLeft, mTop, mLeft + (image ? image->Width() : 0), mTop + (image ? image->Height() : 0)};
+}
+
+void Node::AssignSides(std::int16_t pintInput, std::int16_t pintOutput) {
+  mInputPosition = pintInput;
+  mOutputPosition = pintOutput;
 }
 
 void Node::InputPosition(std::int16_t pintPosition) {

@@ -7,9 +7,9 @@
 
 #include "chart/Image.h"
 #include "chart/Label.h"
+#include "model/ChartObject.h"
 #include "model/Enumerations.h"
 #include "model/Forward.h"
-#include "model/ModelObject.h"
 #include "util/Collection.h"
 #include "util/Ref.h"
 
@@ -19,9 +19,8 @@ class Recordset;
 
 /// An object of the net with a picture, a caption and two connectors. Owned by its workflow's collection; its chart
 /// elements belong to the chart. Positions and sizes are twips.
-class Node : public ModelObject, public std::enable_shared_from_this<Node> {
+class Node : public ChartObject {
  public:
-  std::string Key;                                ///< key in the workflow's collection
   Ref<vantrel::Workflow> Workflow;                ///< owning workflow, nothing once it is gone
   Collection<Arc> InArcs, OutArcs;                ///< arcs into and out of this object, keyed by Arc::Key
   Ref<vantrel::Image> Image;                      ///< the object's picture on the chart
@@ -43,13 +42,16 @@ class Node : public ModelObject, public std::enable_shared_from_this<Node> {
   float Left() const { return mLeft; }
   void Left(float psngLeft);
   /// Both at once, redrawn once.
-  void MoveTo(float psngLeft, float psngTop);
+  void MoveTo(float psngLeft, float psngTop) override;
+  std::optional<Rect> Bounds() const override;
 
   /// Sides of the connectors (ConnectorPosition). Setting one makes it the side of new objects, too, and redraws.
   std::int16_t InputPosition() const { return mInputPosition; }
   virtual void InputPosition(std::int16_t pintPosition);
   std::int16_t OutputPosition() const { return mOutputPosition; }
   void OutputPosition(std::int16_t pintPosition);
+  /// Stores both without making them the sides of new objects and without redrawing.
+  void AssignSides(std::int16_t pintInput, std::int16_t pintOutput);
 
   /// Setting it fits the label to the text, records its size and marks dirty.
   const std::string& Caption() const { return mCaption; }
@@ -64,8 +66,8 @@ class Node : public ModelObject, public std::enable_shared_from_this<Node> {
   virtual void Visible(bool pblnOn) = 0;
 
   /// Shows a border round the image.
-  bool Selected() const { return mSelected; }
-  void Selected(bool pblnOn);
+  bool Selected() const override { return mSelected; }
+  void Selected(bool pblnOn) override;
 
   /// Brings the chart elements and the arcs to where the object's fields say.
   virtual void Draw() = 0;
@@ -73,6 +75,8 @@ class Node : public ModelObject, public std::enable_shared_from_this<Node> {
  protected:
   /// Takes workflow, position and connector sides from the designer state.
   Node(const char* pstrEnabledImageKey, const char* pstrDisabledImageKey);
+  /// An object of that workflow: position and sides are those of the control that shows it, the usual ones when none does.
+  Node(const char* pstrEnabledImageKey, const char* pstrDisabledImageKey, vantrel::Workflow& pobjWorkflow);
 
   virtual void MarkDirty() = 0;
   /// Marks the owning workflow dirty, if there is one.

@@ -1,5 +1,8 @@
 #include "model/Notation.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "model/DesignerState.h"
 #include "model/PropertyBuilder.h"
 #include "model/Workflow.h"
@@ -9,6 +12,8 @@ namespace vantrel {
 namespace {
 
 constexpr std::size_t kKeyWordLength = 8;  // of "Notation"
+
+std::int32_t WholeTwips(float psngValue) { return static_cast<std::int32_t>(std::nearbyint(std::clamp(psngValue, -1e9F, 1e9F))); }
 
 }  // namespace
 
@@ -41,6 +46,17 @@ void Notation::Width(std::int32_t plngWidth) {
   if (TextControl) TextControl->Width(static_cast<float>(plngWidth));
 }
 
+std::optional<Rect> Notation::Bounds() const {
+  const auto left = static_cast<float>(mlngLeft), top = static_cast<float>(mlngTop);
+  return Rect{left, top, left + static_cast<float>(mlngWidth), top + static_cast<float>(mlngHeight)};
+}
+
+void Notation::MoveTo(float psngLeft, float psngTop) {
+  Left(WholeTwips(psngLeft));
+  Top(WholeTwips(psngTop));
+  Dirty = true;
+}
+
 bool Notation::Visible() const { return TextControl && TextControl->Visible(); }
 
 void Notation::Visible(bool pblnOn) {
@@ -48,7 +64,10 @@ void Notation::Visible(bool pblnOn) {
 }
 
 void Notation::Selected(bool pblnOn) {
-  if (TextControl) TextControl->BorderStyle(pblnOn ? std::int16_t{1} : BorderStyle);
+  if (TextControl) {
+    TextControl->BorderStyle(pblnOn ? std::int16_t{1} : BorderStyle);
+    TextControl->Marked(pblnOn);  // a note may have a border anyway
+  }
   mblnSelected = pblnOn;
 }
 

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "chart/Label.h"
+#include "model/ChartObject.h"
 #include "model/Forward.h"
-#include "model/ModelObject.h"
 #include "util/Color.h"
 #include "util/Ref.h"
 
@@ -17,13 +17,12 @@ class Recordset;
 
 /// A box of text with its own font, colours, alignment and border. Takes no part in the token game. Shown by one label of
 /// the chart; owned by the workflow's Notations.
-class Notation final : public ModelObject, public std::enable_shared_from_this<Notation> {
+class Notation final : public ChartObject {
  public:
   Notation() = default;
   /// Takes its label off the chart.
   ~Notation() override;
 
-  std::string Key;  ///< "Notation" and a number
   std::int32_t RecId = 0;
   Ref<vantrel::Workflow> Workflow;
   Ref<Label> TextControl;
@@ -42,6 +41,7 @@ class Notation final : public ModelObject, public std::enable_shared_from_this<N
   bool Dirty = false;
 
   std::string Class() const override { return "VNTR.Notation.1"; }
+  ChartKind Kind() const override { return ChartKind::Notation; }
   std::string NameText() const override { return Name(); }
   /// The key without its first eight characters; Error 5 for a shorter key.
   std::string Name() const;
@@ -55,12 +55,15 @@ class Notation final : public ModelObject, public std::enable_shared_from_this<N
   void Height(std::int32_t plngHeight);
   std::int32_t Width() const { return mlngWidth; }
   void Width(std::int32_t plngWidth);
+  std::optional<Rect> Bounds() const override;
+  /// To the nearest whole twips.
+  void MoveTo(float psngLeft, float psngTop) override;
   /// The label's; false without a label.
   bool Visible() const;
   void Visible(bool pblnOn);
-  bool Selected() const { return mblnSelected; }
+  bool Selected() const override { return mblnSelected; }
   /// A border while selected, the note's own border style otherwise.
-  void Selected(bool pblnOn);
+  void Selected(bool pblnOn) override;
 
   /// Copies all settings to the label; nothing without one.
   void Draw();

@@ -15,11 +15,16 @@ namespace vantrel {
 
 namespace {
 
+constexpr const char* kEnabledImage = "PlaceGreen";
+constexpr const char* kDisabledImage = "Place";
 constexpr float kCountGap = 75;  // twips between the image and the token count under it
 
 }  // namespace
 
-Place::Place() : Node("PlaceGreen", "Place"), TokenProperties(std::make_shared<PropertyCollection>()) {}
+Place::Place() : Node(kEnabledImage, kDisabledImage), TokenProperties(std::make_shared<PropertyCollection>()) {}
+
+Place::Place(vantrel::Workflow& pobjWorkflow)
+    : Node(kEnabledImage, kDisabledImage, pobjWorkflow), TokenProperties(std::make_shared<PropertyCollection>()) {}
 
 Place::~Place() = default;
 

@@ -13,7 +13,10 @@ class TokenIndex;
 /// the properties that tokens lying in it receive.
 class Place final : public Node {
  public:
+  /// A place as a control makes it: workflow, position and connector sides come from the designer state.
   Place();
+  /// What Workflow::NewPlace makes.
+  explicit Place(vantrel::Workflow& pobjWorkflow);
   ~Place() override;
 
   /// Definitions of the tokens' own properties; the place's own collection, never null unless a host makes it so.
@@ -26,6 +29,7 @@ class Place final : public Node {
   Event<const std::shared_ptr<Token>&> OnCaseFinished;
 
   std::string Class() const override { return "VNTR.Place.1"; }
+  ChartKind Kind() const override { return ChartKind::Place; }
 
   const std::shared_ptr<vantrel::Object>& Object() const { return mobjObject; }
   void Object(const std::shared_ptr<vantrel::Object>& pobjObject) { mobjObject = pobjObject; }
@@ -73,7 +77,7 @@ class Place final : public Node {
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
   /// A share in this place.
-  std::shared_ptr<Place> Share() { return std::static_pointer_cast<Place>(shared_from_this()); }
+  std::shared_ptr<Place> Share() { return ShareOf(*this); }
   /// A place of the same look and with copies of the token property definitions; the caller names and places it.
   std::shared_ptr<Place> Clone() const;
 

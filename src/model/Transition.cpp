@@ -11,7 +11,16 @@
 
 namespace vantrel {
 
-Transition::Transition() : Node("TransitionEnabled", "Transition") {}
+namespace {
+
+constexpr const char* kEnabledPicture = "TransitionEnabled";
+constexpr const char* kDisabledPicture = "Transition";
+
+}  // namespace
+
+Transition::Transition() : Node(kEnabledPicture, kDisabledPicture) {}
+
+Transition::Transition(vantrel::Workflow& pobjWorkflow) : Node(kEnabledPicture, kDisabledPicture, pobjWorkflow) {}
 
 Transition::~Transition() {
   Subflow(nullptr);

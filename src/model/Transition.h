@@ -21,7 +21,10 @@ class SubflowRun;
 /// then runs as a subflow.
 class Transition final : public Node {
  public:
+  /// A transition as a control makes it: workflow, position and connector sides come from the designer state.
   Transition();
+  /// What Workflow::NewTransition makes.
+  explicit Transition(vantrel::Workflow& pobjWorkflow);
   /// Takes its elements off the chart.
   ~Transition() override;
 
@@ -40,6 +43,7 @@ class Transition final : public Node {
   Event<const std::string&, const std::shared_ptr<Transition>&> OnRunCommand;
 
   std::string Class() const override { return "VNTR.Transition.1"; }
+  ChartKind Kind() const override { return ChartKind::Transition; }
 
   using Node::Name;
   /// Without a workflow stores any name. In one, an empty name becomes the next free one, and a name that a transition
@@ -91,7 +95,7 @@ class Transition final : public Node {
   void AssignValues(const Recordset& pobjRow);
 
   /// A share in this transition.
-  std::shared_ptr<Transition> Share() { return std::static_pointer_cast<Transition>(shared_from_this()); }
+  std::shared_ptr<Transition> Share() { return ShareOf(*this); }
   /// A transition of the same look, types, action and embedded object, marked dirty; the caller names and places it.
   /// Throws Error 5 when that would put a workflow into itself.
   std::shared_ptr<Transition> Clone() const;

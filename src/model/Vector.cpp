@@ -13,9 +13,17 @@ Vector::~Vector() {
 std::string Vector::Name() const { return mobjArc->Name(); }
 
 void Vector::Arc(const Ref<vantrel::Arc>& pobjArc) {
-  if (auto* arc = mobjArc.get()) std::erase(arc->mcolSegments, this);
+  if (auto* arc = mobjArc.get()) {
+    Vector* const last = arc->mcolSegments.back();
+    arc->mcolSegments[mlngPosition] = last;
+    last->mlngPosition = mlngPosition;
+    arc->mcolSegments.pop_back();
+  }
   mobjArc = pobjArc;
-  if (auto* arc = mobjArc.get()) arc->mcolSegments.push_back(this);
+  if (auto* arc = mobjArc.get()) {
+    mlngPosition = static_cast<std::uint32_t>(arc->mcolSegments.size());
+    arc->mcolSegments.push_back(this);
+  }
 }
 
 void Vector::Start(float psngX1, float psngY1) {
@@ -54,9 +62,11 @@ void Vector::Dirty(bool pblnDirty) {
   if (pblnDirty && mobjArc) mobjArc->Dirty = true;
 }
 
-bool Vector::Selected() const { return mobjArc->Selected(); }
+bool Vector::Selected() const { return mobjArc && mobjArc->Selected(); }
 
-void Vector::Selected(bool pblnOn) { mobjArc->Selected(pblnOn); }
+void Vector::Selected(bool pblnOn) {
+  if (mobjArc) mobjArc->Selected(pblnOn);
+}
 
 void Vector::Draw() {
   Line* line = LineControl.get();

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "chart/Line.h"
+#include "model/ChartObject.h"
 #include "model/Forward.h"
-#include "model/ModelObject.h"
 #include "util/Color.h"
 #include "util/Ref.h"
 
@@ -17,13 +17,12 @@ namespace vantrel {
 
 /// Runs from (X1, Y1) to (X2, Y2), twips, and draws itself on one line of the chart. Owned by the workflow's Vectors; the
 /// segments of an arc form a chain through InVector and OutVector. Answers the property protocol with its arc's.
-class Vector final : public ModelObject, public std::enable_shared_from_this<Vector> {
+class Vector final : public ChartObject {
  public:
   Vector() = default;
   /// Takes its line off the chart.
   ~Vector() override;
 
-  std::string Key;
   std::string Tag;
   Ref<Line> LineControl;
   Ref<Vector> InVector;   ///< the segment before, nothing for the first
@@ -32,6 +31,7 @@ class Vector final : public ModelObject, public std::enable_shared_from_this<Vec
   std::int32_t RecId = 0;
 
   std::string Class() const override { return "VNTR.Vector.1"; }
+  ChartKind Kind() const override { return ChartKind::Vector; }
   std::string NameText() const override { return Name(); }
   std::string Name() const;
 
@@ -61,8 +61,9 @@ class Vector final : public ModelObject, public std::enable_shared_from_this<Vec
   bool Dirty() const { return mblnDirty; }
   /// True also marks the arc.
   void Dirty(bool pblnDirty);
-  bool Selected() const;
-  void Selected(bool pblnOn);
+  /// The arc's; false and nothing without an arc.
+  bool Selected() const override;
+  void Selected(bool pblnOn) override;
 
   void Setfocus() { LineWidth(3); }
   /// Brings the line to where the segment is, in its colour.
@@ -85,6 +86,7 @@ class Vector final : public ModelObject, public std::enable_shared_from_this<Vec
   std::int16_t mintLineWidth = 1;
   bool mblnVisible = true;
   bool mblnDirty = false;
+  std::uint32_t mlngPosition = 0;  // among the segments that the arc lists
 };
 
 }  // namespace vantrel

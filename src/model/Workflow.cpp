@@ -22,9 +22,20 @@ std::shared_ptr<PropertyCollection> CopyByName(const PropertyCollection& pcolDef
   return properties;
 }
 
+template <class N>
+std::shared_ptr<N> AddNode(Workflow& pobjWorkflow, Collection<N>& pcolNodes, const std::string& pstrName) {
+  auto node = std::make_shared<N>(pobjWorkflow);
+  node->Key = NextKey(pcolNodes, pcolNodes.KeyWord());
+  node->AssignName(pstrName.empty() ? NextName(pcolNodes, pcolNodes.KeyWord()) : pstrName);
+  pcolNodes.Add(node, node->Key);
+  return node;
+}
+
 }  // namespace
 
-Workflow::~Workflow() = default;
+Workflow::~Workflow() {
+  for (Collection<Arc>::Cursor arcs(Arcs); Arc* arc = arcs.Next();) arc->KeepPath();
+}
 
 void Workflow::Dirty(bool pblnDirty) {
   mblnDirty = pblnDirty;
@@ -81,19 +92,28 @@ void Workflow::TokenAdded(const std::shared_ptr<vantrel::Place>& pobjPlace, cons
   OnTokenAdded.Raise(pobjPlace, pobjToken);
 }
 
+std::shared_ptr<vantrel::Place> Workflow::NewPlace(const std::string& pstrName) { return AddNode(*this, Places, pstrName); }
+
+std::shared_ptr<Transition> Workflow::NewTransition(const std::string& pstrName) { return AddNode(*this, Transitions, pstrName); }
+
+std::shared_ptr<Notation> Workflow::NewNotation() {
+  auto note = std::make_shared<Notation>();
+  note->Workflow = this;
+  note->Key = NextKey(Notations, Notations.KeyWord());
+  Notations.Add(note, note->Key);
+  return note;
+}
+
 std::shared_ptr<Arc> Workflow::CreateArc(const std::shared_ptr<vantrel::Place>& pobjPlace,
                                          const std::shared_ptr<Transition>& pobjTransition, ArcDirectionConstant pintDirection) {
   auto arc = std::make_shared<Arc>();
-  auto vector = std::make_shared<Vector>();
   arc->Workflow = this;
   arc->Place = pobjPlace;
   arc->Transition = pobjTransition;
   arc->ArcDirection = pintDirection;
   arc->Key = NextKey(Arcs, "Arc");
-  vector->Key = NextKey(Vectors, "Vector");
-  vector->Arc(arc);
   Arcs.Add(arc, arc->Key);
-  Vectors.Add(vector, vector->Key);
+  arc->AddSegment();
   if (pintDirection == vntInArc) {
     pobjTransition->InArcs.Add(arc, arc->Key);
     pobjPlace->OutArcs.Add(arc, arc->Key);
@@ -106,6 +126,7 @@ std::shared_ptr<Arc> Workflow::CreateArc(const std::shared_ptr<vantrel::Place>& 
 
 void Workflow::z_RemoveArc(const std::shared_ptr<Arc>& pobjArc) {
   if (Arcs.Find(pobjArc->Key) != pobjArc) throw Error(vntErrInvalidCall);
+  pobjArc->KeepPath();
   const auto elbows = pobjArc->BendPoints();
   for (const Elbow* elbow : elbows) Elbows.Remove(elbow->Key);
   const auto segments = pobjArc->Segments();

@@ -87,6 +87,20 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
   /// Raises OnTokenAdded.
   void TokenAdded(const std::shared_ptr<vantrel::Place>& pobjPlace, const std::shared_ptr<Token>& pobjToken);
 
+  /// Make an object of this workflow under the next free key and register it. Without a name, a place or transition takes the next
+  /// free one, which looks through all names; a given name is not compared with the others. Drawing it, binding it to chart
+  /// elements and marking the workflow dirty are the caller's tasks. Throw Error 6 when the keys of the usual form are used up.
+  std::shared_ptr<vantrel::Place> NewPlace(const std::string& pstrName = {});
+  std::shared_ptr<Transition> NewTransition(const std::string& pstrName = {});
+  std::shared_ptr<Notation> NewNotation();
+  /// Removes an object with what cannot stand without it: a place or transition with its arcs, an arc with its segments and bend
+  /// points, a segment with its arc. A bend point leaves a straight run between its neighbours. Chart elements are unloaded. Costs
+  /// in proportion to what goes. Returns all that went; the workflow is not marked dirty. Error 91 for null, Error 5, with nothing
+  /// removed, when the workflow does not have the object.
+  std::vector<std::shared_ptr<ChartObject>> Remove(const std::shared_ptr<ChartObject>& pobjObject);
+  /// True when the workflow's collection of its kind holds this very object.
+  bool Has(const ChartObject& pobjObject) const;
+
   /// Makes an arc with its first segment and links it to both ends; drawing it is the caller's task. Throws Error 457 when
   /// a key set by hand is in the way.
   std::shared_ptr<Arc> CreateArc(const std::shared_ptr<vantrel::Place>& pobjPlace, const std::shared_ptr<Transition>& pobjTransition,

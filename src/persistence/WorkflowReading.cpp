@@ -59,14 +59,10 @@ std::unique_ptr<Recordset> WorkflowReading::RowsOf(const char* pstrFrom) {
 
 void WorkflowReading::ReadNotations() {
   const auto rows = RowsOf("   FROM Notation ");
-  std::int32_t number = 0;
   ForEachRow(*rows, [&](const Recordset& pobjRow) {
-    const auto notation = std::make_shared<Notation>();
-    notation->Workflow = mobjWorkflow;
-    notation->Key = KeyOf<Notation>(++number);
+    const auto notation = mobjWorkflow->NewNotation();
     notation->AssignValues(pobjRow);
     notation->Dirty = false;
-    mobjWorkflow->Notations.Add(notation, notation->Key);
   });
 }
 
@@ -74,8 +70,7 @@ void WorkflowReading::ReadTransitions() {
   const auto rows = RowsOf("   FROM Transition ");
   std::int32_t number = 0;
   ForEachRow(*rows, [&](const Recordset& pobjRow) {
-    const auto transition = std::make_shared<Transition>();
-    transition->Workflow = mobjWorkflow;
+    const auto transition = std::make_shared<Transition>(*mobjWorkflow);
     transition->Key = KeyOf<Transition>(++number);
     transition->AssignValues(pobjRow);
     transition->Dirty = false;
@@ -88,8 +83,7 @@ void WorkflowReading::ReadPlaces() {
   const auto rows = RowsOf("   FROM Place ");
   std::int32_t number = 0;
   ForEachRow(*rows, [&](const Recordset& pobjRow) {
-    const auto place = std::make_shared<Place>();
-    place->Workflow = mobjWorkflow;
+    const auto place = std::make_shared<Place>(*mobjWorkflow);
     place->Key = KeyOf<Place>(++number);
     ReadPlace(*place, pobjRow);
     place->TokenProperties = ReadTokenProperties(mobjAccess, place->RecId());
@@ -166,11 +160,8 @@ void WorkflowReading::ReadPath(Arc& pobjArc) {
   first.Tag = pobjArc.Key;
   rows->MoveNext();
   ForEachRow(*rows, [&](const Recordset& pobjRow) {
-    const auto vector = std::make_shared<Vector>();
-    vector->Key = NextKey(mobjWorkflow->Vectors, "Vector");
-    vector->Arc(&pobjArc);
+    const auto vector = pobjArc.AddSegment();
     vector->Tag = pobjArc.Key;
-    mobjWorkflow->Vectors.Add(vector, vector->Key);
     ReadSegment(*vector, pobjRow);
     vector->Dirty(false);
   });

@@ -1,4 +1,4 @@
-// The failures of the system: a number that callers may react to, and a text that a message box can show as it stands.
+// Failures: a number that callers can act on, and a text that a message box can show.
 #pragma once
 
 #include <cstdint>
@@ -7,14 +7,14 @@
 
 namespace vantrel {
 
-/// Numbers that callers tell failures apart by.
+/// The numbers of failures.
 enum ErrorNumber : std::int32_t {
   vntErrInvalidCall = 5,          ///< "Invalid procedure call or argument": no such key, index or first item
   vntErrOverflow = 6,             ///< "Overflow": a number that its type cannot hold
   vntErrTypeMismatch = 13,        ///< "Type mismatch": a value that cannot become the wanted type
-  vntErrOutOfStack = 28,          ///< a token game that would never end, see TokenGame
+  vntErrOutOfStack = 28,          ///< a token game that would not end; see TokenGame
   vntErrObjectNotSet = 91,        ///< "Object variable not set": a reference to nothing was followed
-  vntErrFileFormat = 321,         ///< "Invalid file format": a file that is not what it should be
+  vntErrFileFormat = 321,         ///< "Invalid file format": a file of another kind, or a damaged one
   vntErrDuplicateKey = 457,       ///< "This key is already associated with an element of this collection"
   vntErrNoCurrentRow = 3021,      ///< a row set that has no current row, or whose row is gone
   vntErrNoSuchColumn = 3265,      ///< a row set without the column that was asked for

@@ -1,4 +1,4 @@
-// Finding objects in collections, and making up new keys and names for them.
+// Finds objects in collections, and makes keys and names for new ones.
 #pragma once
 
 #include <algorithm>
@@ -23,7 +23,7 @@ template <class T>
 requires requires(const T& pobjItem) { pobjItem.Name.str(); }
 std::string NameOf(const T& pobjItem) { return pobjItem.Name.str(); }
 
-/// The number of the next key of the usual form: one more than the largest behind the class word. Throws Error 6 behind the
+/// The number of the next key of the usual form: one more than the largest after the class word. Throws Error 6 when that is the
 /// largest 32-bit integer.
 template <class T>
 std::int32_t NextKeyNumber(const Collection<T>& pcolItems) {
@@ -38,9 +38,9 @@ std::string KeyOf(std::int32_t plngNumber) {
   return std::string(KeyText(KeyWordOf<T>::Value, plngNumber).View());
 }
 
-/// The prefix and one more than the largest number behind it in the collection's keys; keys of another form do not count.
-/// Costs the same whatever the collection's size when the prefix is the word that its keys usually begin with. Throws
-/// Error 6 when the largest number is the largest 32-bit integer.
+/// The prefix and one more than the largest number after it in the collection's keys; keys of another form do not count.
+/// Takes the same time at every size of the collection when the prefix is the class word of its keys. Throws Error 6 when the
+/// largest number is the largest 32-bit integer.
 template <class T>
 std::string NextKey(const Collection<T>& pcolItems, std::string_view pstrPrefix) {
   if (pcolItems.KeyWord() == pstrPrefix) return KeyOf<T>(NextKeyNumber(pcolItems));
@@ -70,8 +70,8 @@ bool IsNameFree(const Collection<T>& pcolItems, std::string_view pstrName) {
 /// number beyond 32 bits.
 std::int32_t NameNumber(std::string_view pstrPrefix, std::string_view pstrName);
 
-/// The prefix alone when no name counts, else the prefix and one more than the largest number behind it (the prefix alone
-/// counts as 0).
+/// The prefix alone when no name counts, else the prefix and one more than the largest number after it. A name that is the prefix
+/// alone counts as 0.
 template <class T>
 std::string NextName(const Collection<T>& pcolItems, std::string_view pstrPrefix) {
   std::int32_t largest = -1;
@@ -104,7 +104,7 @@ bool KeyExists(const Collection<T>& pcolItems, std::string_view pstrKey) {
 bool IsBetween(const Variant& pvarValue, const Variant& pvarA, const Variant& pvarB);
 
 /// The class name of a class identifier: "VNTR.Place.1" gives "Place", "Arc.Guard" gives "Guard". A text without a dot, or
-/// with only a number behind its first dot, comes back unchanged.
+/// with only a number after its first dot, comes back unchanged.
 std::string StripQualifier(std::string_view pstrText);
 
 }  // namespace vantrel

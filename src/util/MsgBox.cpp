@@ -21,7 +21,7 @@ MsgBoxPresenter& Presenter() {
 }  // namespace
 
 MsgBoxAnswer MsgBox(const std::string& pstrText, MsgBoxButtons pintButtons, const std::string& pstrTitle) {
-  const MsgBoxPresenter presenter = Presenter();  // a box may be answered by code that installs another one
+  const MsgBoxPresenter presenter = Presenter();  // the code that answers a box may install another presenter
   return presenter(pstrText, pintButtons, pstrTitle);
 }
 

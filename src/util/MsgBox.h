@@ -1,4 +1,4 @@
-// Message boxes: the one door through which the system tells the user something and waits for an answer.
+// Message boxes: how the system tells the user something and waits for an answer.
 #pragma once
 
 #include <cstdint>
@@ -17,11 +17,11 @@ using MsgBoxPresenter = std::function<MsgBoxAnswer(const std::string& pstrText, 
 /// Shows the text and returns the button that the user chose.
 MsgBoxAnswer MsgBox(const std::string& pstrText, MsgBoxButtons pintButtons = vntOKOnly, const std::string& pstrTitle = {});
 
-/// Replaces who shows message boxes and returns who did so before. The first presenter writes to standard error and
-/// answers OK (Yes where there is no OK); an empty one brings it back.
+/// Installs what shows message boxes and returns what did so before. The first presenter writes to standard error and
+/// answers OK (Yes where there is no OK); an empty one reinstalls it.
 MsgBoxPresenter InstallMsgBoxPresenter(MsgBoxPresenter pPresenter);
 
-/// Has message boxes shown by another presenter for as long as it lives. Scopes end in the opposite order of their beginning.
+/// Shows message boxes with another presenter for as long as it lives. Scopes end in the reverse order of their beginning.
 class MsgBoxScope {
  public:
   explicit MsgBoxScope(MsgBoxPresenter pPresenter) : mBefore(InstallMsgBoxPresenter(std::move(pPresenter))) {}

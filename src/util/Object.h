@@ -1,4 +1,4 @@
-// The root of everything that a variant, a property grid or a host can hold as "an object".
+// The base class of everything that a variant, a property grid or a host can hold as an object.
 #pragma once
 
 #include <string>
@@ -15,10 +15,10 @@ class Object : public Referable {
   Object& operator=(const Object&) = default;
   virtual ~Object() = default;
 
-  /// The class identifier; constant per class.
+  /// The class identifier, the same for every object of a class.
   virtual std::string Class() const = 0;
 
-  /// The name that lists and property grids show for the object; empty where it has none.
+  /// The name that lists and property grids show for the object; empty if it has none.
   virtual std::string NameText() const { return {}; }
 };
 

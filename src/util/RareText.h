@@ -1,4 +1,4 @@
-// Text that most objects leave empty, in the space of one pointer.
+// Text that most objects leave empty, in one pointer.
 #pragma once
 
 #include <memory>
@@ -7,7 +7,7 @@
 
 namespace vantrel {
 
-/// Reads and assigns like a std::string; takes 8 bytes while it is empty. For fields of objects that come in millions.
+/// Reads and assigns like a std::string and takes 8 bytes while it is empty. For objects of which there are millions.
 class RareText {
  public:
   RareText() = default;

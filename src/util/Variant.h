@@ -13,11 +13,11 @@
 
 namespace vantrel {
 
-/// Empty, null, or a boolean, number, date, text or object. 16 bytes; text and objects lie behind a pointer.
-/// Copies copy text and share objects. Texts of numbers and the reading of numbers use a point, whatever the locale.
+/// Empty, null, or a boolean, number, date, text or object. 16 bytes; text and objects are on the heap.
+/// A copy copies text and shares objects. Numbers are written and read with a decimal point in every locale.
 class Variant {
  public:
-  /// A database null, which is no value, unlike the empty variant, which is no value yet.
+  /// The null of a database. The empty variant is something else: it has not been given a value yet.
   struct NullValue {
     auto operator<=>(const NullValue&) const = default;
   };
@@ -46,8 +46,8 @@ class Variant {
   bool IsBoolean() const { return std::holds_alternative<bool>(mValue); }
   bool IsNumber() const;
 
-  /// Conversions throw Error 13 where the value is of no such kind and Error 6 where the type cannot hold it. Fractions
-  /// round half to even; true is -1 and "True"; the empty variant is 0, false and ""; null converts to nothing at all.
+  /// Conversions throw Error 13 for a value of another kind and Error 6 for one that the type cannot hold. Fractions round half to
+  /// even. True converts to -1 and "True", the empty variant to 0, false and "". Null converts to nothing: Error 13.
   std::string ToText() const;
   std::int16_t ToInt16() const;
   std::int32_t ToInt32() const;
@@ -58,7 +58,7 @@ class Variant {
   /// The object itself, or null for an empty variant; Error 13 for any other value.
   std::shared_ptr<Object> ToObject() const;
 
-  /// The object as a T; Error 13 when it is none.
+  /// The object as a T; Error 13 when it is not a T or is null.
   template <class T>
   std::shared_ptr<T> ToObjectOf() const {
     auto object = std::dynamic_pointer_cast<T>(ToObject());
@@ -68,8 +68,8 @@ class Variant {
 
   /// Same kind and same value; objects are equal when they are the same object.
   friend bool operator==(const Variant&, const Variant&) = default;
-  /// The variants' own ordering: numbers, booleans and dates by value, texts by their bytes, a number before a text,
-  /// the empty variant as 0 or "". Error 13 for null and objects.
+  /// Orders numbers, booleans and dates by value and texts by their bytes. A number comes before a text; the empty variant counts as 0
+  /// or "". Error 13 for null and objects.
   friend std::partial_ordering Compare(const Variant& pvarA, const Variant& pvarB);
 
  private:
@@ -99,7 +99,7 @@ class Variant {
       mValue;
 };
 
-/// The whole text as a number (blanks around it allowed), or false. Decimal with an optional fraction and exponent.
+/// Reads the whole text, without blanks around it, as a decimal number with an optional fraction and exponent. False when it is not one.
 bool ParseNumber(std::string_view pstrText, double& pdblNumber);
 
 }  // namespace vantrel

@@ -62,12 +62,10 @@ TEST(Deletion, EmbeddedWorkflowsGoWithTheLastThatEmbedsThem) {
 
 std::shared_ptr<Transition> AddTransition(Workflow& pobjWorkflow, const std::shared_ptr<Workflow>& pobjEmbedded,
                                           std::int32_t plngSubflowId) {
-  const auto transition = std::make_shared<Transition>();
-  transition->Workflow = &pobjWorkflow;
+  const auto transition = pobjWorkflow.NewTransition();
   transition->RecId = 7;
   transition->SubflowId = plngSubflowId;
   transition->Object(pobjEmbedded);
-  pobjWorkflow.Transitions.Add(transition);
   return transition;
 }
 

@@ -15,28 +15,17 @@ struct Leg {
 
 /// An arc as a database gives it: segments in any order, without links, bend points or elements.
 std::shared_ptr<Workflow> Stored(const std::vector<Leg>& pcolLegs) {
-  const DesignerStateScope scope;
-  gobjVantrel = nullptr;
   const auto net = std::make_shared<Workflow>();
-  const auto place = std::make_shared<Place>();
-  const auto transition = std::make_shared<Transition>();
-  place->Key = "Place1";
-  transition->Key = "Transition1";
-  place->Workflow = net;
-  transition->Workflow = net;
+  const auto place = net->NewPlace();
+  const auto transition = net->NewTransition();
   place->MoveTo(500, 1000);
   transition->MoveTo(4000, 1000);
-  net->Places.Add(place, place->Key);
-  net->Transitions.Add(transition, transition->Key);
   const auto arc = net->CreateArc(place, transition, vntInArc);
   net->Vectors.Clear();
   for (const auto& [x1, y1, x2, y2] : pcolLegs) {
-    const auto vector = std::make_shared<Vector>();
-    vector->Key = NextKey(net->Vectors, "Vector");
-    vector->Arc(arc);
+    const auto vector = arc->AddSegment();
     vector->Start(x1, y1);
     vector->End(x2, y2);
-    net->Vectors.Add(vector, vector->Key);
   }
   return net;
 }

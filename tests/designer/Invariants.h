@@ -18,6 +18,7 @@ class Invariants {
     if (mWorkflow) CheckWorkflow();
     CheckSurface();
     CheckSelection();
+    if (mWorkflow && mControl.Comfort.ChosenIsSeen) CheckLooks();
   }
 
   /// One line a fault; empty when all holds.
@@ -139,6 +140,40 @@ class Invariants {
     const Element* framed = mControl.FocusFrame.Visible() ? mControl.FocusFrame.SelectedControl().get() : nullptr;
     Expect(!framed || mOwned.contains(framed), "the focus frame is round nothing");
     Expect(mControl.FocusFrame.Visible() == (framed != nullptr), "the focus frame shows without an element");
+  }
+
+  /// With all comfort: what Delete, Copy and the arrow keys would take is exactly what looks chosen.
+  void CheckLooks() {
+    std::set<const ModelObject*> taken;
+    for (const auto& object : *mControl.Selection()) {
+      const auto* vector = dynamic_cast<const Vector*>(object.get());
+      taken.insert(vector ? static_cast<const ModelObject*>(vector->Arc().get()) : object.get());
+      Expect(!dynamic_cast<const Elbow*>(object.get()), KeyOf(*object) + " is chosen, which nothing shows");
+    }
+    const Element* current = mControl.CurrentControl().get();
+    const auto object = current ? mControl.GetVNTRObject(current->Tag()) : nullptr;
+    Expect(!object || taken.contains(object.get()) || (current->Family() == ctlLineFamily && IsSelected(*object)),
+           "the current element's object is not chosen");
+    const auto expectSeen = [&](const auto& each, bool pblnLooks) {
+      const bool isTaken = taken.contains(&each);
+      Expect(pblnLooks == isTaken, each.Key + (isTaken ? " is chosen and does not look it" : " looks chosen and is not"));
+    };
+    for (const auto& place : mWorkflow->Places) expectSeen(*place, place->Image->BorderStyle() != 0 || IsFramed(place->Key));
+    for (const auto& transition : mWorkflow->Transitions)
+      expectSeen(*transition, transition->Image->BorderStyle() != 0 || IsFramed(transition->Key));
+    for (const auto& note : mWorkflow->Notations) expectSeen(*note, note->TextControl->Marked() || IsFramed(note->Key));
+    for (const auto& arc : mWorkflow->Arcs) {
+      const auto segments = arc->Segments();
+      const bool looks = segments.front()->LineWidth() > 1;
+      for (const Vector* segment : segments) Expect((segment->LineWidth() > 1) == looks, arc->Key + " looks chosen in part");
+      for (const Elbow* bendPoint : arc->BendPoints())
+        Expect(bendPoint->Visible() == looks, bendPoint->Key + " looks another way than its arc");
+      expectSeen(*arc, looks || IsFramed(arc->Key));
+    }
+  }
+
+  bool IsFramed(const std::string& pstrKey) const {
+    return mControl.FocusFrame.Visible() && mControl.FocusFrame.SelectedControl()->Tag() == pstrKey;
   }
 
   const Vantrel& mControl;

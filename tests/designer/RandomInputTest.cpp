@@ -210,13 +210,14 @@ int EventsWanted() {
   return wanted ? std::atoi(wanted) : 10'000;
 }
 
-class RandomInput : public DesignerTest {};
+class RandomInput : public DesignerTest, public ::testing::WithParamInterface<bool> {};
 
-TEST_F(RandomInput, LeavesAWholeChart) {
+TEST_P(RandomInput, LeavesAWholeChart) {
   constexpr int kEvents = 1'000;
   std::int32_t arcs = 0, elbows = 0;
   for (std::uint32_t seed = 1; static_cast<int>(seed) * kEvents <= EventsWanted(); ++seed) {
     Control = std::make_unique<Vantrel>(Tools);
+    if (GetParam()) Control->Comfort = Comfort::All();
     RandomUser user(*Control, Tools, seed);
     for (int event = 1; event <= kEvents; ++event) {
       user.Act();
@@ -232,6 +233,8 @@ TEST_F(RandomInput, LeavesAWholeChart) {
   EXPECT_GE(elbows, 3) << "charts too empty to find anything";
   Tools.OnPopup = nullptr;
 }
+
+INSTANTIATE_TEST_SUITE_P(Comfort, RandomInput, ::testing::Bool(), [](const auto& test) { return test.param ? "On" : "Off"; });
 
 }  // namespace
 }  // namespace vantrel::test

@@ -29,7 +29,7 @@ class TwoControls : public DesignerTest {
 }  // namespace
 
 TEST_F(TwoControls, GiveElementsToObjectsOfTheirOwnWorkflows) {
-  FirstArc().InsertVector(FirstArc().Segments().front()->shared_from_this());
+  FirstArc().InsertVector(ShareOf(*FirstArc().Segments().front()));
   EXPECT_EQ(FirstArc().BendPoints().front()->Handle->Surface(), &Control->ChartArea);
   EXPECT_EQ(Invariants(*Control).Faults() + Invariants(*Second).Faults(), "");
 

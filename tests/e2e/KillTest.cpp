@@ -27,34 +27,16 @@ struct Version {
 };
 constexpr Version kVersions[] = {{'A', 6, 2}, {'B', 11, 3}};
 
-std::shared_ptr<Place> AddPlace(Workflow& pobjWorkflow, const std::string& pstrName) {
-  const auto place = std::make_shared<Place>();
-  place->Key = NextKey(pobjWorkflow.Places, "Place");
-  place->Workflow = &pobjWorkflow;
-  place->AssignName(pstrName);
-  pobjWorkflow.Places.Add(place, place->Key);
-  return place;
-}
-
-std::shared_ptr<Transition> AddTransition(Workflow& pobjWorkflow, const std::string& pstrName) {
-  const auto transition = std::make_shared<Transition>();
-  transition->Key = NextKey(pobjWorkflow.Transitions, "Transition");
-  transition->Workflow = &pobjWorkflow;
-  transition->AssignName(pstrName);
-  pobjWorkflow.Transitions.Add(transition, transition->Key);
-  return transition;
-}
-
 /// A chain of places with a transition between each two.
 std::shared_ptr<Workflow> Build(const Version& pVersion, std::int32_t plngId) {
   const auto workflow = std::make_shared<Workflow>();
   workflow->RecId = plngId;
   const auto name = [&](const char* pstrKind, int plngNumber) { return pVersion.Letter + (pstrKind + std::to_string(plngNumber)); };
-  auto place = AddPlace(*workflow, name("place", 0));
+  auto place = workflow->NewPlace(name("place", 0));
   workflow->StartPlace = place;
   for (int i = 1; i < pVersion.Places; ++i) {
-    const auto transition = AddTransition(*workflow, name("transition", i));
-    const auto next = AddPlace(*workflow, name("place", i));
+    const auto transition = workflow->NewTransition(name("transition", i));
+    const auto next = workflow->NewPlace(name("place", i));
     for (const auto& arc : {workflow->CreateArc(place, transition, vntInArc), workflow->CreateArc(next, transition, vntOutArc)}) {
       arc->Guard(std::string(1, pVersion.Letter));
       for (int segment = 1; segment < pVersion.Segments; ++segment) arc->InsertVector(workflow->Vectors.Last());

@@ -13,7 +13,26 @@ fail() {
   failures=$((failures + 1))
 }
 
-finish() { exit $((failures > 0)); }
+# The end: 1 after a failure, 77, which means skipped, when nets of the field are missing.
+finish() {
+  if ((failures)); then exit 1; fi
+  if [[ -e $scratch/missing-nets ]]; then
+    echo "skipped: VANTREL_NETS has no net $(sort -u "$scratch/missing-nets" | paste -sd ' ')" >&2
+    exit 77
+  fi
+  exit 0
+}
+
+# field_net PREFIX: the path of the net of the field whose name begins so; fails where it is not at hand.
+field_net() {
+  local files=("${VANTREL_NETS:-/nowhere}/$1"_*)
+  if [[ -e ${files[0]} ]]; then
+    printf '%s\n' "${files[0]}"
+  else
+    printf '%s\n' "$1" >>"$scratch/missing-nets"
+    return 1
+  fi
+}
 
 # run STATUS ARGUMENT...: runs the program, whose output goes to $scratch/out and $scratch/err, and checks the exit status.
 run() {
@@ -30,6 +49,18 @@ fails() {
 }
 
 play() { run "$1" play "${@:2}"; }
+
+# interrupted ARGUMENT...: runs the program and sends Ctrl-C after a second. Where the machine is so busy that the program was not ready for
+# it by then, and died of it, tries again with more time.
+interrupted() {
+  local seconds
+  for seconds in 1 5 25 125; do
+    status=0
+    timeout --signal=INT --preserve-status "$seconds" "$VANTREL" "$@" >"$scratch/out" 2>"$scratch/err" || status=$?
+    if ((status != 130)); then return; fi
+  done
+  fail "$*: dies of Ctrl-C"
+}
 refuses() { fails play "$@"; }
 
 # json EXPRESSION: the JSON of the last run, a dictionary `a`, makes the Python expression true.

@@ -76,9 +76,9 @@ cp "$data/order-handling.pnml" "$scratch/1"
 # Ctrl-C between two files of many.
 mkdir "$scratch/many"
 for i in {1..3000}; do ln -s "$data/order-handling.pnml" "$scratch/many/$i.pnml"; done
-status=0
-timeout --signal=INT --preserve-status 1 "$VANTREL" import "$scratch/many" >"$scratch/out" 2>"$scratch/err" || status=$?
-if ((status == 3)); then says "interrupted after"; elif ((status != 0)); then fail "Ctrl-C: status $status: $(cat "$scratch/err")"; fi
+interrupted import "$scratch/many"
+if ((status != 3)); then fail "Ctrl-C: status $status: $(cat "$scratch/err")"; fi
+says "interrupted after"
 printed=$(wc -l <"$scratch/out")
 run 0 list --json
 json "len(a['workflows']) == 1 + $printed"

@@ -1,23 +1,22 @@
 #!/usr/bin/env bash
-# Plays nets that other tools drew. Skipped where they are not at hand.
+# Plays nets that other tools drew. Skipped where one of them is missing.
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
-[[ -d ${VANTREL_NETS:-} ]] || exit 77
 
 # finishes PREFIX OPTION...: the net whose name begins so runs from start to end and leaves no token.
 finishes() {
-  local files=("$VANTREL_NETS/$1"_*)
+  local net
+  net=$(field_net "$1") || return 0
   shift
-  [[ -e ${files[0]} ]] || return 0
-  play 0 "${files[0]}" --json "$@"
+  play 0 "$net" --json "$@"
   account 'a["stopped"] == "quiet" and a["cases"]["started"] == a["cases"]["finished"] and a["marking"] == {}'
 }
 
 # refuses_field PREFIX TEXT: the one line of the refusal has the text.
 refuses_field() {
-  local files=("$VANTREL_NETS/$1"_*)
-  [[ -e ${files[0]} ]] || return 0
-  refuses "${files[0]}"
+  local net
+  net=$(field_net "$1") || return 0
+  refuses "$net"
   says "$2"
 }
 

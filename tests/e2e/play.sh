@@ -70,7 +70,7 @@ doubling=$(for i in {0..40}; do printf 'p%d>t%d t%d>p%d t%d>p%d ' "$i" "$i" "$i"
 net "$scratch/doubling.pnml" "in>t t>p0 $doubling p41>t41 p41>t42 t41>out t42>out"
 for run in "$scratch/endless.pnml --max-firings 999999999999" "$scratch/doubling.pnml --automatic"; do
   # shellcheck disable=SC2086
-  timeout --signal=INT --preserve-status 1 "$VANTREL" play $run --json >"$scratch/out" 2>"$scratch/err" || true
+  interrupted play $run --json
   account 'a["stopped"] == "limit" and a["firings"] > 0'
 done
 

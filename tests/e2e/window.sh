@@ -19,10 +19,10 @@ stop() {
 }
 trap stop EXIT
 
-# until COMMAND...: waits for its success, half a minute at most.
+# until_true COMMAND...: waits for its success, five minutes at most: a busy machine is slow, and a hang must end.
 until_true() {
   local try
-  for ((try = 0; try < 300; ++try)); do
+  for ((try = 0; try < 3000; ++try)); do
     if "$@" >/dev/null 2>&1; then return; fi
     sleep 0.1
   done

@@ -10,8 +10,7 @@ void FillNode(Node& pobjNode) {
   pobjNode.Tag = "tag";
   pobjNode.EnabledImageKey = "Lamp";
   pobjNode.DisabledImageKey = "Dark lamp";
-  pobjNode.InputPosition(vntTop);
-  pobjNode.OutputPosition(99);
+  pobjNode.AssignSides(vntTop, 99);
   pobjNode.CaptionHeight = 195;
   pobjNode.CaptionWidth = 812.5F;
   pobjNode.CaptionOffsetLeft(-37.5F);
@@ -36,8 +35,7 @@ void FillArc(Arc& pobjArc) {
 }
 
 void AddNote(Workflow& pobjWorkflow) {
-  const auto note = std::make_shared<Notation>();
-  note->Key = "Notation1";
+  const auto note = pobjWorkflow.NewNotation();
   note->Caption = "two\nlines";
   note->Left(-5);
   note->Top(10);
@@ -53,7 +51,6 @@ void AddNote(Workflow& pobjWorkflow) {
   note->Size = 12;
   note->Bold = note->Italics = note->Underline = note->Strikethrough = note->Protected = true;
   note->Tag = "tag";
-  pobjWorkflow.Notations.Add(note, note->Key);
 }
 
 }  // namespace
@@ -73,7 +70,6 @@ std::shared_ptr<PropertyRecord> Definition(const std::string& pstrName, const Va
 }
 
 std::shared_ptr<Workflow> FullWorkflow() {
-  const DesignerStateScope scope;
   auto workflow = SmallWorkflow();
   const auto in = workflow->Places.First();
   const auto work = workflow->Transitions.First();

@@ -140,7 +140,7 @@ TEST(PnmlExport, EmbeddedWorkflowsStaySharedAndAreWrittenOnce) {
   const auto outer = SmallWorkflow(), middle = SmallWorkflow(), inner = FullWorkflow();
   middle->Transitions.First()->Object(inner);
   outer->Transitions.First()->Object(middle);
-  const auto second = AddTransition(*outer, "second"), third = AddTransition(*outer, "third");
+  const auto second = outer->NewTransition("second"), third = outer->NewTransition("third");
   second->Object(inner);
   third->Object(inner);
   ExpectComesBack(*outer);
@@ -153,7 +153,7 @@ TEST(PnmlExport, WorkflowsEmbeddedTwiceOnEveryLevelDoNotMultiply) {
   for (int depth = 0; depth < 30; ++depth) {
     const auto next = SmallWorkflow();
     level->Transitions.First()->Object(next);
-    AddTransition(*level, "again")->Object(next);
+    level->NewTransition("again")->Object(next);
     level = next;
   }
   ExpectComesBack(*outermost);

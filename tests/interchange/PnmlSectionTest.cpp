@@ -71,7 +71,7 @@ TEST(Section, NetsEmbeddedTooDeepAreRefused) {
   auto level = outermost;
   for (int depth = 0; depth < 300; ++depth) {
     const auto next = std::make_shared<Workflow>();
-    (level == outermost ? level->Transitions.First() : AddTransition(*level, "t"))->Object(next);
+    (level == outermost ? level->Transitions.First() : level->NewTransition("t"))->Object(next);
     level = next;
   }
   EXPECT_THAT(FailureOf(ToPnml(*outermost)), testing::HasSubstr("deeper than 256"));

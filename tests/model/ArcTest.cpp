@@ -243,7 +243,7 @@ TEST_F(ArcOnChart, AnySplitsJoinsAndDragsLeaveOneSoundChain) {
   Connect(mTransition, mPlace);
   for (int step = 0; step < 1500 && !HasFailure(); ++step) {
     const auto segments = mArc->Segments();
-    const auto segment = segments[below(segments.size())]->shared_from_this();
+    const auto segment = ShareOf(*segments[below(segments.size())]);
     if (segments.size() == 1 || below(100) < 48) {
       mArc->InsertVector(segment);
     } else if (below(100) < 60) {

@@ -9,22 +9,10 @@
 
 namespace vantrel::test {
 
-template <class N>
-std::shared_ptr<N> AddNode(Workflow& pobjNet, Collection<N>& pcolNodes, const std::string& pstrName, const char* pstrWord) {
-  auto node = std::make_shared<N>();
-  node->Workflow = &pobjNet;
-  node->Key = NextKey(pcolNodes, pstrWord);
-  node->AssignName(pstrName);
-  pcolNodes.Add(node, node->Key);
-  return node;
-}
-
-inline std::shared_ptr<Place> AddPlace(Workflow& pobjNet, const std::string& pstrName = "P") {
-  return AddNode(pobjNet, pobjNet.Places, pstrName, "Place");
-}
+inline std::shared_ptr<Place> AddPlace(Workflow& pobjNet, const std::string& pstrName = "P") { return pobjNet.NewPlace(pstrName); }
 
 inline std::shared_ptr<Transition> AddTransition(Workflow& pobjNet, const std::string& pstrName = "T") {
-  return AddNode(pobjNet, pobjNet.Transitions, pstrName, "Transition");
+  return pobjNet.NewTransition(pstrName);
 }
 
 /// An arc along which tokens go from the first object to the second.

@@ -22,8 +22,7 @@ class SaveFailure : public testing::Test {
     mobjTransition->Dirty = true;
     const auto arc = Connect(place, mobjTransition);
     arc->InsertVector(arc->Vectors()->First());
-    const auto note = std::make_shared<Notation>();
-    mobjNet->Notations.Add(note, "Notation1");
+    mobjNet->NewNotation();
     mobjNet->Dirty(true);
   }
 

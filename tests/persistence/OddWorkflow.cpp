@@ -108,7 +108,7 @@ void FillArc(Arc& pobjArc, Odd& pOdd) {
   pobjArc.WeightOffsetY(pOdd.Single());
   pobjArc.WeightHeight(pOdd.Single());
   pobjArc.WeightWidth(pOdd.Single());
-  for (std::size_t bends = pOdd.Below(4); bends > 0; --bends) pobjArc.InsertVector(pobjArc.Segments().back()->shared_from_this());
+  for (std::size_t bends = pOdd.Below(4); bends > 0; --bends) pobjArc.InsertVector(ShareOf(*pobjArc.Segments().back()));
   if (pobjArc.Segments().size() < 2) return;  // a straight arc stores no path
   for (Vector* segment : pobjArc.Segments()) {
     segment->Start(pOdd.Single(), pOdd.Single());
@@ -117,9 +117,7 @@ void FillArc(Arc& pobjArc, Odd& pOdd) {
 }
 
 void AddNote(Workflow& pobjNet, Odd& pOdd) {
-  const auto note = std::make_shared<Notation>();
-  note->Key = NextKey(pobjNet.Notations, "Notation");
-  note->Workflow = &pobjNet;
+  const auto note = pobjNet.NewNotation();
   note->Alignment = pOdd.Short();
   note->Appearance = pOdd.Short();
   note->BorderStyle = pOdd.Short();
@@ -137,7 +135,6 @@ void AddNote(Workflow& pobjNet, Odd& pOdd) {
   note->Left(pOdd.Integer());
   note->Height(pOdd.Integer());
   note->Width(pOdd.Integer());
-  pobjNet.Notations.Add(note, note->Key);
 }
 
 class Description {

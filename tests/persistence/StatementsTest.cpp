@@ -42,12 +42,10 @@ std::shared_ptr<Workflow> SmallChart() {
   const auto lost = Connect(place, transition);
   lost->Place = nullptr;
   lost->RecId = 77;
-  const auto note = std::make_shared<Notation>();
-  note->Key = "Notation1";
+  const auto note = net->NewNotation();
   note->Caption = "N";
   note->BackStyle = 1;
   note->Bold = true;
-  net->Notations.Add(note, note->Key);
   net->StartPlace = place;
   net->KeepHistory = true;
   return net;

@@ -18,10 +18,10 @@ class Command {
 
   virtual std::string Name() const = 0;
   virtual std::string Summary() const = 0;  ///< the line of `vantrel --help`
-  /// Names the command's options, which then lead into this object: it must outlive the parsing.
+  /// Declares the command's options, which write into this object: it must outlive the parsing.
   virtual void Declare(CLI::App& pobjApp) = 0;
-  /// Does the work after the parsing and returns an ExitStatus. Whatever it throws becomes the line on standard error
-  /// that goes with kBadInput.
+  /// Does the work after the parsing and returns an ExitStatus. An exception becomes the line on standard error and the status
+  /// kBadInput.
   virtual int Run() = 0;
 };
 

@@ -30,7 +30,7 @@ void Named(const DatabaseAddress& pobjAddress, Work&& pWork) {
 }  // namespace
 
 void DbCommand::Declare(CLI::App& pobjApp) {
-  auto* create = pobjApp.add_subcommand("create", "Make the tables, and the file where there is none; a database that has them is refused");
+  auto* create = pobjApp.add_subcommand("create", "Make the tables, and the file if there is none; refuse a database that has them");
   mDatabase.Declare(*create);
   create->footer(
       "Examples: vantrel db create --db nets.db\n"

@@ -15,10 +15,10 @@ namespace vantrel {
 void DeleteCommand::Declare(CLI::App& pobjApp) {
   pobjApp.add_option("ID", mcolIds, "Ids of the workflows, see `vantrel list`")->required()->transform(WorkflowId())->type_name("");
   mDatabase.Declare(pobjApp);
-  pobjApp.add_flag("--force", mblnForce, "Also workflows that others embed: the transitions around them are then without");
-  pobjApp.add_flag("--embedded", mblnEmbedded, "Also the workflows embedded in them, unless others embed these, too");
+  pobjApp.add_flag("--force", mblnForce, "Delete workflows that others embed as well: the transitions that embed them are left empty");
+  pobjApp.add_flag("--embedded", mblnEmbedded, "Delete the workflows embedded in them as well, unless others embed these");
   pobjApp.footer(
-      "All or none of them. Token property definitions, cases and tokens stay in the database.\n"
+      "Deletes all of them or none. Token property definitions, cases and tokens stay in the database.\n"
       "Example: vantrel delete 3 4 --embedded");
 }
 

@@ -12,10 +12,7 @@
 namespace vantrel {
 
 void DesignCommand::Declare(CLI::App& pobjApp) {
-  pobjApp
-      .add_option("NET", mstrNet,
-                  "The id of a stored workflow, or a PNML file (a whole number that is no file is an id); without it what was open last")
-      ->type_name("");
+  pobjApp.add_option("NET", mstrNet, "The id of a stored workflow, or a PNML file; without it the one that was open last")->type_name("");
   mDatabase.Declare(pobjApp);
   pobjApp.add_option("--net", mFileOptions.NetId, "Id of the net in a file with several; without it the first one")->type_name("ID");
   pobjApp.add_flag("--skip-unsupported", mFileOptions.SkipUnsupported,

@@ -20,7 +20,7 @@ namespace vantrel {
 
 namespace {
 
-// The library's own reading of numbers takes "nan" for one.
+// CLI11 itself would accept "nan".
 CLI::Validator NumberAboveZero() {
   const auto check = [](const std::string& pstrText) -> std::string {
     double number = 0;
@@ -35,13 +35,11 @@ CLI::Validator NumberAboveZero() {
 }  // namespace
 
 void DrawCommand::Declare(CLI::App& pobjApp) {
-  pobjApp.add_option("NET", mNet, "The file with the net; a whole number that is no file is an id in the database")
-      ->required()
-      ->type_name("");
+  pobjApp.add_option("NET", mNet, "A file with the net, or the id of a stored workflow")->required()->type_name("");
   pobjApp.add_option("OUT", mstrPicture, "The picture to write, OUT.png, OUT.svg or OUT.pdf; an existing file is replaced")
       ->required()
       ->type_name("");
-  pobjApp.add_option("--zoom", mdblZoom, "Size of the picture: 1 is 96 pixels an inch, 2 twice as wide and as high")
+  pobjApp.add_option("--zoom", mdblZoom, "Size of the picture: 1 is 96 pixels an inch, 2 is twice as wide and twice as high")
       ->check(NumberAboveZero())
       ->type_name("Z")
       ->capture_default_str();

@@ -30,7 +30,7 @@ void ImportCommand::Declare(CLI::App& pobjApp) {
   mDatabase.Declare(pobjApp);
   pobjApp.add_flag("--json", mblnJson, "Print one JSON object and nothing else");
   pobjApp.footer(
-      "Each net is stored as a whole or not at all; a file that cannot be stored is named, the others are stored all the same, and the\n"
+      "Each net is stored as a whole or not at all. A file that cannot be stored is named, the others are stored all the same, and the\n"
       "exit status is 2. Example: vantrel import order-handling.pnml nets/ --db nets.db");
 }
 

@@ -16,7 +16,7 @@ std::vector<NetFile> FilesIn(const std::string& pstrFolder) {
   std::vector<std::string> paths;
   for (fs::directory_iterator entry(pstrFolder, fault), end; !fault && entry != end; entry.increment(fault)) {
     std::error_code unknown;
-    // A pipe of that name would wait for ever for somebody who writes.
+    // Reading a pipe of that name would wait for ever for a writer.
     if (entry->path().extension() == ".pnml" && entry->is_regular_file(unknown)) paths.push_back(entry->path().string());
   }
   if (fault) return {{pstrFolder, "cannot read the folder: " + fault.message()}};

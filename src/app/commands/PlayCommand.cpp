@@ -42,43 +42,42 @@ std::string CountOf(std::int32_t plngPlaces, const std::string& pstrWithout) {
 }  // namespace
 
 void PlayCommand::Declare(CLI::App& pobjApp) {
-  pobjApp.add_option("NET", mNet, "The file with the net; a whole number that is no file is an id in the database")
-      ->required()
-      ->type_name("");
+  pobjApp.add_option("NET", mNet, "A file with the net, or the id of a stored workflow")->required()->type_name("");
   DeclareRun(pobjApp);
   DeclareFile(pobjApp);
   DeclareDatabase(pobjApp);
   DeclareOutput(pobjApp);
   pobjApp.footer(
-      "Exit status: 0 when every started case finished and nothing failed, 3 when not, 2 for options and files that cannot be used.\n"
+      "Exit status: 0 if every started case finished and nothing failed, else 3; 2 for options and files that cannot be used.\n"
       "Ctrl-C ends the run with an account of what happened so far.\n"
       "Examples: vantrel play order-handling.pnml --cases 10 --pick random\n"
       "          vantrel play 3 --db nets.db --cases 1000 --save");
 }
 
 void PlayCommand::DeclareRun(CLI::App& pobjApp) {
-  auto* cases = pobjApp.add_option("--cases", mOptions.Cases, "Cases to start before the first firing: a token each in the start place")
-                    ->transform(WholeNumber(1, std::numeric_limits<std::int32_t>::max()))
-                    ->each([this](const std::string&) { mblnCasesGiven = true; })
-                    ->type_name("N")
-                    ->capture_default_str();
+  auto* cases =
+      pobjApp.add_option("--cases", mOptions.Cases, "Start so many cases before the first firing, each with a token in the start place")
+          ->transform(WholeNumber(1, std::numeric_limits<std::int32_t>::max()))
+          ->each([this](const std::string&) { mblnCasesGiven = true; })
+          ->type_name("N")
+          ->capture_default_str();
   pobjApp.add_flag("--marking", mOptions.FromMarking, "Start with the initial marking of the file instead of cases")->excludes(cases);
   pobjApp.add_option("--pick", mPick, "Which enabled transition fires next: the one enabled first, or any")
       ->check(CLI::IsMember({"first", "random"}).description(""))
       ->type_name("first|random")
       ->capture_default_str();
-  pobjApp.add_option("--seed", mOptions.Seed, "What --pick random draws from: the same seed, the same run")
+  pobjApp.add_option("--seed", mOptions.Seed, "Seed of --pick random: the same seed gives the same run")
       ->transform(WholeNumber(0, std::numeric_limits<std::uint64_t>::max()))
       ->type_name("S")
       ->capture_default_str();
   pobjApp
       .add_option("--max-firings", mOptions.MaxFirings,
-                  "Stop after so many firings; automatic transitions that one firing sets off are counted but not cut short")
+                  "Stop after so many firings; automatic transitions that a firing sets off count, but are not stopped")
       ->transform(WholeNumber(0, std::numeric_limits<std::int64_t>::max()))
       ->type_name("M")
       ->capture_default_str();
   pobjApp.add_flag("--automatic", mOptions.Automatic, "Make every transition automatic: it fires as soon as it is enabled");
-  pobjApp.add_flag("--case-tracking", mOptions.CaseTracking, "Let a firing take tokens of one case only");
+  pobjApp.add_flag("--case-tracking", mOptions.CaseTracking, "Let a firing take the tokens of one case only");
   pobjApp.add_flag("--keep-history", mOptions.KeepHistory, "Leave the tokens of finished cases in the end place");
 }
 
@@ -90,9 +89,10 @@ void PlayCommand::DeclareFile(CLI::App& pobjApp) {
 
 void PlayCommand::DeclareDatabase(CLI::App& pobjApp) {
   mDatabase.Declare(pobjApp);
-  pobjApp.add_flag("--save", mblnSave, "Store cases and tokens in the database, every thousand firings or cases started and every second");
+  pobjApp.add_flag("--save", mblnSave,
+                   "Store cases and tokens in the database after every thousand firings or started cases, and every second");
   pobjApp.add_flag("--resume", mOptions.Resume,
-                   "Go on from the cases and tokens that are stored, and store on; starts no new cases without --cases");
+                   "Go on from the stored cases and tokens, and go on storing; starts new cases only with --cases");
 }
 
 void PlayCommand::DeclareOutput(CLI::App& pobjApp) {

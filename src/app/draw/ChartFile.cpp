@@ -13,7 +13,7 @@
 namespace vantrel {
 
 void DrawWorkflow(const std::shared_ptr<Workflow>& pobjWorkflow, const std::string& pstrPath, double pdblZoom) {
-  // Boxes would stand for the letters, and nobody would be told. The list of families is no help: it always has "Sans Serif".
+  // Qt would draw a box for each letter and say nothing. The list of families does not tell: it always has "Sans Serif".
   if (!QFontMetricsF(QFont()).inFont('x')) throw Error(vntErrInvalidCall, pstrPath + ": cannot be drawn: this system has no fonts");
   const DesignerStateScope before;
   HeadlessToolkit toolkit;

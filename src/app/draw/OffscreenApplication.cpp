@@ -9,7 +9,7 @@ namespace vantrel {
 
 namespace {
 
-// Qt ends the process behind a fatal message; all others are about locales, plugins and folders that no picture needs.
+// Qt ends the process after a fatal message. All others are about locales, plugins and folders that no picture needs.
 void TellFatal(QtMsgType pType, const QMessageLogContext&, const QString& pstrText) {
   if (pType == QtFatalMsg) std::cerr << "vantrel: " << OnOneLine(pstrText.toStdString()) << std::endl;
 }

@@ -6,9 +6,9 @@
 
 namespace vantrel {
 
-/// What pictures need of Qt, on the platform "offscreen" unless the environment's QT_QPA_PLATFORM names another; fonts are those of
-/// fontconfig. The desktop's theme is not asked: it may want a display. While it lives, what Qt has to say of its surroundings stays
-/// unsaid. One at a time, and none beside a QApplication.
+/// What pictures need of Qt, on the platform "offscreen" unless the environment's QT_QPA_PLATFORM names another. Fonts come from
+/// fontconfig. The desktop's theme is not used, as it may need a display. Hides Qt's messages about its surroundings while it lives.
+/// One at a time, and not beside a QApplication.
 class OffscreenApplication {
  public:
   OffscreenApplication();

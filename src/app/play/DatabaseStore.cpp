@@ -20,7 +20,7 @@ constexpr std::chrono::seconds kPause(1);
 DatabaseStore::DatabaseStore(OpenDatabase& pobjDatabase, std::shared_ptr<Workflow> pobjWorkflow)
     : mDatabase(pobjDatabase), mobjWorkflow(std::move(pobjWorkflow)), mNew(mobjWorkflow->Tokens), mDue(Clock::now() + kPause) {}
 
-// A case may be known by the token in the end place or not: without case tracking only the first token of a case has it.
+// The token in the end place may not know its case: without case tracking only the first token of a case does.
 TakenUp DatabaseStore::TakeUp() {
   std::vector<std::shared_ptr<WorkCase>> cases;
   mDatabase.Do([&] { cases = mDatabase.Access().ReadCases(mobjWorkflow); });
@@ -80,8 +80,8 @@ std::vector<DatabaseStore::Group> DatabaseStore::TakeTouched() {
   return touched;
 }
 
-// The end place lets the token of a finished case go without anybody consuming it. Stored without a date of its end it would
-// lie there again after the next reading.
+// The token of a finished case leaves the end place and no transition consumes it. Stored without a date of its end it would be in
+// the place again after the next reading.
 bool DatabaseStore::HasLeft(Token& pobjToken) const {
   if (!pobjToken.DateConsumed.IsZero()) return true;
   if (mobjWorkflow->KeepHistory || pobjToken.Place != mobjWorkflow->EndPlace()) return false;

@@ -1,4 +1,4 @@
-// Cases and tokens of a run in the database that its workflow came from.
+// Stores the cases and tokens of a run in the database that its workflow came from.
 #pragma once
 
 #include <chrono>
@@ -11,9 +11,9 @@
 
 namespace vantrel {
 
-/// Writes what changed in one transaction for every thousand firings or cases started, every second at the latest. Throws DatabaseFailure;
-/// what was written before stands then. The tokens of embedded workflows are not stored: a subflow under way starts again, for what its
-/// transition takes is consumed only when it delivers.
+/// Writes changes in one transaction for every thousand firings or started cases, at least once a second. Throws DatabaseFailure; what was
+/// written before is kept then. The tokens of embedded workflows are not stored: a subflow that was running starts again, as its
+/// transition consumes tokens only when it delivers.
 class DatabaseStore final : public PlayStore {
  public:
   /// The database must outlive the store.
@@ -29,7 +29,7 @@ class DatabaseStore final : public PlayStore {
 
   void Save();
   void GatherNew();
-  // In the order of their first tokens: ids then follow the order in which tokens arose as far as cases allow.
+  // In the order of their first tokens, so that ids follow the order in which tokens were made as far as cases allow.
   std::vector<Group> TakeTouched();
   bool HasLeft(Token& pobjToken) const;
   void Write(const std::vector<Group>& pcolTouched);
@@ -39,10 +39,10 @@ class DatabaseStore final : public PlayStore {
 
   OpenDatabase& mDatabase;
   std::shared_ptr<Workflow> mobjWorkflow;
-  Collection<Token>::Cursor mNew;                  // behind the tokens that mcolLiving has or had
+  Collection<Token>::Cursor mNew;                  // after the tokens that mcolLiving has or had
   std::vector<std::shared_ptr<Token>> mcolLiving;  // tokens that can still change
   std::int64_t mlngSavedAt = 0;                    // steps
-  std::int32_t mlngLargestTokenId = -1;            // that we know of; -1 when we go on with nothing that others could
+  std::int32_t mlngLargestTokenId = -1;            // that we know of; -1 when no other run could go on with our tokens
   Clock::time_point mDue;
 };
 

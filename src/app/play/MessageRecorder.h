@@ -9,7 +9,7 @@
 
 namespace vantrel {
 
-/// While it lives, message boxes are answered with OK and kept from the user; the first one is remembered.
+/// Answers message boxes with OK while it lives, shows none to the user, and remembers the first one.
 class MessageRecorder {
  public:
   MessageRecorder()

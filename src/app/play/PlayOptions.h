@@ -7,16 +7,16 @@ namespace vantrel {
 /// Which of the enabled transitions fires next.
 enum class Pick : std::uint8_t { First, Random };
 
-/// What a run starts with, how it goes on and when it ends.
+/// How a run starts, goes on and ends.
 struct PlayOptions {
-  std::int32_t Cases = 1;    ///< tokens put into the start place, each with a case of its own
-  bool Resume = false;       ///< take up first what the store has
-  bool FromMarking = false;  ///< put the file's initial marking instead; its tokens have no case
+  std::int32_t Cases = 1;    ///< tokens put into the start place, each with its own case
+  bool Resume = false;       ///< first take up what the store has
+  bool FromMarking = false;  ///< use the file's initial marking instead; its tokens have no case
   vantrel::Pick Pick = Pick::First;
   std::uint64_t Seed = 1;     ///< of Pick::Random; a run with the same seed is the same on every machine
   bool Automatic = false;     ///< make every transition automatic
-  bool CaseTracking = false;  ///< also where the net itself does not ask for it
-  bool KeepHistory = false;   ///< also where the net itself does not ask for it
+  bool CaseTracking = false;  ///< also if the net has it switched off
+  bool KeepHistory = false;   ///< also if the net has it switched off
   std::int64_t MaxFirings = 100'000;
   bool KeepTrace = false;  ///< list every firing in the account
 };

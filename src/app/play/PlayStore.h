@@ -1,4 +1,4 @@
-// Where a run keeps its cases and tokens.
+// Keeps the cases and tokens of a run.
 #pragma once
 
 #include <cstdint>
@@ -12,12 +12,12 @@ namespace vantrel {
 
 /// What an earlier run left in a store.
 struct TakenUp {
-  std::vector<std::string> CaseKeys;  ///< of all its cases: those started now need others
-  std::vector<std::string> Finished;  ///< keys of the finished cases that are known by name
+  std::vector<std::string> CaseKeys;  ///< of all its cases; new cases need other keys
+  std::vector<std::string> Finished;  ///< keys of the finished cases, where they are known
   std::int64_t CasesUnderWay = 0;
 };
 
-/// Hears of a run between its firings, where every token is in one place: a state that another run can go on from.
+/// Is called between the firings of a run, when every token is in one place: another run can go on from that state.
 class PlayStore {
  public:
   PlayStore() = default;
@@ -25,9 +25,9 @@ class PlayStore {
   PlayStore& operator=(const PlayStore&) = delete;
   virtual ~PlayStore() = default;
 
-  /// Puts what is stored into the workflow, which has no tokens yet.
+  /// Puts the stored cases and tokens into the workflow, which has no tokens yet.
   virtual TakenUp TakeUp() = 0;
-  /// May store the state: when it does is the store's affair. Steps are firings and cases started since the run began.
+  /// May store the state; the store decides when it does. Steps are firings and cases started since the run began.
   virtual void Pass(std::int64_t plngSteps) = 0;
   /// Stores the state.
   virtual void Finish() = 0;

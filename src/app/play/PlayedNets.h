@@ -11,11 +11,10 @@ namespace vantrel {
 /// A workflow that takes part in a run.
 struct PlayedNet {
   std::shared_ptr<vantrel::Workflow> Workflow;
-  std::string Prefix;  ///< what tells its keys from those of the others: "Transition4/" inside that transition, empty outside
+  std::string Prefix;  ///< in front of its keys: "Transition4/" for the workflow embedded in that transition, else empty
 };
 
-/// The workflow and those embedded in its transitions: each before those that it embeds, otherwise in the order of the
-/// transitions.
+/// The workflow and those embedded in its transitions, in the order of the transitions; each stands before those that it embeds.
 std::vector<PlayedNet> PlayedNetsOf(const std::shared_ptr<Workflow>& pobjWorkflow);
 
 }  // namespace vantrel

@@ -8,7 +8,7 @@ namespace vantrel {
 
 namespace {
 
-/// Leaves a run, even from inside a firing. Not an Error: nothing in the token game is to deal with it.
+/// Leaves a run, even from inside a firing. Not an Error, so that the token game does not catch it.
 struct RunEnded {};
 
 AccountEntry EntryOf(const PlayedNet& pobjNet, const Node& pobjNode) { return {pobjNet.Prefix + pobjNode.Key, pobjNode.Name()}; }
@@ -76,7 +76,7 @@ void Player::Run() {
     mAccount.Stopped = StopReason::Error;
     mAccount.Error = error.Description;
   }
-  // A firing that failed may have moved half of its tokens: what was stored before it stands.
+  // A firing that failed may have moved half of its tokens, so the state stored before it is kept.
   if (mStore && mAccount.Stopped != StopReason::Error) mStore->Finish();
 }
 
@@ -139,7 +139,7 @@ void Player::Add(const std::shared_ptr<Place>& pobjPlace, const std::shared_ptr<
 
 // A firing that ends early leaves its transition on the stack: no more than once round while nothing else happens.
 void Player::FireUntilQuiet() {
-  std::int64_t calls = 0;  // more than firings where a transition finds its tokens gone
+  std::int64_t calls = 0;  // more than the firings when a transition finds its tokens gone
   while (const auto transition = NextReady()) {
     Pass();
     if (std::max(calls++, mAccount.Firings) >= mOptions.MaxFirings) throw RunEnded();
@@ -170,7 +170,7 @@ std::shared_ptr<Transition> Player::NextReady() {
   return ready.empty() ? nullptr : ready[mRandom.Below(ready.size())]->Share();
 }
 
-// From all stacks.
+// Draws from all stacks; at least one is not empty.
 std::shared_ptr<Transition> Player::DrawReady() {
   std::int64_t entries = 0;
   for (const PlayedNet& net : mPlayed) entries += net.Workflow->FiringStack.Count();

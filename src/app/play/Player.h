@@ -26,21 +26,21 @@ struct PlayCounts {
   std::int64_t Firings = 0, TokensCreated = 0, CasesFinished = 0;
 };
 
-/// Plays a net without a user: puts tokens into it, then fires what is enabled until nothing is. One object a run: while it
-/// lives it is the process's designer and answers its message boxes. The net's workflows are its to change.
+/// Plays a net without a user: puts tokens into it, then fires enabled transitions until there are none. Make one for each run: while it
+/// lives it is the process's designer and answers message boxes. It changes the net's workflows.
 class Player {
  public:
-  /// Hears of every case and every firing before it starts; answering false ends the run there. With a store it ends between
-  /// two firings, so that nothing is stored by halves.
+  /// Is called before every case and every firing; false ends the run there. With a store the run ends between two firings, so that no
+  /// half of one is stored.
   using Watch = std::function<bool(const PlayCounts&)>;
 
-  /// Unless played from its marking, the net must have a start place. What the store throws, if it is no Error, leaves Play.
+  /// The net must have a start place, unless it is played from its marking. Play throws what the store throws, except an Error.
   explicit Player(ImportedNet pobjNet, const PlayOptions& pobjOptions = {}, Watch pWatch = {}, PlayStore* pobjStore = nullptr);
 
   Account Play();
 
  private:
-  static constexpr std::int64_t kMostTokens = 10'000'000;  // to begin with: about three gigabytes
+  static constexpr std::int64_t kMostTokens = 10'000'000;  // at the beginning: about three gigabytes
 
   void Prepare();
   std::vector<Subscription> Listen();

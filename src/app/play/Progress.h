@@ -7,15 +7,15 @@
 
 namespace vantrel {
 
-/// A line on a terminal that says how far a run is.
+/// Shows on a terminal how far a run is.
 class Progress {
  public:
   using Clock = ProgressLine::Clock;
 
-  /// Times are arguments for the sake of tests.
+  /// Times are parameters so that tests can give them.
   explicit Progress(std::ostream& pobjTerminal, Clock::time_point pStart = Clock::now()) : mLine(pobjTerminal, pStart) {}
 
-  /// Cheap enough for every firing.
+  /// Cheap enough to be called for every firing.
   void Show(const PlayCounts& pobjCounts, Clock::time_point pNow = Clock::now());
 
  private:

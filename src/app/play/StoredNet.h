@@ -1,4 +1,4 @@
-// A net to play, out of a database.
+// Reads a net to play from a database.
 #pragma once
 
 #include <cstdint>

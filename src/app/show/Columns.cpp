@@ -10,7 +10,7 @@ namespace vantrel {
 
 namespace {
 
-// Characters, not bytes: good enough where no character is wider than another.
+// Counts characters, not bytes. Right for a terminal that shows them all equally wide.
 std::size_t WidthOf(const std::string& pstrText) {
   const auto begins = [](char pstrByte) { return (static_cast<unsigned char>(pstrByte) & 0xC0) != 0x80; };
   return static_cast<std::size_t>(std::count_if(pstrText.begin(), pstrText.end(), begins));

@@ -7,7 +7,7 @@
 
 namespace vantrel {
 
-/// Rows of cells, each column as wide as its longest cell. Cells are UTF-8 and go onto one line.
+/// Rows of cells, each column as wide as its longest cell. Cells are UTF-8; control characters become blanks.
 class Columns {
  public:
   explicit Columns(std::vector<std::string> pcolHeading) : mcolRows{std::move(pcolHeading)} {}

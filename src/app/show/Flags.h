@@ -1,4 +1,4 @@
-// Words for what a workflow's settings say.
+// Words for a workflow's settings.
 #pragma once
 
 #include <string>
@@ -15,10 +15,10 @@ struct Flag {
 
 std::vector<Flag> FlagsOf(const Workflow& pobjWorkflow);
 
-/// The text of an id that the database gives; empty where it gave none.
+/// The text of an id given by the database; empty if it gave none.
 std::string TextOf(const Variant& pvarGUID);
 
-/// A lower-case word; the number for a value without a name.
+/// A lower-case word, or the number for a value without a name.
 std::string NameOfTrigger(TriggerTypes pType);
 std::string NameOfOutput(OutputTypes pType);
 

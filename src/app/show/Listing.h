@@ -9,7 +9,7 @@
 
 namespace vantrel {
 
-/// A line a workflow under a heading, in aligned columns.
+/// Writes a heading and a line for each workflow, in aligned columns.
 void WriteListing(std::ostream& pobjOut, const std::vector<WorkflowListing>& pcolWorkflows);
 /// One JSON object on one line; docs/command-line.md describes it.
 std::string ListingJson(const std::vector<WorkflowListing>& pcolWorkflows);

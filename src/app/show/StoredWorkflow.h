@@ -15,7 +15,7 @@ struct StoredWorkflow {
   StoredRun Run;
 };
 
-/// For a person to read.
+/// Writes it for a person.
 void WriteStoredWorkflow(std::ostream& pobjOut, const StoredWorkflow& pobjStored);
 /// One JSON object on one line; docs/command-line.md describes it.
 std::string StoredWorkflowJson(const StoredWorkflow& pobjStored);

@@ -12,11 +12,11 @@ struct PostgresOptions {
   int LockTimeout = 10'000;  ///< milliseconds that a statement, or a writing transaction that begins, waits for others
 };
 
-/// Addresses are `postgresql://user@host:port/database` or `postgres://...`, with what else libpq takes in such a text behind
-/// a question mark; what is missing comes from libpq's environment variables and password file. A connection waits 10 seconds
-/// for its server unless the address says `connect_timeout`. No description of an Error shows a password.
+/// Addresses are `postgresql://user@host:port/database` or `postgres://...`, with libpq's other options after a question mark.
+/// libpq's environment variables and password file supply what is missing. A connection waits 10 seconds for its server unless the
+/// address has `connect_timeout`. No description of an Error shows a password.
 ///
-/// Writing transactions wait for one another, whatever they write; the row locks of other programs are waited for too.
+/// Writing transactions wait for one another, whatever they write, and for the row locks of other programs.
 /// Throws Error vntErrDatabase, with the address, when the database cannot be reached.
 std::shared_ptr<Connection> OpenPostgres(const std::string& pstrAddress, PostgresOptions pOptions = {});
 
@@ -24,7 +24,7 @@ std::shared_ptr<Connection> OpenPostgres(const std::string& pstrAddress, Postgre
 /// of the system's tables already. The user of the address needs the right to create tables.
 void CreatePostgres(const std::string& pstrAddress, const std::string& pstrSchema);
 
-/// Runs the script in one transaction, which other writers wait for. Throws an Error for a refused statement, and nothing was changed.
+/// Runs the script in one transaction, for which other writers wait. Throws an Error for a refused statement and then changes nothing.
 void UpgradePostgres(const std::string& pstrAddress, const std::string& pstrScript);
 
 }  // namespace vantrel

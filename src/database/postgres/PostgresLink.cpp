@@ -12,7 +12,7 @@ namespace vantrel {
 
 namespace {
 
-// What libpq says has several lines, tabulators and a line break at its end.
+// Messages of libpq have several lines, tabs, and a line break at their end.
 std::string OneLine(std::string_view pstrText) {
   std::string line;
   for (const char c : pstrText) {
@@ -40,7 +40,7 @@ std::string FieldOf(const PostgresResult& pobjResult, int pintField) {
 }
 
 PGconn* Connect(const std::string& pstrAddress) {
-  // What stands before dbname gives way to the address, what stands behind it does not.
+  // The address overrides the parameters before dbname, but not those after it.
   const char* const names[] = {"connect_timeout",  "keepalives_idle",           "keepalives_interval",
                                "keepalives_count", "tcp_user_timeout",          "dbname",
                                "client_encoding",  "fallback_application_name", nullptr};
@@ -120,7 +120,7 @@ PostgresFlight PostgresLink::Fly() {
   return flight;
 }
 
-// Each command gives a result and a null; a null without a result before it comes from a connection that has ended.
+// Each command gives a result and a null. A null without a result before it comes from a lost connection.
 void PostgresLink::Receive(PostgresFlight& pobjFlight) {
   for (bool wasNull = false;;) {
     PostgresResult result(PQgetResult(mConnection.get()));

@@ -1,4 +1,4 @@
-// The wire to a server: commands are queued and go out together.
+// The connection to a server: commands are queued and sent together.
 #pragma once
 
 #include <memory>
@@ -16,35 +16,35 @@ struct PostgresResultCloser {
 };
 using PostgresResult = std::unique_ptr<pg_result, PostgresResultCloser>;
 
-/// The code of the server's for a refusal, for example 55P03; empty where it gave none.
+/// The server's code of a refusal, such as 55P03; empty if it gave none.
 std::string RefusalCode(const PostgresResult& pobjRefusal);
 /// What the server said, in one line.
 std::string RefusalText(const PostgresResult& pobjRefusal);
 
-/// What became of a flight. The server passes over everything behind a command that it refuses.
+/// The results of a flight. The server skips everything after a command that it refuses.
 struct PostgresFlight {
   std::size_t Done = 0;    ///< commands that succeeded, counted from the first
   PostgresResult Last;     ///< of the last command; null when one was refused
   PostgresResult Refusal;  ///< of the command that was refused, or null
 };
 
-/// An open connection of libpq in its pipeline mode, for one thread. Every command queued is part of the next flight, which
-/// costs one round trip however many there are; outside a transaction, a flight is one. Operations throw Error 3704 with the
-/// shown address when the server or the way to it is gone; nothing works from then on.
+/// An open connection of libpq in its pipeline mode, for one thread. Queued commands are sent in the next flight, which takes one
+/// round trip; outside a transaction, a flight is a transaction. Operations throw Error 3704 with the shown address when the server
+/// or the way to it is gone; nothing works from then on.
 class PostgresLink {
  public:
-  /// Connects. Throws Error vntErrDatabase, with the shown address, when that does not succeed.
+  /// Connects. Throws Error vntErrDatabase, with the shown address, when that fails.
   PostgresLink(const std::string& pstrAddress, int pintLockTimeout);
 
   void Prepare(const std::string& pstrName, const std::string& pstrText);
   void QueuePrepared(const std::string& pstrName, const PostgresParameters& pobjParameters);
   void Queue(const std::string& pstrText, const PostgresParameters& pobjParameters);
   void Queue(const std::string& pstrText);
-  /// How many commands the next flight has so far.
+  /// The number of commands in the next flight so far.
   std::size_t QueuedCount() const { return mQueued; }
   PostgresFlight Fly();
 
-  /// Several statements in one text; all or none of them outside a transaction. Nothing may be queued. A refusal or null.
+  /// Runs several statements in one text; outside a transaction all or none of them. Nothing may be queued. Returns a refusal or null.
   PostgresResult RunScript(const std::string& pstrScript);
 
   bool IsLost() const { return mIsLost; }

@@ -13,10 +13,10 @@ namespace vantrel {
 
 namespace {
 
-// Prepared by name once a session: both run before every statement that follows a change.
+// Prepared by name once in a session: both run before every statement that follows a change.
 const std::string kSetSavepoint = "savepoint_set", kReleaseSavepoint = "savepoint_release";
 
-// What all writers of the system lock until their transaction ends; any number that no other program takes will do.
+// All writers of the system lock this number until their transaction ends. Any number will do that no other program locks.
 const std::string kLockOutWriters = "SELECT pg_advisory_xact_lock(7308327773265655148)";
 
 constexpr std::string_view kLockNotAvailable = "55P03";
@@ -60,7 +60,7 @@ void PostgresSession::QueueSavepoint() {
   mLink->QueuePrepared(kSetSavepoint, NoParameters());
 }
 
-// The savepoint comes first: whatever is refused behind it, preparing included, leaves the change before it.
+// The savepoint comes first, so that a refusal after it, even of preparing, keeps the change before it.
 PostgresFlight PostgresSession::Try(const EngineStatement& pobjStatement) {
   PostgresLink& link = Link();
   const PostgresParameters parameters(pobjStatement.Parameters);
@@ -137,7 +137,7 @@ void PostgresSession::RunScript(const std::string& pstrScript) {
 void PostgresSession::Begin(Transaction pTransaction) {
   PostgresLink& link = Link();
   if (pTransaction == Transaction::Write) {
-    // Not before it has the lock does a statement look at the rows: it sees what the writer before it has done.
+    // A statement reads rows only once it has the lock, and so sees what the writer before it has done.
     link.Queue("BEGIN ISOLATION LEVEL READ COMMITTED READ WRITE");
     link.Queue(kLockOutWriters);
   } else {

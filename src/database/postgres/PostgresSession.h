@@ -11,15 +11,15 @@
 
 namespace vantrel {
 
-/// A session over one link. Inside a transaction, every statement stands behind a savepoint, to which the session goes back
-/// when the server refuses it: the server would refuse everything that follows.
+/// A session over one link. Inside a transaction it sets a savepoint before every statement and rolls back to it when the server
+/// refuses the statement. Otherwise the server would refuse everything that follows.
 class PostgresSession final : public Session {
  public:
   /// In milliseconds, see PostgresOptions.
   explicit PostgresSession(int pintLockTimeout) : mLockTimeout(pintLockTimeout) {}
 
   const vantrel::Dialect& Dialect() const override { return mDialect; }
-  /// Without an address, at the one that it had before.
+  /// An empty address means the previous one.
   void Open(const std::string& pstrAddress) override;
   void Close() noexcept override;
   bool IsOpen() const override { return mLink && !mLink->IsLost(); }

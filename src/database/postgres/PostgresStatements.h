@@ -11,16 +11,16 @@
 
 namespace vantrel {
 
-/// Finds prepared statements by their text. There are so many places; the one that was filled longest ago is filled anew.
+/// Finds prepared statements by their text. When all places are taken, a new statement replaces the oldest.
 class PostgresStatements {
  public:
   static constexpr std::size_t kPlaces = 200;
 
-  /// Queues the statement, and before it what is needed to prepare it when it is new.
+  /// Queues the statement, and before that its preparation if it is new.
   void Queue(PostgresLink& pobjLink, const std::string& pstrText, const PostgresParameters& pobjParameters);
-  /// To be called after each flight, with the number of its commands that succeeded.
+  /// Call it after each flight, with the number of its commands that succeeded.
   void Landed(std::size_t plngDone);
-  /// True when the text was prepared before; it is prepared again when it comes next.
+  /// Has the text prepared again when it comes next. True when it was prepared before.
   bool Forget(const std::string& pstrText);
 
  private:

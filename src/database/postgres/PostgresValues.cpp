@@ -33,7 +33,7 @@ Variant ReadText(std::string_view pstrText) { return pstrText; }
 
 Variant ReadBoolean(std::string_view pstrText) { return pstrText == "t"; }
 
-// A number that its type here cannot hold stays the text that the server gave.
+// A number too large for the type here stays the text that the server gave.
 template <class Number>
 Variant ReadNumber(std::string_view pstrText) {
   Number number{};
@@ -42,13 +42,13 @@ Variant ReadNumber(std::string_view pstrText) {
   return number;
 }
 
-// Counts and sums are wider than what they count.
+// Counts and sums have a wider type than the column.
 Variant ReadWide(std::string_view pstrText) {
   const Variant narrow = ReadNumber<std::int32_t>(pstrText);
   return narrow.IsText() ? ReadNumber<double>(pstrText) : narrow;
 }
 
-/// Takes numbers with one sign behind each off the front of a text.
+/// Takes numbers, each followed by one sign, off the front of a text.
 class Numbers {
  public:
   explicit Numbers(std::string_view pstrText) : mRest(pstrText) {}
@@ -61,7 +61,7 @@ class Numbers {
     if (mRest.starts_with(pSign)) mRest.remove_prefix(1);
     return number;
   }
-  // Thousandths, whatever number of digits there is.
+  // Thousandths, for any number of digits.
   int Fraction() {
     int thousandths = 0;
     for (int weight = 100; !mRest.empty() && mRest.front() >= '0' && mRest.front() <= '9'; weight /= 10) {
@@ -78,12 +78,12 @@ class Numbers {
   bool mGood = true;
 };
 
-// "2026-11-23 14:05:09.25", with "+00" behind it where the column has a zone: the session's zone is universal time.
+// "2026-11-23 14:05:09.25", followed by "+00" if the column has a zone: the session's zone is universal time.
 Variant ReadDate(std::string_view pstrText) {
   using namespace std::chrono;
   Numbers numbers(pstrText);
   const int y = numbers.Next('-'), m = numbers.Next('-'), d = numbers.Next(' ');
-  if (!numbers.IsGood() || y < 1 || y > 9999) return pstrText;  // "infinity" and other ages
+  if (!numbers.IsGood() || y < 1 || y > 9999) return pstrText;  // "infinity", or a year out of range
   milliseconds time{0};
   if (!numbers.Rest().empty() && numbers.Rest() != "BC") {
     time += hours(numbers.Next(':'));

@@ -1,4 +1,4 @@
-// Values on their way to a server and back, as text.
+// Values as the text that a server reads and writes.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ struct pg_result;
 
 namespace vantrel {
 
-/// Parameters in the form that libpq wants. The server finds out by itself which types they have.
+/// Parameters in the form that libpq wants. The server infers their types.
 class PostgresParameters {
  public:
   /// The longest list that the protocol can carry.

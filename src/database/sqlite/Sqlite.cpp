@@ -29,7 +29,7 @@ void MakeTables(SqliteSession& pobjSession, const std::string& pstrPath, const s
   pobjSession.Commit();
 }
 
-/// A file beside the one that is to be made, gone with this object.
+/// A temporary file beside the one to be made. Removed with this object.
 class FileBeside {
  public:
   explicit FileBeside(const std::string& pstrPath) : mstrPath(pstrPath + "." + std::to_string(std::random_device()()) + ".new") {}
@@ -45,7 +45,7 @@ class FileBeside {
   std::string mstrPath;
 };
 
-// Gives the file its name, which only the first of several who try at the same moment gets.
+// Gives the file its name. Of several processes that try at the same moment, only the first succeeds.
 void Rename(const std::string& pstrFrom, const std::string& pstrTo) {
   std::error_code problem;
   fs::create_hard_link(pstrFrom, pstrTo, problem);
@@ -59,7 +59,7 @@ std::string WithName(std::string pstrText, const std::string& pstrName, const st
   return at == std::string::npos ? pstrText : pstrText.replace(at, pstrName.size(), pstrOther);
 }
 
-// Nobody sees the file before it is whole, so that nobody can lose in it what he stored.
+// The file gets its name only when it is complete, so that no other process can store something in it too early.
 void MakeFile(const std::string& pstrPath, const std::string& pstrSchema) {
   const FileBeside file(pstrPath);
   {

@@ -9,15 +9,15 @@
 namespace vantrel {
 
 struct SqliteOptions {
-  int BusyTimeout = 10'000;  ///< milliseconds that a statement waits for others who keep the file
+  int BusyTimeout = 10'000;  ///< milliseconds that a statement waits while others lock the file
 };
 
 /// Opens an existing database file; one that may not be written can still be read. Throws Error vntErrDatabase, which names the
-/// file, for one that is missing, damaged or no database.
+/// file, for one that is missing, damaged or not a database.
 std::shared_ptr<Connection> OpenSqlite(const std::string& pstrPath, SqliteOptions pOptions = {});
 
-/// Makes the tables of the schema, and the file where there is none yet: all or nothing, and no file stays behind when it fails.
-/// Throws Error vntErrDatabase also when the database has the tables already.
+/// Makes the tables of the schema, and the file if there is none: all or nothing. A failure leaves no file.
+/// Also throws Error vntErrDatabase when the database has the tables already.
 void CreateSqlite(const std::string& pstrPath, const std::string& pstrSchema);
 
 /// Runs the script over the tables of an existing file, with the schema in the place of its line "-- (schema)": all or nothing.

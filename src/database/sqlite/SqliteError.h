@@ -9,8 +9,7 @@
 
 namespace vantrel {
 
-/// vntErrStatement with SQLite's own words where it refused a statement; vntErrDatabase where the file is what is wrong. The
-/// session may be null.
+/// vntErrStatement with SQLite's own words for a refused statement; vntErrDatabase for a fault of the file. The session may be null.
 Error SqliteError(sqlite3* pobjDatabase, int plngResult, const std::string& pstrPath);
 
 }  // namespace vantrel

@@ -15,7 +15,7 @@ namespace {
 constexpr const char* kReadSomething = "SELECT COUNT(*) FROM sqlite_schema";
 constexpr int kFlags = SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE;
 
-// SQLite gives names such as ":memory:" and "file:..." a meaning of their own, but no absolute path.
+// SQLite treats names such as ":memory:" and "file:..." specially, but never an absolute path.
 std::string NameOf(const std::string& pstrPath) { return std::filesystem::absolute(pstrPath).string(); }
 
 bool CanWrite(const std::string& pstrPath) {
@@ -45,7 +45,7 @@ void SqliteSession::Open(const std::string& pstrAddress) {
   Close();
   mstrPath = pstrAddress;
   std::error_code ignored;
-  // SQLite takes an empty file for a database without tables, and an empty name for one of its own.
+  // SQLite would open an empty file as a database without tables, and an empty name as a temporary database.
   if (std::filesystem::is_regular_file(mstrPath, ignored) && std::filesystem::file_size(mstrPath, ignored) == 0) {
     throw SqliteError(nullptr, SQLITE_NOTADB, mstrPath);
   }
@@ -85,7 +85,7 @@ void SqliteSession::Configure() {
   sqlite3_db_config(mobjDatabase, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
 }
 
-// Reads something, which shows whether the file is a database at all.
+// Reads something: that shows whether the file is a database.
 void SqliteSession::OpenToRead() {
   if (!HasLog() && !CanWrite(mstrPath)) return OpenAsItLies();
   try {
@@ -104,15 +104,15 @@ bool SqliteSession::HasLog() const {
   return !none && size > 0;
 }
 
-// Without a log the file is complete. The log's index and an empty log, which SQLite would make to read it, would belong to whoever
-// reads, and lock out the owner of the file.
+// Without a log the file is complete. To read it, SQLite would make an empty log and its index. They would belong to the reader and
+// lock out the owner of the file.
 void SqliteSession::OpenAsItLies() {
   Close();
   OpenFile(UriOf(mstrPath) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
   RunText(kReadSomething);
 }
 
-// A file that somebody made without the log works too, only slower: it is not worth waiting for.
+// A file without a write-ahead log works as well, only slower, so do not wait to give it one.
 void SqliteSession::UseWriteAheadLog() {
   if (sqlite3_db_readonly(mobjDatabase, "main") == 1) return;
   sqlite3_busy_timeout(mobjDatabase, 0);
@@ -185,7 +185,7 @@ void SqliteSession::RunText(const char* pstrText) { Check(sqlite3_exec(mobjDatab
 void SqliteSession::Begin(Transaction pTransaction) {
   if (!IsOpen()) throw Error(vntErrObjectClosed);
   if (pTransaction == Transaction::Write) {
-    // SQLite itself would begin, and refuse every change.
+    // SQLite itself would begin the transaction and refuse every change in it.
     if (sqlite3_db_readonly(mobjDatabase, "main") == 1) throw SqliteError(nullptr, SQLITE_READONLY, mstrPath);
     return RunText("BEGIN IMMEDIATE");
   }

@@ -22,7 +22,7 @@ class SqliteSession final : public Session {
 
   const vantrel::Dialect& Dialect() const override { return mDialect; }
   void Open(const std::string& pstrAddress) override;
-  /// Like Open; makes the file where there is none.
+  /// Like Open, but makes the file if there is none.
   void OpenOrMake(const std::string& pstrAddress);
   void Close() noexcept override;
   bool IsOpen() const override { return mobjDatabase != nullptr; }
@@ -46,7 +46,7 @@ class SqliteSession final : public Session {
   void OpenAsItLies();
   void Configure();
   void UseWriteAheadLog();
-  /// Values are taken out of the text by the dialect, so this is for statements of this class alone.
+  /// For statements of this class alone; those of callers have their values taken out by the dialect.
   void RunText(const char* pstrText);
   void RunPrepared(const EngineStatement& pobjStatement, EngineRows* pobjRows);
   void RunIn(SqliteStatement& pobjStatement, const EngineStatement& pobjValues, EngineRows* pobjRows);

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double kLargestExactWhole = 9007199254740992.0;  // 2 to the 53rd
 
-// Whole numbers are bound as such, whatever the variant's kind: the columns of reals make reals of them again.
+// Binds whole numbers as integers, whatever the variant's kind. Columns of reals convert them.
 bool IsWhole(double pdblValue) {
   return std::abs(pdblValue) <= kLargestExactWhole && std::trunc(pdblValue) == pdblValue && !(pdblValue == 0 && std::signbit(pdblValue));
 }

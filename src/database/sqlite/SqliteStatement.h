@@ -12,14 +12,14 @@
 
 namespace vantrel {
 
-/// Must not outlive its database. Failures are SQLite's result codes, for the session to explain.
+/// Must not outlive its database. Returns SQLite's result codes, which the session explains.
 class SqliteStatement {
  public:
   /// pblnKept: it will be run many times.
   SqliteStatement(sqlite3* pobjDatabase, const std::string& pstrText, bool pblnKept, int& plngResult);
 
-  /// Empty and null variants are bound as NULL. Runs to the end; what it was given and where it stood is forgotten before this
-  /// returns. The rows go to the result, where there is one.
+  /// Runs to the end and then forgets its parameters. Empty and null variants are bound as NULL. The rows go to the result, if one is
+  /// given.
   int Run(const std::vector<Variant>& pcolParameters, EngineRows* pobjRows);
   bool IsReadOnly() const { return sqlite3_stmt_readonly(mobjStatement.get()) != 0; }
 

@@ -1,8 +1,7 @@
 #include "designer/gestures/ArcCompletion.h"
 
-#include "designer/Vantrel.h"
+#include "designer/HostEvents.h"
 #include "designer/gestures/ElementUnder.h"
-#include "util/MsgBox.h"
 
 namespace vantrel {
 
@@ -11,7 +10,7 @@ namespace {
 std::shared_ptr<Arc> Join(const Ref<Vantrel>& pobjControl, const std::shared_ptr<Node>& pobjTarget) {
   const auto start = pobjControl->Workflow()->StartPlace;
   if (start && pobjTarget.get() == start.get()) {
-    MsgBox("Arcs are allowed to be drawn into a Start Place.");
+    SayLater(*pobjControl, "Arcs are allowed to be drawn into a Start Place.");
     return nullptr;
   }
   const auto current = pobjControl->CurrentControl();
@@ -26,11 +25,17 @@ void EndDrawing(const Ref<Vantrel>& pobjControl) {
   if (pobjControl) pobjControl->Selection(nullptr);
 }
 
+// The user goes on from there.
+void Choose(const Ref<Vantrel>& pobjControl, const Ref<Element>& pobjElement) {
+  if (pobjControl && pobjControl->Comfort.ArcTargetIsChosen && IsOnChart(pobjElement)) pobjControl->CurrentControl(pobjElement);
+}
+
 }  // namespace
 
 void CompleteArc(Vantrel& pobjControl, Image& pobjTarget) {
   const Ref<Vantrel> control(&pobjControl);
   const auto target = std::dynamic_pointer_cast<Node>(ObjectOf(pobjControl, pobjTarget));
+  const Ref<Element> source = pobjControl.CurrentControl();
   std::shared_ptr<Arc> arc;
   try {
     if (target) arc = Join(control, target);
@@ -43,7 +48,8 @@ void CompleteArc(Vantrel& pobjControl, Image& pobjTarget) {
     throw;
   }
   EndDrawing(control);
-  if (arc && control) control->OnArcInserted.Raise(arc);
+  Choose(control, arc ? Ref<Element>(target->Image.get()) : source);
+  if (arc && control) RaiseLater(*control, &Vantrel::OnArcInserted, arc);
 }
 
 }  // namespace vantrel

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "designer/Selecting.h"
 #include "designer/Vantrel.h"
 #include "designer/gestures/Hover.h"
 
@@ -23,7 +24,9 @@ void BandGesture::Release(const PointerInput&) {
   if (!mobjControl || !mobjControl->MultiSelect.Visible()) return;
   if (mobjControl->Workflow()) mobjControl->Selection(mobjControl->GetSelections());
   Cancel();
-  if (mobjControl) mobjControl->MultiSelectOn = !mobjControl->Selection()->IsEmpty();
+  if (!mobjControl) return;
+  mobjControl->MultiSelectOn = !mobjControl->Selection()->IsEmpty();
+  Selecting(*mobjControl).MakeSingleCurrent();
 }
 
 void BandGesture::Cancel() {

@@ -1,5 +1,6 @@
 #include "designer/gestures/ConnectorGesture.h"
 
+#include "designer/CommandRules.h"
 #include "designer/Vantrel.h"
 #include "designer/gestures/ElementUnder.h"
 #include "designer/gestures/Hover.h"
@@ -37,7 +38,7 @@ bool ConnectorGesture::IsAlive() const { return mobjControl && mobjNode && IsOnC
 
 void ConnectorGesture::Move(const PointerInput& pobjInput) {
   if (!IsAlive()) return;
-  mobjControl->Dirty(true);
+  if (MayChange(*mobjControl)) mobjControl->Dirty(true);
   if (!IsAlive() || mobjControl->UseMode() != vntDesign || mobjControl->LockControls()) return;
   mblnMoved = true;
   mobjConnector->MoveTo(pobjInput.X - msngX, pobjInput.Y - msngY);

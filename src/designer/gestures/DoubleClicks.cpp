@@ -1,7 +1,9 @@
 #include "designer/gestures/DoubleClicks.h"
 
 #include "designer/Dialogs.h"
+#include "designer/HostEvents.h"
 #include "designer/Vantrel.h"
+#include "designer/gestures/Choosing.h"
 #include "designer/gestures/ElementUnder.h"
 #include "designer/gestures/Hover.h"
 
@@ -11,20 +13,24 @@ namespace {
 
 bool OpenObject(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjObject) {
   if (const auto transition = std::dynamic_pointer_cast<Transition>(pobjObject)) {
-    pobjControl.OnTransitionDblClick.Raise(transition);
+    RaiseLater(pobjControl, &Vantrel::OnTransitionDblClick, transition);
     return true;
   }
   const auto place = std::dynamic_pointer_cast<Place>(pobjObject);
   if (!place || !IsTesting(pobjControl)) return false;
   const auto dialogs = pobjControl.Dialogs;
+  const HostTurn turn;
   dialogs->ShowTokens(pobjControl, *place);
   return true;
 }
 
-void EditLabel(Vantrel& pobjControl, Element& pobjLabel) {
-  if (pobjControl.LockControls()) return;
-  FocusFrame& frame = pobjControl.FocusFrame;
-  if (!(frame.SelectedControl() == &pobjLabel)) frame.SelectedControl(&pobjLabel);
+void EditLabel(Vantrel& pobjControl, const Ref<Element>& pobjLabel) {
+  const Ref<Vantrel> control(&pobjControl);
+  if (control->LockControls()) return;
+  if (control->Comfort.ChosenIsSeen && !(control->CurrentControl() == pobjLabel)) ChooseAlone(*control, pobjLabel);
+  if (!control || !IsOnChart(pobjLabel)) return;
+  FocusFrame& frame = control->FocusFrame;
+  if (!(frame.SelectedControl() == pobjLabel)) frame.SelectedControl(pobjLabel);
   frame.Visible(true);
   frame.Edit();
 }
@@ -38,7 +44,7 @@ bool DoubleClickAt(Vantrel& pobjControl, const PointerInput& pobjInput) {
   if (element->Family() != ctlLabelFamily || pobjControl.UseMode() != vntDesign) {
     return OpenObject(pobjControl, ObjectOf(pobjControl, *element));
   }
-  EditLabel(pobjControl, *element);
+  EditLabel(pobjControl, element);
   return true;
 }
 

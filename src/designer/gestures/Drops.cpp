@@ -1,7 +1,7 @@
 #include "designer/gestures/Drops.h"
 
 #include "designer/Dialogs.h"
-#include "designer/Vantrel.h"
+#include "designer/HostEvents.h"
 #include "designer/gestures/ElementUnder.h"
 
 namespace vantrel {
@@ -14,7 +14,7 @@ bool DropOnImage(const Ref<Vantrel>& pobjControl, const Element& pobjImage) {
   const auto source = pobjControl->DragObject;
   const auto dialogs = pobjControl->Dialogs;
   dialogs->LoadRolesImage(*pobjControl, *transition);
-  if (pobjControl) pobjControl->OnObjectDropped.Raise(transition, source);
+  if (pobjControl) RaiseLater(*pobjControl, &Vantrel::OnObjectDropped, transition, source);
   return true;
 }
 
@@ -26,7 +26,7 @@ bool DropAt(Vantrel& pobjControl, const PointerInput& pobjInput) {
   if (!source) return false;
   const Element* element = ElementUnder(*control, pobjInput.X, pobjInput.Y);
   if (element && element->Family() == ctlImageFamily) return DropOnImage(control, *element);
-  control->OnObjectDragDrop.Raise(source, pobjInput.Button, pobjInput.Shift, pobjInput.X, pobjInput.Y);
+  RaiseLater(*control, &Vantrel::OnObjectDragDrop, source, pobjInput.Button, pobjInput.Shift, pobjInput.X, pobjInput.Y);
   if (control) control->Selection(nullptr);
   return true;
 }

@@ -36,4 +36,13 @@ std::shared_ptr<ModelObject> ObjectOf(const Vantrel& pobjControl, const Element&
   }
 }
 
+Ref<Element> ElementOf(const ModelObject& pobjObject) {
+  if (const auto* node = dynamic_cast<const Node*>(&pobjObject)) return node->Image.get();
+  if (const auto* note = dynamic_cast<const Notation*>(&pobjObject)) return note->TextControl.get();
+  if (const auto* segment = dynamic_cast<const Vector*>(&pobjObject)) return segment->LineControl.get();
+  const auto* arc = dynamic_cast<const Arc*>(&pobjObject);
+  const auto segments = arc ? arc->Segments() : std::vector<Vector*>();
+  return segments.empty() ? nullptr : segments.front()->LineControl.get();
+}
+
 }  // namespace vantrel

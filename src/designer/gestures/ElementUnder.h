@@ -5,6 +5,7 @@
 
 #include "chart/Element.h"
 #include "model/ModelObject.h"
+#include "util/Ref.h"
 
 namespace vantrel {
 
@@ -16,6 +17,10 @@ Element* ElementUnder(const Vantrel& pobjControl, float psngX, float psngY);
 
 /// The model object that an element shows, or null when the workflow has no such object.
 std::shared_ptr<ModelObject> ObjectOf(const Vantrel& pobjControl, const Element& pobjElement);
+
+/// The element that stands for an object: a picture, a note's text, the first line of an arc, a segment's line. None for an object
+/// without any.
+Ref<Element> ElementOf(const ModelObject& pobjObject);
 
 /// False for none, and for one that was taken off its chart.
 template <class E>

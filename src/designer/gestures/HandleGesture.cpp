@@ -1,5 +1,6 @@
 #include "designer/gestures/HandleGesture.h"
 
+#include "designer/CommandRules.h"
 #include "designer/Vantrel.h"
 #include "designer/gestures/ElementUnder.h"
 #include "designer/gestures/Hover.h"
@@ -13,7 +14,7 @@ void HandleGesture::Move(const PointerInput& pobjInput) {
   if (!mobjControl) return;
   ShowChartPointer(*mobjControl);
   const auto workflow = mobjControl->Workflow();
-  if (!workflow || !IsOnChart(mobjHandle) || mobjControl->LockControls()) return;
+  if (!workflow || !IsOnChart(mobjHandle) || mobjControl->LockControls() || !MayChange(*mobjControl)) return;
   const auto elbow = workflow->Elbows.Find(mobjHandle->Tag());
   if (!elbow) return;
   elbow->Left(pobjInput.X - msngX);

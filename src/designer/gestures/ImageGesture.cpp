@@ -1,6 +1,8 @@
 #include "designer/gestures/ImageGesture.h"
 
+#include "designer/CommandRules.h"
 #include "designer/Vantrel.h"
+#include "designer/gestures/Choosing.h"
 #include "designer/gestures/ElementUnder.h"
 #include "designer/gestures/Hover.h"
 
@@ -38,6 +40,7 @@ void ImageGesture::Gather() {
     isSelected = isSelected || object == node;
   }
   if (!isSelected) mobjGroup.Add(node);
+  if (mobjControl->Comfort.ChosenIsSeen) mobjGroup.AddBendPoints();
 }
 
 void ImageGesture::Drag(const PointerInput& pobjInput) {
@@ -52,11 +55,17 @@ void ImageGesture::Drag(const PointerInput& pobjInput) {
 
 void ImageGesture::Move(const PointerInput& pobjInput) {
   if (!IsAlive()) return;
-  mobjControl->Dirty(true);
+  if (MayChange(*mobjControl)) mobjControl->Dirty(true);
   if (!IsAlive()) return;
   ShowPointerOver(*mobjControl, *mobjImage);
   if (mblnDragging || mobjControl->UseMode() != vntDesign) return;
   if (!mobjControl->LockControls() && !mobjControl->IsInsertingArc()) Drag(pobjInput);
+}
+
+void ImageGesture::ChooseClicked(const PointerInput& pobjInput) {
+  const bool isWanted = mobjControl->Comfort.DragMovesChosen && mobjControl->UseMode() == vntDesign && !(pobjInput.Shift & vntShift);
+  if (isWanted && mobjControl->Selection()->Count() > 1 && mobjControl->CurrentControl() == mobjImage.get())
+    ChooseAlone(*mobjControl, mobjImage.get());
 }
 
 void ImageGesture::Release(const PointerInput& pobjInput) {
@@ -64,6 +73,7 @@ void ImageGesture::Release(const PointerInput& pobjInput) {
     const auto workflow = mobjControl->Workflow();
     mobjGroup.MoveTo(*workflow, pobjInput.X - msngX, pobjInput.Y - msngY);
   }
+  if (!mblnGathered && IsAlive()) ChooseClicked(pobjInput);
   if (!mobjControl) return;
   mobjControl->FocusFrame.Visible(false);
   if (mblnGathered) mobjControl->ExtendScrollRange();  // a look at every element, too dear for a click

@@ -25,6 +25,8 @@ class ImageGesture final : public Gesture {
   bool IsAlive() const;
   void Gather();
   void Drag(const PointerInput& pobjInput);
+  // Comfort::DragMovesChosen: without a drag the object is chosen alone.
+  void ChooseClicked(const PointerInput& pobjInput);
 
   Ref<Vantrel> mobjControl;
   Ref<Image> mobjImage;

@@ -1,5 +1,7 @@
 #include "designer/gestures/Keys.h"
 
+#include "designer/CommandRules.h"
+#include "designer/Commands.h"
 #include "designer/Vantrel.h"
 #include "designer/gestures/ElementUnder.h"
 #include "designer/gestures/Moving.h"
@@ -35,10 +37,19 @@ void ClearSelection(const Ref<Vantrel>& pobjControl) {
   if (pobjControl) pobjControl->Selection(nullptr);
 }
 
+void Delete(Vantrel& pobjControl) {
+  if (pobjControl.Comfort.LockHolds) {
+    if (MayChange(pobjControl)) RunCommand(pobjControl, CommandIds::Delete);
+  } else if (pobjControl.Workflow()) {
+    pobjControl.Delete();
+  }
+}
+
 MovingGroup ToBeMoved(const Vantrel& pobjControl) {
   MovingGroup group;
   const auto& selection = pobjControl.Selection();
   for (const auto& object : *selection) group.Add(object);
+  if (pobjControl.Comfort.ChosenIsSeen) group.AddBendPoints();
   const auto& current = pobjControl.CurrentControl();
   if (!selection->IsEmpty() || !IsOnChart(current)) return group;
   if (const auto object = ObjectOf(pobjControl, *current)) group.Add(object);
@@ -62,14 +73,15 @@ bool PressKey(Vantrel& pobjControl, std::int16_t pintCode, std::int16_t pintShif
   const Ref<Vantrel> control(&pobjControl);
   const bool clears = pintCode == kEscapeKey || pintCode == kDeleteKey;
   if (clears && control->IsInsertingArc()) control->EndArcInsert();
-  if (pintCode == kDeleteKey && control->Workflow()) control->Delete();
+  if (pintCode == kDeleteKey) Delete(*control);
+  if (pintCode == kDeleteKey && control && !MayChange(*control)) return true;
   if (clears) {
     ClearSelection(control);
     return true;
   }
   const Offset offset = OffsetOf(pintCode, pintShift);
   if (offset.X == 0 && offset.Y == 0) return false;
-  Nudge(control, offset);
+  if (MayChange(*control)) Nudge(control, offset);
   return true;
 }
 

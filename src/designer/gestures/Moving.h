@@ -16,6 +16,8 @@ class MovingGroup {
  public:
   /// Passes over an object without a place of its own, such as an arc.
   void Add(const std::shared_ptr<ModelObject>& pobjObject);
+  /// Adds the bend points of the arcs whose two ends are in the group.
+  void AddBendPoints();
   /// So far from where each object was, twips. False when there is nothing to move.
   bool MoveTo(Workflow& pobjWorkflow, float psngX, float psngY) const;
 

@@ -1,5 +1,5 @@
 // A press on the background takes an arc, begins a selection, or asks for the pop-up.
-#include "designer/Vantrel.h"
+#include "designer/HostEvents.h"
 #include "designer/gestures/BandGesture.h"
 #include "designer/gestures/Keys.h"
 #include "designer/gestures/Presses.h"
@@ -13,7 +13,7 @@ void TakeSegment(const Ref<Vantrel>& pobjControl, const PointerInput& pobjInput)
   const auto line = SegmentAt(pobjControl->ChartArea, pobjInput.X, pobjInput.Y);
   if (line) return pobjControl->CurrentControl(line);
   pobjControl->CurrentControl(nullptr);
-  if (pobjControl) pobjControl->OnSelected.Raise(*pobjControl);
+  if (pobjControl) RaiseForObject(*pobjControl, &Vantrel::OnSelected, nullptr);
 }
 
 std::shared_ptr<Gesture> LeftPress(const Ref<Vantrel>& pobjControl, const PointerInput& pobjInput) {
@@ -36,7 +36,7 @@ void RightPress(const Ref<Vantrel>& pobjControl) {
   } else if (pobjControl->EnablePopups && pobjControl->UseMode() == vntTest) {
     pobjControl->ShowTestMenu();
   }
-  if (pobjControl) pobjControl->OnRightClick.Raise(*pobjControl);
+  if (pobjControl) RaiseForObject(*pobjControl, &Vantrel::OnRightClick, nullptr);
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
 // A press on an object image takes the object or one of its connectors, plays with it while testing, or asks for the pop-up.
-#include "designer/Vantrel.h"
+#include "designer/HostEvents.h"
 #include "designer/gestures/ArcCompletion.h"
 #include "designer/gestures/ConnectorGesture.h"
 #include "designer/gestures/ElementUnder.h"
@@ -32,7 +32,7 @@ std::shared_ptr<Gesture> BeginDrag(const Target& pobjTarget, const PointerInput&
 
 std::shared_ptr<Gesture> Take(const Target& pobjTarget, const PointerInput& pobjInput) {
   const auto& control = pobjTarget.Control;
-  const bool keepsSelection = pobjTarget.Node->Selected() && control->MultiSelectOn;
+  const bool keepsSelection = pobjTarget.Node->Selected() && (control->MultiSelectOn || control->Comfort.DragMovesChosen);
   if (!keepsSelection && !(pobjInput.Shift & vntShift)) control->Selection(nullptr);
   if (pobjTarget.Node->Image == pobjTarget.Image) {
     control->CurrentControl(pobjTarget.Image.get());
@@ -42,12 +42,12 @@ std::shared_ptr<Gesture> Take(const Target& pobjTarget, const PointerInput& pobj
   return pobjTarget.IsAlive() ? BeginDrag(pobjTarget, pobjInput) : nullptr;
 }
 
-// Behind the pop-up: its command may have deleted what was clicked.
+// After the pop-up, whose command may have deleted what was clicked, or inserted what is chosen now.
 void SelectClicked(const Target& pobjTarget) {
   if (!pobjTarget.IsAlive()) return;
   pobjTarget.Control->CurrentObject(pobjTarget.Node);
-  pobjTarget.Control->CurrentControl(pobjTarget.Node->Image.get());
-  if (pobjTarget.Control) pobjTarget.Control->OnRightClick.Raise(*pobjTarget.Node);
+  if (!pobjTarget.Control->Comfort.RightClickChooses) pobjTarget.Control->CurrentControl(pobjTarget.Node->Image.get());
+  if (pobjTarget.Control) RaiseForObject(*pobjTarget.Control, &Vantrel::OnRightClick, pobjTarget.Node);
 }
 
 void AskForMenu(const Target& pobjTarget) {

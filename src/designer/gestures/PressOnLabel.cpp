@@ -18,20 +18,12 @@ std::shared_ptr<Gesture> Take(const Ref<Vantrel>& pobjControl, const Ref<Label>&
   return std::make_shared<LabelGesture>(*pobjControl, *pobjLabel, pobjInput);
 }
 
-// What stands for the label's object while testing.
-Ref<Element> ElementFor(const ModelObject& pobjObject) {
-  if (const auto* node = dynamic_cast<const Node*>(&pobjObject)) return node->Image.get();
-  const auto* arc = dynamic_cast<const Arc*>(&pobjObject);
-  const auto segments = arc ? arc->Segments() : std::vector<Vector*>();
-  return segments.empty() ? nullptr : segments.front()->LineControl.get();
-}
-
 void PlayWith(const Ref<Vantrel>& pobjControl, const Label& pobjLabel, const PointerInput& pobjInput) {
   const auto object = ObjectOf(*pobjControl, pobjLabel);
   pobjControl->Selection(nullptr);
   if (object) {
     pobjControl->CurrentObject(object);
-    if (const auto element = ElementFor(*object)) pobjControl->CurrentControl(element);
+    if (const auto element = ElementOf(*object)) pobjControl->CurrentControl(element);
   }
   if (pobjControl && pobjInput.Button == vntRightButton && pobjControl->UseMode() == vntTest) pobjControl->ShowTestMenu();
 }

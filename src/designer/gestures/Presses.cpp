@@ -1,6 +1,7 @@
 #include "designer/gestures/Presses.h"
 
 #include "designer/Vantrel.h"
+#include "designer/gestures/Choosing.h"
 #include "designer/gestures/ElementUnder.h"
 #include "designer/gestures/FrameGesture.h"
 #include "designer/gestures/HandleGesture.h"
@@ -13,6 +14,11 @@ std::shared_ptr<Gesture> PressAt(Vantrel& pobjControl, const PointerInput& pobjI
   const std::int32_t handle = isLeft ? frame.HandleAt(pobjInput.X, pobjInput.Y) : -1;
   frame.HasFocus(handle >= 0);
   if (handle >= 0) return std::make_shared<FrameGesture>(pobjControl, handle, pobjInput);
+
+  const Ref<Vantrel> control(&pobjControl);
+  const bool choosesFirst = !isLeft && pobjControl.Comfort.RightClickChooses && pobjControl.UseMode() == vntDesign;
+  if (choosesFirst && !pobjControl.IsInsertingArc()) ChooseUnder(pobjControl, pobjInput);
+  if (!control) return nullptr;
 
   Element* const element = ElementUnder(pobjControl, pobjInput.X, pobjInput.Y);
   if (!element) return PressOnChart(pobjControl, pobjInput);

@@ -20,8 +20,10 @@ void NodeFields(Archive& pArchive, N& pobjNode, const Node& pobjFresh) {
   pArchive.Field("disabledImageKey", pobjNode.DisabledImageKey, pobjFresh.DisabledImageKey);
   pArchive.Field("captionHeight", pobjNode.CaptionHeight, 0);
   pArchive.Field("captionWidth", pobjNode.CaptionWidth, 0);
-  pArchive.Property("inputPosition", pobjNode.InputPosition(), vntLeft, [&](auto side) { pobjNode.InputPosition(side); });
-  pArchive.Property("outputPosition", pobjNode.OutputPosition(), vntRight, [&](auto side) { pobjNode.OutputPosition(side); });
+  pArchive.Property("inputPosition", pobjNode.InputPosition(), vntLeft,
+                    [&](auto side) { pobjNode.AssignSides(side, pobjNode.OutputPosition()); });
+  pArchive.Property("outputPosition", pobjNode.OutputPosition(), vntRight,
+                    [&](auto side) { pobjNode.AssignSides(pobjNode.InputPosition(), side); });
 }
 
 template <class Archive, class P>

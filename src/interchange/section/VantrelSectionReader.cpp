@@ -9,7 +9,6 @@
 #include "interchange/section/SectionReader.h"
 #include "interchange/section/SectionRecords.h"
 #include "interchange/section/VantrelSection.h"
-#include "util/Lookup.h"
 
 namespace vantrel {
 
@@ -101,7 +100,7 @@ void ReadSection(const PnmlXml& pobjXml, const PnmlNode& pobjFrom, bool pblnExac
 void ReadSection(const PnmlXml& pobjXml, const PnmlArc& pobjFrom, bool pblnExact, Arc& pobjArc) {
   SectionReader reader(pobjXml, Settings(pobjFrom.Section));
   const auto weight = reader.Value<std::string>("weight");
-  if (weight && pobjFrom.Weight == "1") pobjArc.Weight(*weight);
+  if (weight && pobjFrom.Weight == "1") pobjArc.AssignWeight(*weight);
   reader.Field("hiddenTag", pobjArc.HiddenTag, {});
   ArcFields(reader, pobjArc);
   if (pblnExact) ReadPath(reader, pobjFrom, pobjArc);
@@ -112,12 +111,8 @@ void ReadSection(const PnmlXml& pobjXml, PnmlSection pobjSection, Workflow& pobj
   WorkflowFields(settings, pobjWorkflow);
   for (const pugi::xml_node& child : pugi::xml_node(pobjSection).children()) {
     if (LocalName(child) != "note") continue;
-    const auto note = std::make_shared<Notation>();
-    note->Key = NextKey(pobjWorkflow.Notations, "Notation");
-    note->Workflow = &pobjWorkflow;
     SectionReader reader(pobjXml, child);
-    NoteFields(reader, *note);
-    pobjWorkflow.Notations.Add(note, note->Key);
+    NoteFields(reader, *pobjWorkflow.NewNotation());
   }
 }
 

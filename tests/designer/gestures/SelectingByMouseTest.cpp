@@ -123,6 +123,17 @@ TEST_F(SelectingByMouse, ARightClickPlacesWhatIsInsertedNextBesideTheObject) {
   EXPECT_EQ(clicked, (std::vector<ModelObject*>{&Begin(), Control.get()}));
 }
 
+TEST_F(SelectingByMouse, ReleasingAnyButtonOverAnImageHidesTheFrame) {
+  for (const auto button : {vntLeftButton, vntRightButton, vntMiddleButton}) {
+    Control->CurrentControl(Begin().Image.get());
+    ASSERT_TRUE(Control->FocusFrame.Visible());
+    Release(9000, 7000, button);
+    EXPECT_TRUE(Control->FocusFrame.Visible()) << button << " beside it";
+    Click(*Begin().Image, button);
+    EXPECT_FALSE(Control->FocusFrame.Visible()) << button;
+  }
+}
+
 TEST_F(SelectingByMouse, APopupMayDeleteWhatWasClicked) {
   Control->EnablePopups = true;
   Click(*Begin().Image);

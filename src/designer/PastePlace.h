@@ -1,0 +1,36 @@
+// Where the next paste goes.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "model/ModelObject.h"
+
+namespace vantrel {
+
+class Vantrel;
+
+/// With Comfort::PasteKeepsOriginals: beside what was copied, or pasted last, until the control's current position changes; then there.
+class PastePlace {
+ public:
+  struct Corner {
+    float Left, Top;  // twips
+  };
+
+  using Objects = std::vector<std::shared_ptr<ModelObject>>;
+
+  /// The top-left corner of a group.
+  static Corner CornerOf(const Objects& pcolObjects);
+  /// Takes note of what was put on the clipboard.
+  void Copied(const Vantrel& pobjControl, const Objects& pcolObjects) { Remember(pobjControl, CornerOf(pcolObjects)); }
+  /// The top-left corner of the next copies.
+  Corner Take(const Vantrel& pobjControl);
+
+ private:
+  void Remember(const Vantrel& pobjControl, const Corner& pobjCorner);
+
+  Corner mobjPosition{}, mobjLast{};  // the control's position then, and where the objects lie
+  bool mblnKnown = false;
+};
+
+}  // namespace vantrel
