@@ -21,9 +21,7 @@ class ItemKey {
     std::swap(mBits, pobjOther.mBits);
     return *this;
   }
-  ~ItemKey() {
-    if (IsText()) delete Text();
-  }
+  ~ItemKey() { Clear(); }
 
   static ItemKey Unkeyed() { return ItemKey(kUnkeyed); }
   static ItemKey OfText(std::string_view pstrText) { return ItemKey(reinterpret_cast<std::uintptr_t>(new std::string(pstrText))); }
@@ -37,6 +35,12 @@ class ItemKey {
     return plngNumber <= kLargestShort ? OfNumber(plngNumber) : OfLongNumber(pstrWord, plngNumber);
   }
   ItemKey Copy() const { return IsText() ? OfText(*Text()) : ItemKey(mBits); }
+
+  /// Makes a hole of it.
+  void Clear() {
+    if (IsText()) delete Text();
+    mBits = kHole;
+  }
 
   bool IsHole() const { return mBits == kHole; }
   bool IsUnkeyed() const { return mBits == kUnkeyed; }

@@ -52,49 +52,20 @@ void KeyedOrder::DropIndexes() {
   mRanks.reset();
 }
 
-void KeyedOrder::NoteOrder(const ItemKey& pKey) {
-  if (mCount == 0) mDense = mAscending = true;
-  if (!pKey.IsNumber()) {
-    mDense = mAscending = false;
-  } else if (mCount != 0) {
-    if (mDense) mDense = static_cast<std::uint64_t>(pKey.Number() - KeyAt(mHead).Number()) == mTail - mHead;
-    if (mAscending) mAscending = pKey.Number() > KeyAt(Last()).Number();
-  }
+void KeyedOrder::NoteGap(const ItemKey& pKey) {
+  mDense = false;
+  mAscending = mAscending && pKey.IsNumber() && pKey.Number() > KeyAt(Last()).Number();
 }
 
-KeyedOrder::Ordinal KeyedOrder::Append(ItemKey pKey) {
-  NoteOrder(pKey);
-  const Ordinal ordinal = mTail;
-  if (mIndex) mIndex->Add(pKey, ordinal);
-  if (mRanks && !mRanks->Covers(ordinal)) mRanks.reset();
-  if (mRanks) mRanks->Add(ordinal);
-  mKeys[Slot(ordinal)] = std::move(pKey);
-  ++mTail;
-  ++mCount;
-  ++mChanges;
-  return ordinal;
+void KeyedOrder::AddToIndexes(const ItemKey& pKey) {
+  if (mIndex) mIndex->Add(pKey, mTail);
+  if (mRanks && !mRanks->Covers(mTail)) mRanks.reset();
+  if (mRanks) mRanks->Add(mTail);
 }
 
-void KeyedOrder::Remove(Ordinal pOrdinal) {
-  ItemKey& key = mKeys[Slot(pOrdinal)];
-  if (mIndex) mIndex->Remove(key);
+void KeyedOrder::RemoveFromIndexes(Ordinal pOrdinal) {
+  if (mIndex) mIndex->Remove(KeyAt(pOrdinal));
   if (mRanks) mRanks->Remove(pOrdinal);
-  ItemKey hole;
-  key = std::move(hole);
-  --mCount;
-  ++mChanges;
-  Trim();
-}
-
-void KeyedOrder::Trim() {
-  if (mCount == 0) {
-    mHead = mTail;
-    DropIndexes();
-    return;
-  }
-  while (KeyAt(mHead).IsHole()) ++mHead;
-  if (IsWalked()) return;  // an addition must not take the ordinal of an item that a walker has passed
-  while (KeyAt(mTail - 1).IsHole()) --mTail;
 }
 
 }  // namespace vantrel

@@ -55,8 +55,29 @@ class KeyedOrder {
   std::int32_t LargestNumber() const { return mCount == 0 ? 0 : mAscending ? KeyAt(Last()).Number() : LargestOfIndex(); }
 
   /// Takes a key at the end. Needs room and a key that is not taken.
-  Ordinal Append(ItemKey pKey);
-  void Remove(Ordinal pOrdinal);
+  Ordinal Append(ItemKey pKey) {
+    if (mCount == 0) {
+      Restart(pKey);
+    } else if (!(mDense && OrdinalIfDense(pKey) == mTail)) {
+      NoteGap(pKey);
+    }
+    if (mIndex || mRanks) AddToIndexes(pKey);
+    mKeys[Slot(mTail)] = std::move(pKey);
+    ++mCount;
+    ++mChanges;
+    return mTail++;
+  }
+  void Remove(Ordinal pOrdinal) {
+    if (mIndex || mRanks) RemoveFromIndexes(pOrdinal);
+    mKeys[Slot(pOrdinal)].Clear();
+    --mCount;
+    ++mChanges;
+    if (mCount == 0) {
+      Empty();
+    } else {
+      Trim();
+    }
+  }
 
   void StartWalk() const { ++mWalkers; }
   void EndWalk() const { --mWalkers; }
@@ -68,19 +89,37 @@ class KeyedOrder {
   void Rebuild(std::uint32_t plngCapacity, Moved&& pMoved);
 
  private:
+  // Where a key lies if it lies anywhere; beyond the tail for a text. Unsigned arithmetic wraps round as intended.
+  Ordinal OrdinalIfDense(const ItemKey& pKey) const {
+    return pKey.IsNumber() ? mDenseOffset + static_cast<Ordinal>(pKey.Number()) : ~Ordinal{0};
+  }
   std::optional<Ordinal> CountTo(const ItemKey& pKey) const {
-    if (!pKey.IsNumber()) return std::nullopt;
-    const Ordinal ordinal = mHead + static_cast<Ordinal>(std::int64_t{pKey.Number()} - KeyAt(mHead).Number());
+    const Ordinal ordinal = OrdinalIfDense(pKey);
     return Holds(ordinal) ? std::optional(ordinal) : std::nullopt;
+  }
+  // The first key after none.
+  void Restart(const ItemKey& pKey) {
+    mDense = mAscending = pKey.IsNumber();
+    if (mDense) mDenseOffset = mTail - static_cast<Ordinal>(pKey.Number());
+  }
+  void Empty() {
+    mHead = mTail;
+    if (mIndex || mRanks) DropIndexes();
+  }
+  void Trim() {
+    while (KeyAt(mHead).IsHole()) ++mHead;
+    if (IsWalked()) return;  // an addition must not take the ordinal of an item that a walker has passed
+    while (KeyAt(mTail - 1).IsHole()) --mTail;
   }
   std::optional<Ordinal> Search(const ItemKey& pKey) const;
   std::optional<Ordinal> Scan(const ItemKey& pKey) const;
   std::int32_t LargestOfIndex() const;
   Ordinal OrdinalAmongHoles(std::uint32_t plngPosition) const;
   KeyIndex& Index() const;
+  void AddToIndexes(const ItemKey& pKey);
+  void RemoveFromIndexes(Ordinal pOrdinal);
   void DropIndexes();
-  void NoteOrder(const ItemKey& pKey);
-  void Trim();
+  void NoteGap(const ItemKey& pKey);
 
   static constexpr std::uint32_t kScanLimit = 16;
 
@@ -91,8 +130,9 @@ class KeyedOrder {
   std::uint32_t mCount = 0;
   mutable std::uint32_t mWalkers = 0;
   std::uint16_t mWordSize;
-  bool mDense = true;      // every key is a number, and number minus ordinal is the same for all
+  bool mDense = true;      // every key is a number, and ordinal minus number is mDenseOffset
   bool mAscending = true;  // every key is a number, larger than all before it
+  Ordinal mDenseOffset = 0;
   const char* mWord;
   std::unique_ptr<ItemKey[]> mKeys;
   mutable std::unique_ptr<KeyIndex> mIndex;
