@@ -59,8 +59,8 @@ class DesignerHost {
   virtual std::optional<std::string> SelectOption(const std::string& /*pstrPrompt*/, const std::vector<std::string>& /*pcolOptions*/) {
     return std::nullopt;
   }
-  /// A host that always takes the first case says so here; the other candidates are then not even gathered, which matters where
-  /// a hundred thousand cases wait in one place.
+  /// A host that always takes the first case says so here: it is not asked while there is one, and the other candidates are not even
+  /// gathered, which matters where a hundred thousand cases wait in one place.
   virtual bool TakesFirstCase() const { return false; }
   /// Shows the tokens that a transition could take, for the user to distribute by hand.
   virtual void SelectTokens(vantrel::Workflow& /*pobjWorkflow*/, Transition& /*pobjTransition*/) {}

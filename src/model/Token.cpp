@@ -24,8 +24,6 @@ CaseMark& CaseMark::operator=(bool pblnOn) {
   return *this;
 }
 
-Token::Token() : CaseFields(this), DateCreated(Date::Now()) {}
-
 Token::~Token() = default;
 
 const std::shared_ptr<PropertyCollection>& Token::CustomProperties() const {

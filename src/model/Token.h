@@ -22,7 +22,8 @@ class SubflowRun;
 class Token final : public ModelObject, public CaseFields {
  public:
   /// Dated now.
-  Token();
+  Token() : Token(Date::Now()) {}
+  explicit Token(Date pdtmCreated) : CaseFields(this), DateCreated(pdtmCreated) {}
   ~Token() override;
 
   KeyField<Token> Key;                ///< in the workflow's Tokens and the place's Tokens; "Token" and a number

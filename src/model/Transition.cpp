@@ -66,11 +66,11 @@ void Transition::Fire(const std::shared_ptr<WorkCase>& pobjWorkCase) {
 bool Transition::SwitchEnabled(bool pblnEnabled) {
   mblnEnabled = pblnEnabled;
   if (auto* workflow = Workflow.get()) {
-    if (pblnEnabled) {
-      workflow->FiringStack.AddIfMissing(Key, [this] { return Share(); });
-    } else {
-      workflow->FiringStack.RemoveIfThere(Key);
-    }
+    auto& stack = workflow->FiringStack;
+    const bool known = stack.IsAt(mlngStackRank, this);
+    if (pblnEnabled && !known) mlngStackRank = stack.AddIfMissing(Key, [this] { return Share(); });
+    if (!pblnEnabled && known) stack.TakeAtRank(mlngStackRank);
+    if (!pblnEnabled && !known) stack.RemoveIfThere(Key);
   }
   Draw();  // lets the user do things, which may switch it once more
   return pblnEnabled && mblnEnabled && mTriggerType == vntAutomatic;

@@ -105,6 +105,7 @@ class Transition final : public Node {
   friend class Firing;
   friend class FiringNext;
   friend class Reservation;
+  friend class StraightFiring;
   friend class SubflowRun;
   friend class TokenGame;
 
@@ -132,6 +133,7 @@ class Transition final : public Node {
   std::vector<HeldUp> mcolHeldUp;
   Reservation* mobjReservations = nullptr;  // the newest of its firings' and runs' tokens
   std::int64_t mHeldUpAt = 0;               // rank of the input arc that failed the last question of AllInputs
+  std::int64_t mlngStackRank = -1;          // where it lay on the firing stack last
   std::int32_t mFiringsUnderWay = 0;
   std::int32_t mOutputsUnderWay = 0;  // firings, one inside the other, that are producing output now
   OutputTypes mOutputType = vntBroadcast;
@@ -141,20 +143,11 @@ class Transition final : public Node {
 
 template <class Passes>
 bool Transition::AllInputs(Passes&& pPasses) {
-  const std::int64_t heldUpAt = mHeldUpAt;
-  Collection<Arc>::Cursor behind(InArcs, heldUpAt);
-  while (const Arc* arc = behind.Next()) {
-    if (pPasses(*arc->Place)) continue;
-    mHeldUpAt = behind.Rank();
-    return false;
-  }
-  Collection<Arc>::Cursor before(InArcs);
-  for (const Arc* arc = before.Next(); arc && before.Rank() < heldUpAt; arc = before.Next()) {
-    if (pPasses(*arc->Place)) continue;
-    mHeldUpAt = before.Rank();
-    return false;
-  }
-  return true;
+  const auto passes = [&](const Arc& pobjArc) { return pPasses(*pobjArc.Place); };
+  std::int64_t heldUpAt = InArcs.FirstThatFails(passes, mHeldUpAt);
+  if (heldUpAt < 0) heldUpAt = InArcs.FirstThatFails(passes, 0, mHeldUpAt);
+  if (heldUpAt >= 0) mHeldUpAt = heldUpAt;
+  return heldUpAt < 0;
 }
 
 }  // namespace vantrel

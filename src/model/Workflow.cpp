@@ -6,6 +6,7 @@
 #include "model/DesignerCall.h"
 #include "model/PropertyBuilder.h"
 #include "model/game/FiringNext.h"
+#include "model/game/StraightFiring.h"
 #include "util/Lookup.h"
 
 namespace vantrel {
@@ -61,13 +62,18 @@ void Workflow::Visible(bool pblnOn) {
 
 std::shared_ptr<Token> Workflow::CreateToken(const Ref<vantrel::Place>& pobjPlace, const Ref<Transition>& pobjCreateTransition,
                                              const std::shared_ptr<WorkCase>& pobjWorkcase) {
-  auto token = std::make_shared<Token>();
+  return MakeToken(*pobjPlace, pobjCreateTransition.get(), pobjWorkcase, Date::Now());
+}
+
+std::shared_ptr<Token> Workflow::MakeToken(vantrel::Place& pobjPlace, Transition* pobjCreateTransition,
+                                           const std::shared_ptr<WorkCase>& pobjWorkcase, Date pdtmCreated) {
+  auto token = std::make_shared<Token>(pdtmCreated);
   const std::int32_t number = NextKeyNumber(Tokens);
   token->Key = token->Name = KeyField<Token>::OfNumber(number);
-  token->Place = pobjPlace;
-  token->CreateTransition = pobjCreateTransition;
-  token->WorkCase.Begin(pobjWorkcase);
-  if (const auto& definitions = pobjPlace->TokenProperties) {
+  token->Place = &pobjPlace;
+  if (pobjCreateTransition) token->CreateTransition = pobjCreateTransition;
+  if (pobjWorkcase) token->WorkCase.Begin(pobjWorkcase);
+  if (const auto& definitions = pobjPlace.TokenProperties) {
     token->mblnEmptyProperties = definitions->IsEmpty();
     if (!definitions->IsEmpty()) token->CustomProperties(CopyByName(*definitions));
   }
@@ -84,6 +90,7 @@ void Workflow::z_StartCase(const std::shared_ptr<WorkCase>& pobjCase) {
 }
 
 void Workflow::FireNext(const std::shared_ptr<Transition>& pobjTransition) {
+  if (!pobjTransition && StraightFiring::FireNext(*this)) return;
   const DesignerCall call(this);
   TokenGame::Run<FiringNext>(shared_from_this(), pobjTransition);
 }

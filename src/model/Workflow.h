@@ -134,8 +134,12 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
 
  private:
   friend class CaseEnd;
+  friend class StraightFiring;
   friend class Transition;
 
+  // CreateToken without a look at the clock.
+  std::shared_ptr<Token> MakeToken(vantrel::Place& pobjPlace, Transition* pobjCreateTransition,
+                                   const std::shared_ptr<WorkCase>& pobjWorkcase, Date pdtmCreated);
   void AddObserver(Transition& pobjTransition);
   void RemoveObserver(const Transition& pobjTransition);
   void Store(const std::string& pstrPropName, const Variant& pvarValue);

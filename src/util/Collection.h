@@ -63,11 +63,12 @@ class Collection {
     AddUnder(std::move(pobjItem), Copy(pstrKey));
   }
   void Add(Pointer pobjItem) { Add(std::move(pobjItem), std::string_view()); }
-  /// Adds what `pMake` gives unless the key is taken.
+  /// Adds what `pMake` gives unless the key is taken. Returns the rank of the item under the key, see RankOf.
   template <class Key, class Make>
-  void AddIfMissing(const Key& pstrKey, Make&& pMake) {
+  std::int64_t AddIfMissing(const Key& pstrKey, Make&& pMake) {
     ItemKey key = Copy(pstrKey);
-    if (!mOrder.Find(key)) Append(pMake(), std::move(key));
+    const auto ordinal = mOrder.Find(key);
+    return static_cast<std::int64_t>(ordinal ? *ordinal : Append(pMake(), std::move(key)));
   }
   /// Adds at the end under the class word and a number larger than LargestKeyNumber.
   void AddNumbered(Pointer pobjItem, std::int32_t plngNumber) { Append(std::move(pobjItem), ItemKey::Of(kWord, plngNumber)); }
@@ -85,6 +86,23 @@ class Collection {
   const Pointer& Last() const {
     RequireAny();
     return At(mOrder.Last());
+  }
+
+  /// True when `pPasses(item)` does for all items. Asks in order until one fails. Faster than a walk, but nobody may change
+  /// the collection meanwhile.
+  template <class Passes>
+  bool All(Passes&& pPasses) const {
+    return FirstThatFails(std::forward<Passes>(pPasses)) < 0;
+  }
+  /// The rank of the first item that fails, from one rank on and below another; -1 for none.
+  template <class Passes>
+  std::int64_t FirstThatFails(Passes&& pPasses, std::int64_t plngFrom = 0, std::int64_t plngBelow = INT64_MAX) const {
+    const auto end = std::min(mOrder.Tail(), static_cast<KeyedOrder::Ordinal>(plngBelow));
+    for (auto ordinal = std::max(mOrder.Head(), static_cast<KeyedOrder::Ordinal>(plngFrom)); ordinal < end; ++ordinal) {
+      T* const item = At(ordinal).get();
+      if (item && !pPasses(*item)) return static_cast<std::int64_t>(ordinal);
+    }
+    return -1;
   }
 
   /// The item under a key, or null.
@@ -106,6 +124,14 @@ class Collection {
     const auto ordinal = OrdinalUnder(pstrKey);
     return ordinal && At(*ordinal).get() == pobjItem ? static_cast<std::int64_t>(*ordinal) : -1;
   }
+
+  /// True when the item lies where RankOf said at any time before.
+  bool IsAt(std::int64_t plngRank, const T* pobjItem) const {
+    const auto ordinal = static_cast<KeyedOrder::Ordinal>(plngRank);
+    return mOrder.Holds(ordinal) && At(ordinal).get() == pobjItem;
+  }
+  /// Takes out what IsAt has found.
+  Pointer TakeAtRank(std::int64_t plngRank) { return TakeAt(static_cast<KeyedOrder::Ordinal>(plngRank)); }
 
   /// Throws Error 5 when there is no such item.
   template <class Key>
@@ -212,10 +238,11 @@ class Collection {
     if (mOrder.Find(pKey)) throw Error(vntErrDuplicateKey);
     Append(std::move(pobjItem), std::move(pKey));
   }
-  void Append(Pointer pobjItem, ItemKey pKey) {
+  KeyedOrder::Ordinal Append(Pointer pobjItem, ItemKey pKey) {
     if (mOrder.IsFull()) Grow();
     const auto ordinal = mOrder.Append(std::move(pKey));
     mItems[mOrder.Slot(ordinal)] = std::move(pobjItem);
+    return ordinal;
   }
 
   Pointer TakeAt(KeyedOrder::Ordinal pOrdinal) {

@@ -16,6 +16,8 @@ std::optional<std::int32_t> NumberBehind(std::string_view pstrPrefix, std::strin
 
 ItemKey ItemKey::OfLongNumber(std::string_view pstrWord, std::int32_t plngNumber) { return OfText(KeyText(pstrWord, plngNumber).View()); }
 
+void ItemKey::DeleteText() { delete Text(); }
+
 std::string ItemKey::ToText(std::string_view pstrWord) const {
   if (IsText()) return TextRef();
   if (!IsNumber()) return {};

@@ -21,7 +21,9 @@ class ItemKey {
     std::swap(mBits, pobjOther.mBits);
     return *this;
   }
-  ~ItemKey() { Clear(); }
+  ~ItemKey() {
+    if (IsText()) DeleteText();
+  }
 
   static ItemKey Unkeyed() { return ItemKey(kUnkeyed); }
   static ItemKey OfText(std::string_view pstrText) { return ItemKey(reinterpret_cast<std::uintptr_t>(new std::string(pstrText))); }
@@ -38,7 +40,7 @@ class ItemKey {
 
   /// Makes a hole of it.
   void Clear() {
-    if (IsText()) delete Text();
+    if (IsText()) DeleteText();
     mBits = kHole;
   }
 
@@ -86,6 +88,7 @@ class ItemKey {
     return number;
   }
 
+  void DeleteText();  // rare, and too much to be inlined wherever keys move
   explicit ItemKey(std::uintptr_t pBits) : mBits(pBits) {}
   std::string* Text() const { return reinterpret_cast<std::string*>(mBits); }
 

@@ -10,7 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 
-std::string TagOf(const Workflow& pobjNet, int plngToken) { return pobjNet.Tokens.Item(plngToken)->Tag; }
+std::string WalkedTagOf(const Workflow& pobjNet, int plngToken) { return pobjNet.Tokens.Item(plngToken)->Tag; }
 
 // Start -Receive-> Review, Stock;  Review -Check[Middle]-> Checked;  Checked, Stock -Decide-> Approved | Refused | Parked;
 // Approved -Ship(programmed)-> Shipped -Archive(by hand)-> End.  Middle: First -Measure[Inner]-> Second -Inspect-> Third.
@@ -164,12 +164,12 @@ TEST_P(Walk, FromStartToEndThroughSubflowsAndAllKindsOfOutput) {
   EXPECT_THAT(TakeLog(), ElementsAre("Scale Token1", "Weighed Token2", "finished Token2", "Second Token2", "Third Token3",
                                      "finished Token3", "Checked Token4", "First Token1"));
   EXPECT_EQ(Marking(), "Stock:Token3 Checked:Token4 Third:Token3 ");
-  EXPECT_EQ(TagOf(*mMiddle, 1), "order 7");
-  EXPECT_EQ(TagOf(*mInner, 1), "order 7");
-  EXPECT_EQ(TagOf(*mMiddle, 2), "weighed");
+  EXPECT_EQ(WalkedTagOf(*mMiddle, 1), "order 7");
+  EXPECT_EQ(WalkedTagOf(*mInner, 1), "order 7");
+  EXPECT_EQ(WalkedTagOf(*mMiddle, 2), "weighed");
   EXPECT_EQ(mMiddle->Tokens.Item(2)->CustomProperties(), mInner->Tokens.Item(2)->CustomProperties());
   EXPECT_EQ(mMiddle->Tokens.Item(2)->CustomProperties()->Item("Weight")->Value.ToInt32(), 12);
-  EXPECT_EQ(TagOf(*mHost.Net, 4), "inspected");
+  EXPECT_EQ(WalkedTagOf(*mHost.Net, 4), "inspected");
   EXPECT_EQ(Stack(), "Decide ");
   EXPECT_TRUE(Do("Decide").Enabled());
 

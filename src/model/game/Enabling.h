@@ -24,6 +24,13 @@ class Enabling {
   /// Asks a question once more that the transition remembers; false when it no longer does.
   static bool AskAgain(Transition& pobjTransition, const Question& pQuestion, bool pblnTracking);
 
+  /// An input place that did not pass when the transition was asked last, if it has it still; null for none.
+  static const Place* HeldUpBy(const Transition& pobjTransition) {
+    const Place* place = nullptr;
+    pobjTransition.InArcs.FirstThatFails([&](const Arc& pobjArc) { return place = pobjArc.Place.get(), false; }, pobjTransition.mHeldUpAt);
+    return place;
+  }
+
   /// Does what follows the answers: everything that setting Transition::Enabled does but the firing. True when the
   /// transition has to fire now.
   static bool Switch(Transition& pobjTransition, bool pblnEnabled) { return pobjTransition.SwitchEnabled(pblnEnabled); }

@@ -122,7 +122,7 @@ Firing::Stage Firing::Choose() {
 // Two arcs from one place take two tokens.
 void Firing::TakeWithoutCases() {
   for (Collection<Arc>::Cursor inputs(mobjTransition->InArcs); const Arc* arc = inputs.Next();) {
-    auto token = TokenRules::Next(*arc->Place);
+    auto token = TokenRules::Shared(*arc->Place, TokenRules::Next(*arc->Place));
     if (!token) throw Error(vntErrInvalidCall);
     mChosen.Take(*arc->Place, std::move(token));
   }
@@ -150,7 +150,7 @@ bool Firing::ChooseCase() {
     return arc || !oldestWins;
   };
   if (scarcest) TokenRules::VisitFree(*scarcest, addCaseOf);
-  if (trigger == vntUser) return AskForCase(candidates);
+  if (trigger == vntUser && (candidates.IsEmpty() || !oldestWins)) return AskForCase(candidates);
   if (!candidates.IsEmpty()) mobjCase = oldestWins ? candidates.First() : candidates.Last();
   return true;
 }
@@ -170,7 +170,7 @@ bool Firing::AskForCase(const Collection<WorkCase>& pcolCandidates) {
 void Firing::TakeOfCase() {
   for (Collection<Arc>::Cursor inputs(mobjTransition->InArcs); const Arc* arc = inputs.Next();) {
     Place* place = arc->Place.get();
-    auto token = place ? TokenRules::NextOf(*place, mobjCase.get()) : nullptr;
+    auto token = place ? TokenRules::Shared(*place, TokenRules::NextOf(*place, mobjCase.get())) : nullptr;
     if (token) mChosen.Take(*place, std::move(token));
   }
 }

@@ -48,10 +48,6 @@ TokenIndex* TokenRules::IndexOf(const Place& pobjPlace) {
   return index.get();
 }
 
-std::shared_ptr<Token> TokenRules::Shared(const Place& pobjPlace, const Token* pobjToken) {
-  return pobjToken ? pobjPlace.Tokens().Find(pobjToken->Key) : nullptr;
-}
-
 bool TokenRules::HoldsOf(const Place& pobjPlace, const WorkCase* pobjCase, Which pWhich) {
   if (!Holds(pobjPlace, pWhich)) return false;
   if (const auto* index = IndexOf(pobjPlace)) return pWhich == kAll ? index->HasAnyOf(pobjCase) : index->FreeOf(pobjCase) != nullptr;
@@ -64,30 +60,28 @@ bool TokenRules::HoldsMarked(const Place& pobjPlace, Which pWhich) {
   return FirstThat(pobjPlace, [&](const Token& token) { return token.mblnCaseEnabled && Counts(token, pWhich); });
 }
 
-std::shared_ptr<Token> TokenRules::Next(const Place& pobjPlace) {
+Token* TokenRules::Next(const Place& pobjPlace) {
   if (FreeCount(pobjPlace) <= 0) return nullptr;
   const auto& tokens = pobjPlace.Tokens();
   const bool newest = pobjPlace.SelectionType == vntSelectionTypeLIFO;
-  const auto& nearest = newest ? tokens.Last() : tokens.First();
+  Token* const nearest = (newest ? tokens.Last() : tokens.First()).get();
   if (IsFree(*nearest)) return nearest;
-  if (const auto* index = IndexOf(pobjPlace)) {
-    return Shared(pobjPlace, newest ? index->Free().rbegin()->second : index->Free().begin()->second);
-  }
-  const Token* chosen = nullptr;
-  VisitFree(pobjPlace, [&](const Token& token) {
+  if (const auto* index = IndexOf(pobjPlace)) return newest ? index->Free().rbegin()->second : index->Free().begin()->second;
+  Token* chosen = nullptr;
+  VisitFree(pobjPlace, [&](Token& token) {
     chosen = &token;
     return newest;
   });
-  return Shared(pobjPlace, chosen);
+  return chosen;
 }
 
-std::shared_ptr<Token> TokenRules::NextOf(const Place& pobjPlace, const WorkCase* pobjCase) {
+Token* TokenRules::NextOf(const Place& pobjPlace, const WorkCase* pobjCase) {
   if (FreeCount(pobjPlace) <= 0) return nullptr;
   if (const auto* index = IndexOf(pobjPlace)) {
     const auto* free = index->FreeOf(pobjCase);
-    return free ? Shared(pobjPlace, free->begin()->second) : nullptr;
+    return free ? free->begin()->second : nullptr;
   }
-  return Shared(pobjPlace, FirstThat(pobjPlace, [&](const Token& token) { return token.WorkCase.get() == pobjCase && IsFree(token); }));
+  return FirstThat(pobjPlace, [&](const Token& token) { return token.WorkCase.get() == pobjCase && IsFree(token); });
 }
 
 bool TokenRules::MarkEnabled(Place& pobjPlace, const WorkCase* pobjCase) {

@@ -40,9 +40,13 @@ class TokenRules {
   static bool HoldsMarked(const Place& pobjPlace, Which pWhich = kFree);
 
   /// The free token that the place's selection type names, or null.
-  static std::shared_ptr<Token> Next(const Place& pobjPlace);
+  static Token* Next(const Place& pobjPlace);
   /// The first free token of the case, or null.
-  static std::shared_ptr<Token> NextOf(const Place& pobjPlace, const WorkCase* pobjCase);
+  static Token* NextOf(const Place& pobjPlace, const WorkCase* pobjCase);
+  /// A share in a token of the place, or null for null.
+  static std::shared_ptr<Token> Shared(const Place& pobjPlace, const Token* pobjToken) {
+    return pobjToken ? pobjPlace.Tokens().Find(pobjToken->Key) : nullptr;
+  }
   /// Shows all free tokens to `pSee`, in order of arrival, until it answers false.
   template <class See>
   static void VisitFree(const Place& pobjPlace, See&& pSee) {
@@ -52,7 +56,7 @@ class TokenRules {
       }
       return;
     }
-    for (Collection<Token>::Cursor tokens(pobjPlace.Tokens()); const Token* token = tokens.Next();) {
+    for (Collection<Token>::Cursor tokens(pobjPlace.Tokens()); Token* token = tokens.Next();) {
       if (IsFree(*token) && !pSee(*token)) return;
     }
   }
@@ -76,7 +80,6 @@ class TokenRules {
   }
   static void Recount(const Place& pobjPlace);
   static TokenIndex* IndexOf(const Place& pobjPlace);
-  static std::shared_ptr<Token> Shared(const Place& pobjPlace, const Token* pobjToken);
   static bool Counts(const Token& pobjToken, Which pWhich) { return pWhich == kAll || IsFree(pobjToken); }
 };
 

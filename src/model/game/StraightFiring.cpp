@@ -1,0 +1,200 @@
+#include "model/game/StraightFiring.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "model/DesignerState.h"
+#include "model/game/Enabling.h"
+#include "model/game/TokenRules.h"
+#include "util/MsgBox.h"
+
+namespace vantrel {
+
+namespace {
+
+// What a firing has chosen; the places keep it alive. No straight firing runs inside another, so one list is enough.
+std::vector<Token*> gcolChosen;
+
+}  // namespace
+
+StraightFiring::StraightFiring(Workflow& pobjWorkflow, Transition& pobjTransition)
+    : mWorkflow(pobjWorkflow), mTransition(pobjTransition), mblnTracking(TokenRules::CaseTracking(pobjTransition)) {}
+
+StraightFiring::~StraightFiring() {
+  GiveBack();
+  gcolChosen.clear();
+}
+
+void StraightFiring::GiveBack() {
+  for (auto at = mlngGone; at < gcolChosen.size(); ++at) TokenRules::GiveBack(*gcolChosen[at]);
+}
+
+bool StraightFiring::FireNext(Workflow& pobjWorkflow) {
+  auto& stack = pobjWorkflow.FiringStack;
+  if (stack.IsEmpty() || pobjWorkflow.Designer().UseMode == vntStepTest) return false;
+  if (pobjWorkflow.OnFiring.HasListeners() || pobjWorkflow.OnTokenAdded.HasListeners()) return false;
+  Transition& transition = *stack.First();
+  StraightFiring firing(pobjWorkflow, transition);
+  if (!firing.IsPlain() || !firing.Choose()) return false;
+  const auto keeper = stack.TakeFirst();
+  firing.Fire();
+  return true;
+}
+
+bool StraightFiring::IsPlain() const {
+  const OutputTypes output = mTransition.OutputType();
+  if (output == vntSelect || output == vntDistribute || output == vntProgrammed || mTransition.Object()) return false;
+  if (mTransition.mFiringsUnderWay != 0 || mTransition.Visible() || !(mTransition.Workflow == &mWorkflow)) return false;
+  if (mblnTracking && !(mTransition.TriggerType() == vntUser && mWorkflow.Designer().Host->TakesFirstCase())) return false;
+  const auto* const end = mWorkflow.EndPlace().get();
+  return !mTransition.OutArcs.IsEmpty() && mTransition.InArcs.All([&](const Arc& pobjArc) {
+    const auto* place = pobjArc.Place.get();
+    return place && IsPlain(*place, [&](const Transition& consumer) {
+             return !mblnTracking || &consumer == &mTransition || HasPlainInputs(consumer);
+           });
+  }) && mTransition.OutArcs.All([&](const Arc& pobjArc) {
+    const auto* place = pobjArc.Place.get();
+    return place && place != end &&
+           IsPlain(*place, [&](const Transition& consumer) { return IsHeldUp(consumer, *place) || HasPlainInputs(consumer); });
+  });
+}
+
+template <class Ask>
+bool StraightFiring::IsPlain(const Place& pobjPlace, Ask&& pHasPlainInputs) const {
+  if (!(pobjPlace.Workflow == &mWorkflow) || pobjPlace.Visible() || pobjPlace.Image) return false;
+  return pobjPlace.OutArcs.All([&](const Arc& pobjArc) {
+    const auto* consumer = pobjArc.Transition.get();
+    if (!consumer) return true;
+    const bool isPlain = !consumer->Visible() && consumer->TriggerType() != vntAutomatic && Enabling::HeldUp(*consumer).empty();
+    return isPlain && pHasPlainInputs(*consumer);
+  });
+}
+
+// Marking the inputs of a transition draws them where they are shown.
+bool StraightFiring::HasPlainInputs(const Transition& pobjConsumer) {
+  return pobjConsumer.InArcs.All([](const Arc& pobjArc) {
+    const auto* place = pobjArc.Place.get();
+    return place && !place->Image;
+  });
+}
+
+// What this firing produces for one place cannot complete the inputs: another place is empty and stays so.
+bool StraightFiring::IsHeldUp(const Transition& pobjConsumer, const Place& pobjOutput) const {
+  if (mTransition.OutArcs.Count() != 1) return false;
+  const auto* const missing = Enabling::HeldUpBy(pobjConsumer);
+  return missing && missing != &pobjOutput && missing->Tokens().IsEmpty();
+}
+
+bool StraightFiring::Choose() {
+  if (mblnTracking && !ChooseCase()) return false;
+  return mTransition.InArcs.All([&](const Arc& pobjArc) {
+    Place& place = *pobjArc.Place;
+    Token* const token = mblnTracking ? TokenRules::NextOf(place, mobjCase.get()) : TokenRules::Next(place);
+    if (!token || !(token->Place == &place) || token->Run().IsSet() || !TokenRules::LiesIn(place, *token)) return false;
+    TokenRules::Take(place, *token);
+    gcolChosen.push_back(token);
+    return true;
+  });
+}
+
+// The case of the first token of the scarcest place that all places hold.
+bool StraightFiring::ChooseCase() {
+  const Place* scarcest = nullptr;
+  std::int32_t fewest = 0;
+  mTransition.InArcs.All([&](const Arc& pobjArc) {
+    const auto count = TokenRules::FreeCount(*pobjArc.Place);
+    if (!scarcest || count < fewest) scarcest = pobjArc.Place.get();
+    fewest = std::min(count, scarcest == pobjArc.Place.get() ? count : fewest);
+    return true;
+  });
+  if (!scarcest) return false;
+  TokenRules::VisitFree(*scarcest, [&](const Token& pobjToken) {
+    const auto* workCase = pobjToken.WorkCase.get();
+    const bool everywhere =
+        workCase && mTransition.InArcs.All([&](const Arc& pobjArc) { return TokenRules::HoldsOf(*pobjArc.Place, workCase); });
+    if (everywhere) mobjCase = pobjToken.WorkCase;
+    return !everywhere;
+  });
+  return mobjCase != nullptr;
+}
+
+template <class Step>
+void StraightFiring::Attempt(Step&& pStep) {
+  try {
+    pStep();
+  } catch (const Error&) {
+    if (!mblnTracking) throw;
+  }
+}
+
+void StraightFiring::Fire() {
+  try {
+    Produce();
+    Withdraw();
+  } catch (const Error& error) {
+    Settle();
+    if (error.Number != vntErrInvalidCall) MsgBox(error.Description);
+  }
+}
+
+void StraightFiring::Settle() {
+  GiveBack();
+  Enabling::Settle(mTransition);
+  for (auto at = mlngGone; at < gcolChosen.size(); ++at) Enabling::SettleAround(*gcolChosen[at]);
+  gcolChosen.clear();
+}
+
+void StraightFiring::Produce() {
+  mTransition.OutArcs.All([&](const Arc& pobjArc) {
+    Attempt([&] {
+      Place& place = *pobjArc.Place;
+      const auto token = mWorkflow.MakeToken(place, &mTransition, mobjCase, mdtmNow);
+      mblnOutputDone = true;
+      TokenRules::Add(place, token);
+      Put(place);
+    });
+    return true;
+  });
+}
+
+void StraightFiring::Put(Place& pobjPlace) {
+  pobjPlace.TokenCount(static_cast<float>(pobjPlace.Tokens().Count()));
+  pobjPlace.OutArcs.All([&](const Arc& pobjArc) {
+    auto* const consumer = pobjArc.Transition.get();
+    if (consumer && Enabling::Arrived(*consumer, mobjCase, mblnTracking)) Enabling::Switch(*consumer, true);
+    return true;
+  });
+}
+
+void StraightFiring::Withdraw() {
+  if (!mblnOutputDone) return Settle();
+  while (mlngGone < gcolChosen.size()) {
+    Token& token = *gcolChosen[mlngGone++];
+    token.ConsumeTransition = &mTransition;
+    token.Dirty = true;
+    Attempt([&] { Leave(*token.Place, token); });
+    token.DateConsumed = mdtmNow;
+  }
+}
+
+// What Enabling::Left tells of the transition itself. It asks each input each time that one of them has lost a token; between the
+// first time and the last, only that one can have changed, and tokens only leave.
+bool StraightFiring::CanFireAgain(Place& pobjPlace) {
+  if (!mblnTracking || mlngGone == 1 || mlngGone == gcolChosen.size()) return mblnCanFireAgain = Enabling::Left(mTransition, mblnTracking);
+  const bool holds = TokenRules::HoldsMarked(pobjPlace);
+  pobjPlace.CaseEnabled(holds);
+  return mblnCanFireAgain = mblnCanFireAgain && holds;
+}
+
+void StraightFiring::Leave(Place& pobjPlace, const Token& pobjToken) {
+  auto token = TokenRules::Remove(pobjPlace, &pobjToken);
+  if (token.use_count() == 1) mcolOrphans.push_back(std::move(token));
+  pobjPlace.TokenCount(static_cast<float>(pobjPlace.Tokens().Count()));
+  pobjPlace.OutArcs.All([&](const Arc& pobjArc) {
+    auto* const consumer = pobjArc.Transition.get();
+    if (consumer) Enabling::Switch(*consumer, consumer == &mTransition ? CanFireAgain(pobjPlace) : Enabling::Left(*consumer, mblnTracking));
+    return true;
+  });
+}
+
+}  // namespace vantrel

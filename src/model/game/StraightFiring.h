@@ -1,0 +1,56 @@
+// A firing that nobody looks at.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "model/Workflow.h"
+
+namespace vantrel {
+
+/// Does what FiringNext, Firing, Arrival and Departure do, in one go, where nobody can get the word in between: nothing near
+/// the transition is drawn, listened to, asked, automatic or a workflow. So nothing has to be kept alive, and no step has to
+/// be stopped and gone on with. Whatever is not as plain as that is left to the steps, from the beginning.
+class StraightFiring {
+ public:
+  /// Fires the first transition that waits. False, and nothing has changed, when that is not a plain firing.
+  static bool FireNext(Workflow& pobjWorkflow);
+
+ private:
+  StraightFiring(Workflow& pobjWorkflow, Transition& pobjTransition);
+  ~StraightFiring();
+  StraightFiring(const StraightFiring&) = delete;
+  StraightFiring& operator=(const StraightFiring&) = delete;
+
+  bool IsPlain() const;
+  template <class Ask>
+  bool IsPlain(const Place& pobjPlace, Ask&& pHasPlainInputs) const;
+  static bool HasPlainInputs(const Transition& pobjConsumer);
+  bool IsHeldUp(const Transition& pobjConsumer, const Place& pobjOutput) const;
+  bool Choose();
+  bool ChooseCase();
+  void Fire();
+  void Produce();
+  void Put(Place& pobjPlace);
+  void Withdraw();
+  void Leave(Place& pobjPlace, const Token& pobjToken);
+  bool CanFireAgain(Place& pobjPlace);
+  void GiveBack();
+  // After an Error, or where nothing was produced: what was chosen counts for others again.
+  void Settle();
+  // Runs one step; with case tracking on, an Error is passed over.
+  template <class Step>
+  void Attempt(Step&& pStep);
+
+  Workflow& mWorkflow;
+  Transition& mTransition;
+  std::shared_ptr<WorkCase> mobjCase;
+  std::vector<std::shared_ptr<Token>> mcolOrphans;  // consumed, and nobody else's: they end when all is done
+  std::size_t mlngGone = 0;                         // of the chosen tokens
+  Date mdtmNow = Date::Now();
+  bool mblnTracking;
+  bool mblnOutputDone = false;
+  bool mblnCanFireAgain = false;
+};
+
+}  // namespace vantrel
