@@ -3,7 +3,6 @@
 #include "designer/ChartFitting.h"
 #include "designer/ControlScope.h"
 #include "designer/ElementBinding.h"
-#include "designer/StillShown.h"
 #include "model/DesignerState.h"
 
 namespace vantrel {
@@ -33,15 +32,13 @@ class Building {
 // Views do not paint a chart that is being changed as a whole.
 class HiddenChart {
  public:
-  explicit HiddenChart(Vantrel& pobjControl) : mobjControl(&pobjControl) { pobjControl.ChartArea.Visible(false); }
-  ~HiddenChart() {
-    if (mobjControl) mobjControl->ChartArea.Visible(true);
-  }
+  explicit HiddenChart(Vantrel& pobjControl) : mobjControl(pobjControl) { pobjControl.ChartArea.Visible(false); }
+  ~HiddenChart() { mobjControl.ChartArea.Visible(true); }
   HiddenChart(const HiddenChart&) = delete;
   HiddenChart& operator=(const HiddenChart&) = delete;
 
  private:
-  Ref<Vantrel> mobjControl;
+  Vantrel& mobjControl;
 };
 
 template <class E>

@@ -20,14 +20,12 @@ namespace vantrel {
 
 namespace {
 
-// Does what an event asks for and shows the user what goes wrong. False when the control is gone by then, and its input with it.
-bool Serve(Vantrel& pobjControl, const std::function<void()>& pServe) {
-  const Ref<Vantrel> control(&pobjControl);
+// Does what an event asks for and shows the user what goes wrong. The control may be gone then, and its input with it.
+void Serve(Vantrel& pobjControl, const std::function<void()>& pServe) {
   ShowErrors([&] {
     const ControlScope scope(pobjControl);
     pServe();
   });
-  return static_cast<bool>(control);
 }
 
 void Resized(Vantrel& pobjControl, float psngHeight, float psngWidth) {
@@ -97,7 +95,8 @@ void ChartInput::DoubleClick(const PointerInput& pobjInput) {
   if (mobjControl.Comfort.QuickPressEndsArc && mobjControl.IsInsertingArc()) return Press(pobjInput);
   bool isUsed = true;
   // Two presses in quick succession are no double-click where that means nothing.
-  if (Serve(mobjControl, [&] { isUsed = DoubleClickAt(mobjControl, pobjInput); }) && !isUsed) Press(pobjInput);
+  Serve(mobjControl, [&] { isUsed = DoubleClickAt(mobjControl, pobjInput); });
+  if (!isUsed) Press(pobjInput);
 }
 
 bool ChartInput::Key(std::int16_t pintCode, std::int16_t pintShift) {

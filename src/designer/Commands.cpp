@@ -4,7 +4,7 @@
 #include <iterator>
 
 #include "designer/CommandRules.h"
-#include "designer/HostEvents.h"
+#include "designer/ControlScope.h"
 #include "designer/Vantrel.h"
 #include "designer/gestures/Choosing.h"
 #include "designer/gestures/ElementUnder.h"
@@ -27,16 +27,13 @@ void ReplaceWorkflow(Vantrel& pobjControl) {
 
 // What was chosen before would be moved and deleted along with it.
 template <class T>
-void ChooseInserted(const Ref<Vantrel>& pobjControl, const std::shared_ptr<T>& pobjObject) {
-  if (!pobjControl || !pobjControl->Comfort.ChosenIsSeen) return;
-  const auto element = ElementOf(*pobjObject);
-  if (IsOnChart(element)) ChooseAlone(*pobjControl, element);
+void ChooseInserted(Vantrel& pobjControl, const std::shared_ptr<T>& pobjObject) {
+  if (pobjControl.Comfort.ChosenIsSeen) ChooseAlone(pobjControl, ElementOf(*pobjObject));
 }
 
 template <auto Insert>
 void InsertAndChoose(Vantrel& pobjControl) {
-  const Ref<Vantrel> control(&pobjControl);
-  ChooseInserted(control, Insert(pobjControl));
+  ChooseInserted(pobjControl, Insert(pobjControl));
 }
 
 void ToggleLock(Vantrel& pobjControl) {
@@ -99,7 +96,10 @@ void RunCommand(Vantrel& pobjControl, std::string_view pstrId) {
   const ControlCommand* const command = FindCommand(pstrId);
   if (!command) throw Error(vntErrInvalidCall);
   if (!command->Run || !command->IsEnabled(pobjControl)) return;
-  ShowErrors([&] { command->Run(pobjControl); });
+  ShowErrors([&] {
+    const ControlScope scope(pobjControl);
+    command->Run(pobjControl);
+  });
 }
 
 }  // namespace vantrel

@@ -1,7 +1,6 @@
 #include "designer/ControlProperties.h"
 
 #include "designer/HostEvents.h"
-#include "designer/StillShown.h"
 #include "model/DesignerState.h"
 #include "model/PropertyBuilder.h"
 #include "toolkit/ComDlg32.h"
@@ -55,10 +54,8 @@ void ControlProperties::ShowOnArcs(bool Workflow::*pFlag, bool pblnOn) {
   const auto workflow = mobjControl.Workflow();
   if (!workflow) throw Error(vntErrObjectNotSet);
   if ((*workflow).*pFlag == pblnOn) return;
-  const StillShown shown(mobjControl);
   workflow->Dirty(true);
   (*workflow).*pFlag = pblnOn;
-  if (!shown) return;
   for (Collection<Arc>::Cursor cursor(workflow->Arcs); Arc* arc = cursor.Next();) arc->Draw();
   const Element* framed = mobjControl.FocusFrame.SelectedControl().get();
   if (framed && !framed->Visible()) mobjControl.CurrentControl(nullptr);

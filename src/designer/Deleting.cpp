@@ -4,7 +4,6 @@
 
 #include "designer/ChartObjects.h"
 #include "designer/Selecting.h"
-#include "designer/StillShown.h"
 
 namespace vantrel {
 
@@ -23,9 +22,7 @@ void Deleting::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
   const auto object = pobjObject;  // NOLINT(performance-unnecessary-copy-initialization): it may be the selection's share, which goes
   const auto workflow = mobjControl.Workflow();
   if (!workflow || !object) throw Error(vntErrObjectNotSet);
-  const StillShown shown(mobjControl);
   workflow->Dirty(true);
-  if (!shown) return;
   const auto chartObject = std::dynamic_pointer_cast<ChartObject>(object);
   if (chartObject && chartObject->Kind() != ChartKind::Elbow) Selecting(mobjControl).Forget(workflow->Remove(chartObject));
   mobjControl.CurrentControl(nullptr);
@@ -33,19 +30,16 @@ void Deleting::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
 }
 
 void Deleting::DeleteSelection() {
-  const StillShown shown(mobjControl);
   const auto workflow = mobjControl.Workflow();
   const auto objects = Doomed();
   mobjControl.Selection(nullptr);
   for (const auto& object : objects) {
-    if (!IsPartOf(*object, *workflow)) continue;
-    DeleteObject(object);
-    if (!shown) return;
+    if (IsPartOf(*object, *workflow)) DeleteObject(object);
   }
   mobjControl.Selection(nullptr);
   mobjControl.CurrentControl(nullptr);
   mobjControl.Dirty(true);
-  if (shown) mobjControl.Refresh();
+  mobjControl.Refresh();
 }
 
 }  // namespace vantrel

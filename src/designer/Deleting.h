@@ -16,7 +16,7 @@ class Deleting {
 
   /// The selection, or the object of the current element when nothing is selected.
   std::vector<std::shared_ptr<ModelObject>> Doomed() const;
-  /// Deletes Doomed. What a listener has deleted meanwhile is passed over.
+  /// Deletes Doomed.
   void DeleteSelection();
   /// Error 5 when the workflow does not have the object.
   void DeleteObject(const std::shared_ptr<ModelObject>& pobjObject);

@@ -185,9 +185,8 @@ void FocusFrame::Store(const std::string& pstrText) {
 
 void FocusFrame::EndEdit(const std::string& pstrText) {
   if (!mblnEditing) return;
-  const Ref<Vantrel> control(&mobjControl);
   CancelEdit();
-  if (control) Store(pstrText);
+  Store(pstrText);
 }
 
 void FocusFrame::CancelEdit() {

@@ -4,7 +4,6 @@
 #include "designer/CurrentPosition.h"
 #include "designer/ElementBinding.h"
 #include "designer/Selecting.h"
-#include "designer/StillShown.h"
 
 namespace vantrel {
 
@@ -77,9 +76,8 @@ std::shared_ptr<Vector> Inserting::CurrentSegment() const {
 void Inserting::InsertElbow() {
   const auto vector = CurrentSegment();
   if (!vector) return;
-  const StillShown shown(mobjControl);
   vector->Arc()->InsertVector(vector);
-  if (shown) mobjControl.Dirty(true);
+  mobjControl.Dirty(true);
 }
 
 void Inserting::RemoveElbow() {
@@ -88,7 +86,6 @@ void Inserting::RemoveElbow() {
   const auto arc = vector->Arc().Lock();
   if (arc->Segments().size() < 2) return;
   mobjControl.CurrentControl(nullptr);
-  // Off chart and selection first: removing it tells everybody, and listeners must find only what is left.
   std::vector<std::shared_ptr<ChartObject>> leaving{vector};
   if (const auto bendPoint = BendPointGoingWith(*vector)) {
     if (bendPoint->Handle) bendPoint->Handle->Unload();
@@ -96,9 +93,7 @@ void Inserting::RemoveElbow() {
   }
   Selecting(mobjControl).Forget(leaving);
   arc->Selected(false);
-  const StillShown shown(mobjControl);
   arc->RemoveVector(vector);
-  if (!shown) return;
   arc->RemoveFocus();
   if (mobjControl.Comfort.ChosenIsSeen) mobjControl.Selection(nullptr);
   mobjControl.Dirty(true);

@@ -13,7 +13,6 @@
 #include "designer/HostEvents.h"
 #include "designer/PastePlace.h"
 #include "designer/Selecting.h"
-#include "designer/StillShown.h"
 
 namespace vantrel {
 
@@ -146,26 +145,21 @@ void Pasting::Paste() {
   const auto clipboard = mobjControl.Clipboard;
   if (!clipboard || clipboard->IsEmpty()) return;
   RequirePosition(mobjControl);
-  Objects objects;  // as they are now: deleting and listeners change selection and clipboard
+  Objects objects;  // as they are now: deleting changes selection and clipboard
   for (const auto& object : *clipboard) objects.push_back(object);
   mobjWorkflow = mobjControl.Workflow() ? mobjControl.Workflow() : std::make_shared<Workflow>();
   RequirePictures(objects);
   RequireKeys(objects);
   ChooseNames(objects);
   ChoosePlace(objects);
-  const Ref<Vantrel> control(&mobjControl);
   if (!mobjControl.Workflow()) mobjControl.Workflow(mobjWorkflow);
-  if (!control || mobjControl.Workflow() != mobjWorkflow) return;
-  const StillShown shown(mobjControl);
   MakeRoom();
-  if (!shown) return;
   PasteAll(objects);
   Selecting(mobjControl).MakeSingleCurrent();
-  if (!shown) return;
   mobjControl.Refresh();
   const auto pasted = mobjControl.Selection();
   mobjWorkflow->Dirty(true);
-  if (shown) RaiseLater(mobjControl, &Vantrel::OnPasted, pasted);
+  RaiseLater(mobjControl, &Vantrel::OnPasted, pasted);
 }
 
 }  // namespace vantrel

@@ -93,6 +93,21 @@ TEST_F(HostEventsTest, OfTokensComeInTheMiddle) {
   Control->UseMode(vntDesign);
 }
 
+TEST_F(HostEventsTest, OfTokensMayEndTheControlInTheMiddleOfAFiring) {
+  Control->InsertArc(Net->Transitions.First(), Net->Places.Last());
+  Control->UseMode(vntTest);
+  Begin().TriggerType(vntTimed);
+  Begin().OutputType(vntBroadcast);
+  Net->EndPlace(nullptr);
+  Start().AddToken(Net->CreateToken(&Start()));
+  Keep(Control->OnTokenAdded.Connect([&](const auto&, const auto&) { Control.reset(); }));
+  const Image& image = *Begin().Image;
+  const float x = MiddleX(image), y = MiddleY(image);
+  Net = nullptr;
+  Press(x, y);
+  EXPECT_EQ(Control, nullptr);
+}
+
 TEST_F(HostEventsTest, AreAllToldWhateverAListenerThrows) {
   Do = [] { throw Error(vntErrTypeMismatch); };
   Told others;

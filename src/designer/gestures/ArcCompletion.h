@@ -8,7 +8,7 @@ namespace vantrel {
 class Vantrel;
 
 /// Joins the current control's object to the object of an image, if the rules allow it; drawing the arc is over in any case.
-/// Raises ArcInserted, behind which the control may be gone.
+/// Raises ArcInserted.
 void CompleteArc(Vantrel& pobjControl, Image& pobjTarget);
 
 }  // namespace vantrel

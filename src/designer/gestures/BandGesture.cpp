@@ -9,28 +9,24 @@
 namespace vantrel {
 
 BandGesture::BandGesture(Vantrel& pobjControl, const PointerInput& pobjPress)
-    : mobjControl(&pobjControl), msngX(pobjPress.X), msngY(pobjPress.Y) {}
+    : mobjControl(pobjControl), msngX(pobjPress.X), msngY(pobjPress.Y) {}
 
 void BandGesture::Move(const PointerInput& pobjInput) {
-  if (!mobjControl) return;
-  ShowChartPointer(*mobjControl);
-  if (mobjControl->IsInsertingArc() || !mobjControl->Selection()->IsEmpty()) return;
-  mobjControl->MultiSelect.Area(
+  ShowChartPointer(mobjControl);
+  if (mobjControl.IsInsertingArc() || !mobjControl.Selection()->IsEmpty()) return;
+  mobjControl.MultiSelect.Area(
       {std::min(msngX, pobjInput.X), std::min(msngY, pobjInput.Y), std::max(msngX, pobjInput.X), std::max(msngY, pobjInput.Y)});
-  mobjControl->MultiSelect.Visible(true);
+  mobjControl.MultiSelect.Visible(true);
 }
 
 void BandGesture::Release(const PointerInput&) {
-  if (!mobjControl || !mobjControl->MultiSelect.Visible()) return;
-  if (mobjControl->Workflow()) mobjControl->Selection(mobjControl->GetSelections());
+  if (!mobjControl.MultiSelect.Visible()) return;
+  if (mobjControl.Workflow()) mobjControl.Selection(mobjControl.GetSelections());
   Cancel();
-  if (!mobjControl) return;
-  mobjControl->MultiSelectOn = !mobjControl->Selection()->IsEmpty();
-  Selecting(*mobjControl).MakeSingleCurrent();
+  mobjControl.MultiSelectOn = !mobjControl.Selection()->IsEmpty();
+  Selecting(mobjControl).MakeSingleCurrent();
 }
 
-void BandGesture::Cancel() {
-  if (mobjControl) mobjControl->MultiSelect.Visible(false);
-}
+void BandGesture::Cancel() { mobjControl.MultiSelect.Visible(false); }
 
 }  // namespace vantrel

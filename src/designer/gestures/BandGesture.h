@@ -2,7 +2,6 @@
 #pragma once
 
 #include "designer/gestures/Gesture.h"
-#include "util/Ref.h"
 
 namespace vantrel {
 
@@ -18,7 +17,7 @@ class BandGesture final : public Gesture {
   void Cancel() override;
 
  private:
-  Ref<Vantrel> mobjControl;
+  Vantrel& mobjControl;
   float msngX, msngY;  // of the press
 };
 

@@ -8,11 +8,10 @@
 namespace vantrel {
 
 void ChooseAlone(Vantrel& pobjControl, const Ref<Element>& pobjElement) {
-  const Ref<Vantrel> control(&pobjControl);
   const auto element = pobjElement;  // NOLINT(performance-unnecessary-copy-initialization): the caller's may be the control's own
-  control->CurrentControl(nullptr);
-  control->Selection(nullptr);
-  if (control && IsOnChart(element)) control->CurrentControl(element);
+  pobjControl.CurrentControl(nullptr);
+  pobjControl.Selection(nullptr);
+  if (IsOnChart(element)) pobjControl.CurrentControl(element);
 }
 
 void ChooseUnder(Vantrel& pobjControl, const PointerInput& pobjInput) {

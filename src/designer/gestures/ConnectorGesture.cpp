@@ -28,21 +28,21 @@ std::int16_t SideAt(const Image& pobjImage, float psngX, float psngY) {
 
 ConnectorGesture::ConnectorGesture(Vantrel& pobjControl, const std::shared_ptr<Node>& pobjNode, Image& pobjConnector,
                                    const PointerInput& pobjPress)
-    : mobjControl(&pobjControl),
+    : mobjControl(pobjControl),
       mobjNode(pobjNode),
       mobjConnector(&pobjConnector),
       msngX(pobjPress.X - pobjConnector.Left()),
       msngY(pobjPress.Y - pobjConnector.Top()) {}
 
-bool ConnectorGesture::IsAlive() const { return mobjControl && mobjNode && IsOnChart(mobjConnector) && IsOnChart(mobjNode->Image); }
+bool ConnectorGesture::IsShown() const { return mobjNode && IsOnChart(mobjConnector) && IsOnChart(mobjNode->Image); }
 
 void ConnectorGesture::Move(const PointerInput& pobjInput) {
-  if (!IsAlive()) return;
-  if (MayChange(*mobjControl)) mobjControl->Dirty(true);
-  if (!IsAlive() || mobjControl->UseMode() != vntDesign || mobjControl->LockControls()) return;
+  if (!IsShown()) return;
+  if (MayChange(mobjControl)) mobjControl.Dirty(true);
+  if (mobjControl.UseMode() != vntDesign || mobjControl.LockControls()) return;
   mblnMoved = true;
   mobjConnector->MoveTo(pobjInput.X - msngX, pobjInput.Y - msngY);
-  mobjControl->Tools().Pointer(SideAt(*mobjNode->Image, pobjInput.X, pobjInput.Y) ? vntPointerHand : vntPointerDefault);
+  mobjControl.Tools().Pointer(SideAt(*mobjNode->Image, pobjInput.X, pobjInput.Y) ? vntPointerHand : vntPointerDefault);
 }
 
 void ConnectorGesture::Drop(Node& pobjNode, std::int16_t pintSide) const {
@@ -56,25 +56,19 @@ void ConnectorGesture::Drop(Node& pobjNode, std::int16_t pintSide) const {
 
 void ConnectorGesture::Release(const PointerInput& pobjInput) {
   const auto node = mobjNode.Lock();
-  if (mblnMoved && IsAlive()) {
+  if (mblnMoved && IsShown()) {
     const std::int16_t side = SideAt(*node->Image, pobjInput.X, pobjInput.Y);
-    if (side && mobjControl->UseMode() == vntDesign) Drop(*node, side);
+    if (side && mobjControl.UseMode() == vntDesign) Drop(*node, side);
   }
   Snap();
-  if (!mobjControl) return;
-  mobjControl->FocusFrame.Visible(false);
-  if (mblnMoved) mobjControl->ExtendScrollRange();
+  mobjControl.FocusFrame.Visible(false);
+  if (mblnMoved) mobjControl.ExtendScrollRange();
 }
 
 void ConnectorGesture::Snap() const {
-  if (!mblnMoved || !IsAlive()) return;
+  if (!mblnMoved || !IsShown()) return;
   mobjNode->Draw();
-  ShowChartPointer(*mobjControl);
-}
-
-void ConnectorGesture::Cancel() {
-  Snap();
-  mobjControl = nullptr;  // a step that raised the event in which this happens goes no further
+  ShowChartPointer(mobjControl);
 }
 
 }  // namespace vantrel

@@ -23,14 +23,14 @@ class ConnectorGesture final : public Gesture {
 
   void Move(const PointerInput& pobjInput) override;
   void Release(const PointerInput& pobjInput) override;
-  void Cancel() override;
+  void Cancel() override { Snap(); }
 
  private:
-  bool IsAlive() const;
+  bool IsShown() const;
   void Drop(Node& pobjNode, std::int16_t pintSide) const;
   void Snap() const;
 
-  Ref<Vantrel> mobjControl;
+  Vantrel& mobjControl;
   Ref<Node> mobjNode;
   Ref<Image> mobjConnector;
   float msngX, msngY;  // of the press, inside the connector

@@ -25,11 +25,9 @@ bool OpenObject(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjOb
 }
 
 void EditLabel(Vantrel& pobjControl, const Ref<Element>& pobjLabel) {
-  const Ref<Vantrel> control(&pobjControl);
-  if (control->LockControls()) return;
-  if (control->Comfort.ChosenIsSeen && !(control->CurrentControl() == pobjLabel)) ChooseAlone(*control, pobjLabel);
-  if (!control || !IsOnChart(pobjLabel)) return;
-  FocusFrame& frame = control->FocusFrame;
+  if (pobjControl.LockControls()) return;
+  if (pobjControl.Comfort.ChosenIsSeen && !(pobjControl.CurrentControl() == pobjLabel)) ChooseAlone(pobjControl, pobjLabel);
+  FocusFrame& frame = pobjControl.FocusFrame;
   if (!(frame.SelectedControl() == pobjLabel)) frame.SelectedControl(pobjLabel);
   frame.Visible(true);
   frame.Edit();

@@ -8,26 +8,23 @@ namespace vantrel {
 
 namespace {
 
-bool DropOnImage(const Ref<Vantrel>& pobjControl, const Element& pobjImage) {
-  const auto transition = std::dynamic_pointer_cast<Transition>(ObjectOf(*pobjControl, pobjImage));
-  if (!transition || !static_cast<const Image&>(pobjImage).AcceptsDrops()) return false;
-  const auto source = pobjControl->DragObject;
-  const auto dialogs = pobjControl->Dialogs;
-  dialogs->LoadRolesImage(*pobjControl, *transition);
-  if (pobjControl) RaiseLater(*pobjControl, &Vantrel::OnObjectDropped, transition, source);
+bool DropOnImage(Vantrel& pobjControl, const Image& pobjImage) {
+  const auto transition = std::dynamic_pointer_cast<Transition>(ObjectOf(pobjControl, pobjImage));
+  if (!transition || !pobjImage.AcceptsDrops()) return false;
+  RaiseLater(pobjControl, &Vantrel::OnObjectDropped, transition, pobjControl.DragObject);
+  const auto dialogs = pobjControl.Dialogs;
+  dialogs->LoadRolesImage(pobjControl, *transition);
   return true;
 }
 
 }  // namespace
 
 bool DropAt(Vantrel& pobjControl, const PointerInput& pobjInput) {
-  const Ref<Vantrel> control(&pobjControl);
-  const auto source = control->DragObject;
-  if (!source) return false;
-  const Element* element = ElementUnder(*control, pobjInput.X, pobjInput.Y);
-  if (element && element->Family() == ctlImageFamily) return DropOnImage(control, *element);
-  RaiseLater(*control, &Vantrel::OnObjectDragDrop, source, pobjInput.Button, pobjInput.Shift, pobjInput.X, pobjInput.Y);
-  if (control) control->Selection(nullptr);
+  if (!pobjControl.DragObject) return false;
+  const Element* element = ElementUnder(pobjControl, pobjInput.X, pobjInput.Y);
+  if (element && element->Family() == ctlImageFamily) return DropOnImage(pobjControl, static_cast<const Image&>(*element));
+  RaiseLater(pobjControl, &Vantrel::OnObjectDragDrop, pobjControl.DragObject, pobjInput.Button, pobjInput.Shift, pobjInput.X, pobjInput.Y);
+  pobjControl.Selection(nullptr);
   return true;
 }
 

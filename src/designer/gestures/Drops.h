@@ -8,7 +8,7 @@ namespace vantrel {
 class Vantrel;
 
 /// On the background ObjectDragDrop is raised; on a transition, on an image that takes objects, ObjectDropped.
-/// False when nothing takes the control's DragObject. The control may be gone behind it.
+/// False when nothing takes the control's DragObject.
 bool DropAt(Vantrel& pobjControl, const PointerInput& pobjInput);
 
 }  // namespace vantrel

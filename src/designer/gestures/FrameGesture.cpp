@@ -6,7 +6,7 @@
 namespace vantrel {
 
 FrameGesture::FrameGesture(Vantrel& pobjControl, std::int32_t plngHandle, const PointerInput& pobjPress)
-    : mobjControl(&pobjControl), mobjLabel(dynamic_cast<Label*>(pobjControl.FocusFrame.SelectedControl().get())), mlngHandle(plngHandle) {
+    : mobjControl(pobjControl), mobjLabel(dynamic_cast<Label*>(pobjControl.FocusFrame.SelectedControl().get())), mlngHandle(plngHandle) {
   const Rect handle = pobjControl.FocusFrame.Handle(plngHandle);
   msngX = pobjPress.X - handle.Left;
   msngY = pobjPress.Y - handle.Top;
@@ -14,14 +14,14 @@ FrameGesture::FrameGesture(Vantrel& pobjControl, std::int32_t plngHandle, const 
 }
 
 bool FrameGesture::CanResize() const {
-  return mobjControl && IsOnChart(mobjLabel) && mobjControl->FocusFrame.SelectedControl() == mobjLabel.get() &&
-         mobjControl->UseMode() == vntDesign && !mobjControl->LockControls();
+  return IsOnChart(mobjLabel) && mobjControl.FocusFrame.SelectedControl() == mobjLabel.get() && mobjControl.UseMode() == vntDesign &&
+         !mobjControl.LockControls();
 }
 
 void FrameGesture::Move(const PointerInput& pobjInput) {
   if (!CanResize()) return;
-  FocusFrame& frame = mobjControl->FocusFrame;
-  mobjControl->Tools().Pointer(FocusFrame::PointerOf(mlngHandle));
+  FocusFrame& frame = mobjControl.FocusFrame;
+  mobjControl.Tools().Pointer(FocusFrame::PointerOf(mlngHandle));
   const Rect handle = frame.Handle(mlngHandle);
   frame.DragHandle(mlngHandle, pobjInput.X - handle.Left - msngX, pobjInput.Y - handle.Top - msngY);
   mblnMoved = true;
@@ -30,14 +30,14 @@ void FrameGesture::Move(const PointerInput& pobjInput) {
 void FrameGesture::Release(const PointerInput& pobjInput) {
   if (!mblnMoved) return;
   Move(pobjInput);
-  if (CanResize()) mobjControl->FocusFrame.ReleaseHandle();
+  if (CanResize()) mobjControl.FocusFrame.ReleaseHandle();
 }
 
 void FrameGesture::Cancel() {
-  if (!mblnMoved || !mobjControl || !IsOnChart(mobjLabel)) return;
+  if (!mblnMoved || !IsOnChart(mobjLabel)) return;
   mobjLabel->MoveTo(mobjBefore.Left, mobjBefore.Top);
   mobjLabel->Resize(mobjBefore.Right - mobjBefore.Left, mobjBefore.Bottom - mobjBefore.Top);
-  mobjControl->FocusFrame.FrameControl();
+  mobjControl.FocusFrame.FrameControl();
 }
 
 }  // namespace vantrel

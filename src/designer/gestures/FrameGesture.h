@@ -25,7 +25,7 @@ class FrameGesture final : public Gesture {
   // False also when the frame has gone to another element meanwhile.
   bool CanResize() const;
 
-  Ref<Vantrel> mobjControl;
+  Vantrel& mobjControl;
   Ref<Label> mobjLabel;
   Rect mobjBefore;
   std::int32_t mlngHandle;

@@ -5,8 +5,8 @@
 
 namespace vantrel {
 
-/// One kind of drag. It is kept by whoever calls it as long as the call runs, for what it does raises events, and a listener may
-/// end it, delete what it drags or close the control: it looks again after everything that raises one.
+/// One kind of drag. Belongs to the control's input. Between two calls anything may have happened to the chart: each call looks first
+/// whether what is dragged is still there.
 class Gesture {
  public:
   Gesture() = default;

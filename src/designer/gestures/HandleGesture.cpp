@@ -8,13 +8,12 @@
 namespace vantrel {
 
 HandleGesture::HandleGesture(Vantrel& pobjControl, Image& pobjHandle, const PointerInput& pobjPress)
-    : mobjControl(&pobjControl), mobjHandle(&pobjHandle), msngX(pobjPress.X - pobjHandle.Left()), msngY(pobjPress.Y - pobjHandle.Top()) {}
+    : mobjControl(pobjControl), mobjHandle(&pobjHandle), msngX(pobjPress.X - pobjHandle.Left()), msngY(pobjPress.Y - pobjHandle.Top()) {}
 
 void HandleGesture::Move(const PointerInput& pobjInput) {
-  if (!mobjControl) return;
-  ShowChartPointer(*mobjControl);
-  const auto workflow = mobjControl->Workflow();
-  if (!workflow || !IsOnChart(mobjHandle) || mobjControl->LockControls() || !MayChange(*mobjControl)) return;
+  ShowChartPointer(mobjControl);
+  const auto workflow = mobjControl.Workflow();
+  if (!workflow || !IsOnChart(mobjHandle) || mobjControl.LockControls() || !MayChange(mobjControl)) return;
   const auto elbow = workflow->Elbows.Find(mobjHandle->Tag());
   if (!elbow) return;
   elbow->Left(pobjInput.X - msngX);
@@ -24,8 +23,6 @@ void HandleGesture::Move(const PointerInput& pobjInput) {
 
 void HandleGesture::Release(const PointerInput&) { Cancel(); }
 
-void HandleGesture::Cancel() {
-  if (mobjControl) mobjControl->Refresh();
-}
+void HandleGesture::Cancel() { mobjControl.Refresh(); }
 
 }  // namespace vantrel

@@ -19,7 +19,7 @@ class HandleGesture final : public Gesture {
   void Cancel() override;
 
  private:
-  Ref<Vantrel> mobjControl;
+  Vantrel& mobjControl;
   Ref<Image> mobjHandle;
   float msngX, msngY;  // of the press, inside the handle
 };

@@ -19,21 +19,19 @@ class ImageGesture final : public Gesture {
 
   void Move(const PointerInput& pobjInput) override;
   void Release(const PointerInput& pobjInput) override;
-  void Cancel() override { mobjControl = nullptr; }
 
  private:
-  bool IsAlive() const;
+  bool IsShown() const;
   void Gather();
   void Drag(const PointerInput& pobjInput);
   // Comfort::DragMovesChosen: without a drag the object is chosen alone.
   void ChooseClicked(const PointerInput& pobjInput);
 
-  Ref<Vantrel> mobjControl;
+  Vantrel& mobjControl;
   Ref<Image> mobjImage;
   MovingGroup mobjGroup;
   float msngX, msngY;  // of the press
   bool mblnGathered = false;
-  bool mblnDragging = false;  // a step runs: moves that arrive meanwhile are passed over
 };
 
 }  // namespace vantrel

@@ -32,9 +32,9 @@ Offset OffsetOf(std::int16_t pintCode, std::int16_t pintShift) {
   }
 }
 
-void ClearSelection(const Ref<Vantrel>& pobjControl) {
-  if (pobjControl) pobjControl->CurrentControl(nullptr);
-  if (pobjControl) pobjControl->Selection(nullptr);
+void ClearSelection(Vantrel& pobjControl) {
+  pobjControl.CurrentControl(nullptr);
+  pobjControl.Selection(nullptr);
 }
 
 void Delete(Vantrel& pobjControl) {
@@ -56,32 +56,31 @@ MovingGroup ToBeMoved(const Vantrel& pobjControl) {
   return group;
 }
 
-void Nudge(const Ref<Vantrel>& pobjControl, const Offset& pobjOffset) {
-  const auto workflow = pobjControl->Workflow();
+void Nudge(Vantrel& pobjControl, const Offset& pobjOffset) {
+  const auto workflow = pobjControl.Workflow();
   if (!workflow) return;
-  const auto moved = ToBeMoved(*pobjControl).MoveTo(*workflow, pobjOffset.X, pobjOffset.Y);
-  SelectionRectangle& band = pobjControl->MultiSelect;
+  const auto moved = ToBeMoved(pobjControl).MoveTo(*workflow, pobjOffset.X, pobjOffset.Y);
+  SelectionRectangle& band = pobjControl.MultiSelect;
   const Rect area = band.Area();
   band.Area({area.Left + pobjOffset.X, area.Top + pobjOffset.Y, area.Right + pobjOffset.X, area.Bottom + pobjOffset.Y});
-  pobjControl->FocusFrame.FrameControl();
+  pobjControl.FocusFrame.FrameControl();
   if (moved) workflow->Dirty(true);
 }
 
 }  // namespace
 
 bool PressKey(Vantrel& pobjControl, std::int16_t pintCode, std::int16_t pintShift) {
-  const Ref<Vantrel> control(&pobjControl);
   const bool clears = pintCode == kEscapeKey || pintCode == kDeleteKey;
-  if (clears && control->IsInsertingArc()) control->EndArcInsert();
-  if (pintCode == kDeleteKey) Delete(*control);
-  if (pintCode == kDeleteKey && control && !MayChange(*control)) return true;
+  if (clears && pobjControl.IsInsertingArc()) pobjControl.EndArcInsert();
+  if (pintCode == kDeleteKey) Delete(pobjControl);
+  if (pintCode == kDeleteKey && !MayChange(pobjControl)) return true;
   if (clears) {
-    ClearSelection(control);
+    ClearSelection(pobjControl);
     return true;
   }
   const Offset offset = OffsetOf(pintCode, pintShift);
   if (offset.X == 0 && offset.Y == 0) return false;
-  if (MayChange(*control)) Nudge(control, offset);
+  if (MayChange(pobjControl)) Nudge(pobjControl, offset);
   return true;
 }
 

@@ -8,24 +8,22 @@
 namespace vantrel {
 
 LabelGesture::LabelGesture(Vantrel& pobjControl, Label& pobjLabel, const PointerInput& pobjPress)
-    : mobjControl(&pobjControl),
+    : mobjControl(pobjControl),
       mobjLabel(&pobjLabel),
       msngX(pobjPress.X - pobjLabel.Left()),
       msngY(pobjPress.Y - pobjLabel.Top()),
       msngLeft(pobjLabel.Left()),
       msngTop(pobjLabel.Top()) {}
 
-bool LabelGesture::CanMove() const {
-  return mobjControl && IsOnChart(mobjLabel) && mobjControl->UseMode() == vntDesign && !mobjControl->LockControls();
-}
+bool LabelGesture::CanMove() const { return IsOnChart(mobjLabel) && mobjControl.UseMode() == vntDesign && !mobjControl.LockControls(); }
 
 void LabelGesture::MoveTo(float psngLeft, float psngTop) {
   mobjLabel->MoveTo(psngLeft, psngTop);
-  mobjControl->FocusFrame.FrameControl();
+  mobjControl.FocusFrame.FrameControl();
 }
 
 void LabelGesture::Move(const PointerInput& pobjInput) {
-  if (mobjControl) ShowChartPointer(*mobjControl);
+  ShowChartPointer(mobjControl);
   if (!CanMove()) return;
   mblnMoved = true;
   MoveTo(pobjInput.X - msngX, pobjInput.Y - msngY);
@@ -35,11 +33,11 @@ void LabelGesture::Release(const PointerInput& pobjInput) {
   if (!mblnMoved || !CanMove()) return;
   MoveTo(pobjInput.X - msngX, pobjInput.Y - msngY);
   const auto label = mobjLabel.Lock();
-  StoreLabelPlace(*mobjControl, *label);
+  StoreLabelPlace(mobjControl, *label);
 }
 
 void LabelGesture::Cancel() {
-  if (mblnMoved && mobjControl && IsOnChart(mobjLabel)) MoveTo(msngLeft, msngTop);
+  if (mblnMoved && IsOnChart(mobjLabel)) MoveTo(msngLeft, msngTop);
 }
 
 }  // namespace vantrel

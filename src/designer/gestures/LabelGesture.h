@@ -23,7 +23,7 @@ class LabelGesture final : public Gesture {
   bool CanMove() const;
   void MoveTo(float psngLeft, float psngTop);
 
-  Ref<Vantrel> mobjControl;
+  Vantrel& mobjControl;
   Ref<Label> mobjLabel;
   float msngX, msngY;       // of the press, inside the label
   float msngLeft, msngTop;  // of the label at the press

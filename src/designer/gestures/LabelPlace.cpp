@@ -74,11 +74,10 @@ void WithObject(Vantrel& pobjControl, const Label& pobjLabel, Store&& pStore) {
 }  // namespace
 
 void StoreLabelPlace(Vantrel& pobjControl, Label& pobjLabel) {
-  const Ref<Vantrel> control(&pobjControl);
   const auto workflow = pobjControl.Workflow();
   WithObject(pobjControl, pobjLabel, [&](auto& object) { StorePlace(object, pobjLabel); });
   if (workflow) workflow->Dirty(true);
-  if (control) control->FocusFrame.FrameControl();
+  pobjControl.FocusFrame.FrameControl();
 }
 
 void StoreLabelSize(Vantrel& pobjControl, Label& pobjLabel, float psngHeight, float psngWidth) {

@@ -9,44 +9,44 @@ namespace vantrel {
 
 namespace {
 
-void TakeSegment(const Ref<Vantrel>& pobjControl, const PointerInput& pobjInput) {
-  const auto line = SegmentAt(pobjControl->ChartArea, pobjInput.X, pobjInput.Y);
-  if (line) return pobjControl->CurrentControl(line);
-  pobjControl->CurrentControl(nullptr);
-  if (pobjControl) RaiseForObject(*pobjControl, &Vantrel::OnSelected, nullptr);
+void TakeSegment(Vantrel& pobjControl, const PointerInput& pobjInput) {
+  const auto line = SegmentAt(pobjControl.ChartArea, pobjInput.X, pobjInput.Y);
+  if (line) return pobjControl.CurrentControl(line);
+  pobjControl.CurrentControl(nullptr);
+  RaiseForObject(pobjControl, &Vantrel::OnSelected, nullptr);
 }
 
-std::shared_ptr<Gesture> LeftPress(const Ref<Vantrel>& pobjControl, const PointerInput& pobjInput) {
-  pobjControl->MultiSelectOn = false;
-  pobjControl->MultiSelect.Visible(false);
-  pobjControl->MultiSelect.Area({pobjInput.X, pobjInput.Y, pobjInput.X, pobjInput.Y});
-  pobjControl->Selection(nullptr);
-  pobjControl->FocusFrame.SelectedControl(nullptr);
-  if (pobjControl->IsInsertingArc()) {
-    PressKey(*pobjControl, kEscapeKey, vntNoShift);
+std::shared_ptr<Gesture> LeftPress(Vantrel& pobjControl, const PointerInput& pobjInput) {
+  pobjControl.MultiSelectOn = false;
+  pobjControl.MultiSelect.Visible(false);
+  pobjControl.MultiSelect.Area({pobjInput.X, pobjInput.Y, pobjInput.X, pobjInput.Y});
+  pobjControl.Selection(nullptr);
+  pobjControl.FocusFrame.SelectedControl(nullptr);
+  if (pobjControl.IsInsertingArc()) {
+    PressKey(pobjControl, kEscapeKey, vntNoShift);
   } else {
     TakeSegment(pobjControl, pobjInput);
   }
-  return pobjControl ? std::make_shared<BandGesture>(*pobjControl, pobjInput) : nullptr;
+  return std::make_shared<BandGesture>(pobjControl, pobjInput);
 }
 
-void RightPress(const Ref<Vantrel>& pobjControl) {
-  if (pobjControl->EnablePopups && pobjControl->UseMode() == vntDesign) {
-    pobjControl->ShowDesignMenu();
-  } else if (pobjControl->EnablePopups && pobjControl->UseMode() == vntTest) {
-    pobjControl->ShowTestMenu();
+void RightPress(Vantrel& pobjControl) {
+  const Ref<Vantrel> control(&pobjControl);  // the menu may end it
+  if (pobjControl.EnablePopups && pobjControl.UseMode() == vntDesign) {
+    pobjControl.ShowDesignMenu();
+  } else if (pobjControl.EnablePopups && pobjControl.UseMode() == vntTest) {
+    pobjControl.ShowTestMenu();
   }
-  if (pobjControl) RaiseForObject(*pobjControl, &Vantrel::OnRightClick, nullptr);
+  if (control) RaiseForObject(pobjControl, &Vantrel::OnRightClick, nullptr);
 }
 
 }  // namespace
 
 std::shared_ptr<Gesture> PressOnChart(Vantrel& pobjControl, const PointerInput& pobjInput) {
-  const Ref<Vantrel> control(&pobjControl);
-  control->CurrentX = pobjInput.X;
-  control->CurrentY = pobjInput.Y;
-  if (pobjInput.Button == vntLeftButton) return LeftPress(control, pobjInput);
-  RightPress(control);
+  pobjControl.CurrentX = pobjInput.X;
+  pobjControl.CurrentY = pobjInput.Y;
+  if (pobjInput.Button == vntLeftButton) return LeftPress(pobjControl, pobjInput);
+  RightPress(pobjControl);
   return nullptr;
 }
 

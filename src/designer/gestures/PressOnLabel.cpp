@@ -9,34 +9,32 @@ namespace vantrel {
 
 namespace {
 
-std::shared_ptr<Gesture> Take(const Ref<Vantrel>& pobjControl, const Ref<Label>& pobjLabel, const PointerInput& pobjInput) {
-  if (pobjControl->LockControls()) return nullptr;
-  pobjControl->Selection(nullptr);
-  pobjControl->CurrentControl(pobjLabel.get());
-  if (!pobjControl || !IsOnChart(pobjLabel)) return nullptr;
-  pobjControl->FocusFrame.SelectedControl(pobjLabel.get());
-  return std::make_shared<LabelGesture>(*pobjControl, *pobjLabel, pobjInput);
+std::shared_ptr<Gesture> Take(Vantrel& pobjControl, Label& pobjLabel, const PointerInput& pobjInput) {
+  if (pobjControl.LockControls()) return nullptr;
+  pobjControl.Selection(nullptr);
+  pobjControl.CurrentControl(&pobjLabel);
+  pobjControl.FocusFrame.SelectedControl(&pobjLabel);
+  return std::make_shared<LabelGesture>(pobjControl, pobjLabel, pobjInput);
 }
 
-void PlayWith(const Ref<Vantrel>& pobjControl, const Label& pobjLabel, const PointerInput& pobjInput) {
-  const auto object = ObjectOf(*pobjControl, pobjLabel);
-  pobjControl->Selection(nullptr);
+void PlayWith(Vantrel& pobjControl, const Label& pobjLabel, const PointerInput& pobjInput) {
+  const auto object = ObjectOf(pobjControl, pobjLabel);
+  pobjControl.Selection(nullptr);
   if (object) {
-    pobjControl->CurrentObject(object);
-    if (const auto element = ElementOf(*object)) pobjControl->CurrentControl(element);
+    pobjControl.CurrentObject(object);
+    if (const auto element = ElementOf(*object)) pobjControl.CurrentControl(element);
   }
-  if (pobjControl && pobjInput.Button == vntRightButton && pobjControl->UseMode() == vntTest) pobjControl->ShowTestMenu();
+  if (pobjInput.Button == vntRightButton && pobjControl.UseMode() == vntTest) pobjControl.ShowTestMenu();
 }
 
 }  // namespace
 
 std::shared_ptr<Gesture> PressOnLabel(Vantrel& pobjControl, Label& pobjLabel, const PointerInput& pobjInput) {
-  const Ref<Vantrel> control(&pobjControl);
   if (pobjControl.UseMode() == vntDesign) {
-    if (pobjInput.Button == vntLeftButton) return Take(control, &pobjLabel, pobjInput);
+    if (pobjInput.Button == vntLeftButton) return Take(pobjControl, pobjLabel, pobjInput);
     if (pobjControl.EnablePopups) pobjControl.ShowDesignMenu();
   } else if (IsTesting(pobjControl)) {
-    PlayWith(control, pobjLabel, pobjInput);
+    PlayWith(pobjControl, pobjLabel, pobjInput);
   }
   return nullptr;
 }

@@ -15,10 +15,8 @@ std::shared_ptr<Gesture> PressAt(Vantrel& pobjControl, const PointerInput& pobjI
   frame.HasFocus(handle >= 0);
   if (handle >= 0) return std::make_shared<FrameGesture>(pobjControl, handle, pobjInput);
 
-  const Ref<Vantrel> control(&pobjControl);
   const bool choosesFirst = !isLeft && pobjControl.Comfort.RightClickChooses && pobjControl.UseMode() == vntDesign;
   if (choosesFirst && !pobjControl.IsInsertingArc()) ChooseUnder(pobjControl, pobjInput);
-  if (!control) return nullptr;
 
   Element* const element = ElementUnder(pobjControl, pobjInput.X, pobjInput.Y);
   if (!element) return PressOnChart(pobjControl, pobjInput);

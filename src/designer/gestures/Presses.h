@@ -12,8 +12,8 @@ namespace vantrel {
 class Gesture;
 class Vantrel;
 
-/// Each does what the press does at once and returns the drag that it begins, or null. Listeners may close the control
-/// meanwhile: what they return then is null.
+/// Each does what the press does at once and returns the drag that it begins, or null. A menu, or what a firing runs, may close the
+/// control meanwhile: what they return then is null.
 std::shared_ptr<Gesture> PressOnChart(Vantrel& pobjControl, const PointerInput& pobjInput);
 std::shared_ptr<Gesture> PressOnImage(Vantrel& pobjControl, Image& pobjImage, const PointerInput& pobjInput);
 std::shared_ptr<Gesture> PressOnLabel(Vantrel& pobjControl, Label& pobjLabel, const PointerInput& pobjInput);
