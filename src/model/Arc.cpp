@@ -11,7 +11,7 @@ namespace vantrel {
 
 namespace {
 
-// Those of the objects that the collection holds, in its order.
+// Those of the objects that are in the collection, in its order.
 template <class T>
 std::vector<T*> InOrderOf(const Collection<T>& pcolAll, const std::vector<T*>& pcolSome) {
   if (pcolSome.size() == 1) return pcolAll.RankOf(pcolSome.front()->Key, pcolSome.front()) >= 0 ? pcolSome : std::vector<T*>();

@@ -41,23 +41,23 @@ class Arc final : public ChartObject {
   std::string Class() const override { return "VNTR.Arc.1"; }
   ChartKind Kind() const override { return ChartKind::Arc; }
   std::string NameText() const override { return Name(); }
-  /// "source->target" by the names of its ends; the key while an end is missing.
+  /// "source->target", with the names of its ends; the key while an end is missing.
   std::string Name() const;
 
   bool Visible() const { return mblnVisible; }
   /// Shows or hides segments and labels; bend points stay as they are.
   void Visible(bool pblnOn);
   bool Selected() const override { return mblnSelected; }
-  /// Thick segments with their bend points, or thin ones without.
+  /// True draws thick segments with their bend points, false thin ones without.
   void Selected(bool pblnOn) override;
-  /// The look of a selected arc without being selected, and back.
+  /// Draws the arc as if it were selected, or as usual again.
   void Setfocus() { ShowFocus(true); }
   void RemoveFocus() { ShowFocus(false); }
 
   const std::string& Weight() const { return mstrWeight; }
-  /// Stores and shows it; the control then has no current element.
+  /// Stores and shows the text; the control then has no current element.
   void Weight(const std::string& pstrWeight);
-  /// Stores it alone, for an arc that is on no chart yet.
+  /// Stores the text alone, for an arc that is on no chart yet.
   void AssignWeight(const std::string& pstrWeight) { mstrWeight = pstrWeight; }
   const std::string& Guard() const { return mstrGuard; }
   void Guard(const std::string& pstrGuard);
@@ -80,53 +80,53 @@ class Arc final : public ChartObject {
   float WeightWidth() const { return msngWeightWidth; }
   void WeightWidth(float psngWidth);
 
-  /// A new collection of the segments that the workflow has, keyed by their keys, in its order; null without a workflow. It is
-  /// the caller's: keep it in a variable while walking it (`for (... : *arc->Vectors())` walks one that is gone).
+  /// A new collection of the segments that the workflow has, by their keys, in its order; null without a workflow. Keep it in a variable
+  /// while you walk over it: `for (... : *arc->Vectors())` uses one that is deleted.
   std::shared_ptr<Collection<Vector>> Vectors() const;
   /// A new collection of the bend points that the shown workflow has (the arc's own while none is shown), keyed by their
   /// keys, in its order; empty for a straight arc.
   std::shared_ptr<Collection<Elbow>> Elbows() const;
-  /// The same as plain pointers, out of the arc's own workflow: good until an object is removed from it.
+  /// The same as plain pointers, from the arc's own workflow. Valid until an object is removed from it.
   std::vector<Vector*> Segments() const;
   std::vector<Elbow*> BendPoints() const;
 
-  /// The path as points from source to target: of an arc that left its workflow, or whose workflow is gone, the last one if it was
-  /// bent. Where stored segments do not meet, the end of the first one counts.
+  /// The path as points from source to target. For an arc that left its workflow, or whose workflow is gone, the last path if it was bent.
+  /// Where stored segments do not meet, the end of the first one counts.
   std::vector<Point> Path() const;
   /// Replaces the path: makes and removes segments and bend points as needed, links them, marks the arc dirty and draws it. An
   /// arc on a chart keeps its look. Error 5 for fewer than two points, Error 91 without a workflow.
   void Path(const std::vector<Point>& pcolPoints);
-  /// Remembers a bent path for Path: before the arc leaves its workflow or the workflow goes.
+  /// Remembers a bent path for Path. Call it before the arc leaves its workflow or the workflow dies.
   void KeepPath();
   /// Adds a segment without links to the workflow's Vectors: for readers of stored segments. Error 91 without a workflow.
   std::shared_ptr<Vector> AddSegment();
-  /// Links the segments into one chain and gives each joint that has none a bend point without a handle. Returns the chain, from
-  /// source to target; good until an object is removed from the workflow.
+  /// Links the segments into one chain and gives each joint without a bend point one that has no handle. Returns the chain, from source to
+  /// target. Valid until an object is removed from the workflow.
   std::vector<Vector*> LinkSegments();
 
-  /// Brings path, bend points and labels to where ends and offsets say; nothing while invisible. Skips what is missing.
+  /// Moves path, bend points and labels to where ends and offsets put them. Does nothing while invisible. Skips what is missing.
   void Draw();
 
   /// Splits a segment of this arc in the middle and returns the new second half, which the workflow owns. Error 91 without
   /// a workflow.
   std::shared_ptr<Vector> InsertVector(const std::shared_ptr<Vector>& pobjVector);
-  /// Removes a segment and joins its neighbours. Not for an arc's only segment. Error 5 when the workflow does not have it.
+  /// Removes a segment, but not an arc's only one, and joins its neighbours. Error 5 when the workflow does not have it.
   void RemoveVector(const std::shared_ptr<Vector>& pobjVector);
 
-  /// An arc of the same direction, labels and path between two other objects, added to a workflow, moved by as much as the
-  /// place is; segments linked and with bend points where this arc has them, without lines or labels. Linking it to the
-  /// ends' InArcs and OutArcs is the caller's task.
+  /// Adds to a workflow an arc of the same direction, labels and path between two other objects, moved by as much as the place is. Its
+  /// segments are linked and have bend points where this arc has them, but no lines or labels. The caller adds it to the ends' InArcs
+  /// and OutArcs.
   std::shared_ptr<Arc> Clone(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow, const std::shared_ptr<vantrel::Place>& pobjPlace,
                              const std::shared_ptr<vantrel::Transition>& pobjTransition) const;
 
-  /// Copies the current row of the Arc table; place and transition are the caller's task, StdPath is not read. Throws Error for
-  /// columns that cannot be read.
+  /// Copies the current row of the Arc table, without StdPath. The caller sets place and transition. Throws Error for columns that cannot
+  /// be read.
   void AssignValues(const Recordset& pobjRow);
 
   std::shared_ptr<PropertyCollection> GetProperties() override;
   /// Leaves the arc clean.
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
-  /// "Name" is refused, for it follows from the ends: nothing changes, the mark included.
+  /// Refuses "Name", which follows from the ends: changes nothing, not even the dirty mark.
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
  private:

@@ -29,7 +29,7 @@ Chain ByLinks(const Chain& pcolSegments) {
   return chain;
 }
 
-// The first one of the workflow when the path is closed.
+// The workflow's first one if the path is closed.
 Vector* AtSource(const Chain& pcolSegments) {
   std::map<Spot, int> ends;
   for (const Vector* segment : pcolSegments) {
@@ -41,7 +41,7 @@ Vector* AtSource(const Chain& pcolSegments) {
 }
 
 Chain ByEnds(const Chain& pcolSegments) {
-  std::multimap<Spot, Vector*> waiting;  // equal points stay in the workflow's order
+  std::multimap<Spot, Vector*> waiting;  // equal points keep the workflow's order
   Vector* const first = AtSource(pcolSegments);
   for (Vector* segment : pcolSegments) {
     if (segment != first) waiting.emplace(StartOf(*segment), segment);

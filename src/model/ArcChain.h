@@ -7,9 +7,9 @@
 
 namespace vantrel {
 
-/// The segments of an arc from its source to its target. Segments that come from a database carry no links: then each is
-/// followed by one that starts where it ends, from the one at which nothing ends; where neither leads through all of them,
-/// they stay in the workflow's order. Good until an object is removed from the workflow.
+/// The segments of an arc from its source to its target, by their links. Segments from a database have no links: then the first is the one
+/// at which none ends, and each is followed by one that starts where it ends. If neither way leads through all of them, they keep the
+/// workflow's order. Valid until an object is removed from the workflow.
 std::vector<Vector*> ChainOf(const Arc& pobjArc);
 
 }  // namespace vantrel

@@ -21,7 +21,7 @@ struct Ends {
   Node& Target;
 };
 
-// Connectors are to be seen exactly while the place is.
+// Connectors are visible exactly while the place is.
 void ShowConnectors(const Ends& pobjEnds, const Place& pobjPlace) {
   if (auto* connector = pobjEnds.Target.InConnector.get()) connector->Visible(pobjPlace.Visible());
   if (auto* connector = pobjEnds.Source.OutConnector.get()) connector->Visible(pobjPlace.Visible());
@@ -37,7 +37,7 @@ std::optional<ArcEnd> InputPoint(const Node& pobjNode) {
   return ArcEnd{InputConnectorX(pobjNode), InputConnectorY(pobjNode)};
 }
 
-// A joint takes the point of whichever of its two segments comes later in the workflow; normally both hold the same.
+// A joint takes the point of that of its two segments that comes later in the workflow; usually both have the same.
 void DrawSegments(const std::vector<Vector*>& pcolSegments, std::optional<ArcEnd> pStart, std::optional<ArcEnd> pEnd) {
   for (Vector* segment : pcolSegments) {
     ArcEnd from{segment->X1(), segment->Y1()}, to{segment->X2(), segment->Y2()};

@@ -75,7 +75,7 @@ std::vector<Point> Arc::Path() const {
   return points;
 }
 
-// A straight run says nothing that the arc's ends do not.
+// A straight path adds nothing to the arc's ends.
 void Arc::KeepPath() {
   if (mcolSegments.size() > 1) mcolLastPath = Path();
 }
@@ -154,7 +154,7 @@ std::shared_ptr<Vector> Arc::InsertVector(const std::shared_ptr<Vector>& pobjVec
 }
 
 void Arc::RemoveVector(const std::shared_ptr<Vector>& pobjVector) {
-  // The caller's may be the workflow's own share, which goes. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+  // The caller's may be the workflow's own share, which this releases. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
   const auto vector = pobjVector;
   vantrel::Workflow& workflow = *Workflow;
   if (workflow.Vectors.Find(vector->Key) != vector) throw Error(vntErrInvalidCall);

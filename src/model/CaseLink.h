@@ -10,8 +10,8 @@ namespace vantrel {
 
 class Token;
 
-/// Reads and assigns like a std::shared_ptr<WorkCase>, in half its room: the case itself counts its links and keeps itself
-/// alive for them. The link of a token tells the token's place of every assignment; a copy is a value and tells nobody.
+/// Reads and assigns like a std::shared_ptr<WorkCase>, in half the memory: the case itself counts its links and keeps itself alive for
+/// them. A token's link tells the token's place of every assignment; a copy of it is a plain value.
 class CaseLink {
  public:
   CaseLink() = default;
@@ -30,7 +30,7 @@ class CaseLink {
   }
   ~CaseLink() { Release(); }
 
-  /// The first assignment of a token that lies nowhere yet; nobody needs to hear of it.
+  /// The first assignment, while the token is in no place that could be told.
   void Begin(const std::shared_ptr<WorkCase>& pobjCase) {
     mobjCase = pobjCase.get();
     if (mobjCase && mobjCase->mTies.Links++ == 0) mobjCase->mTies.Keeper = pobjCase;
@@ -81,11 +81,11 @@ class CaseMark {
   bool mblnOfToken = false;
 };
 
-/// What a token knows of its case. A base, so that the mark finds its token without a pointer of its own.
+/// What a token knows of its case. A base class, so that the mark finds its token without a pointer.
 struct CaseFields {
   explicit CaseFields(const Token* pobjToken) : WorkCase(pobjToken), mblnCaseEnabled(pobjToken) {}
 
-  CaseLink WorkCase;         ///< nothing for an anonymous token
+  CaseLink WorkCase;         ///< null for an anonymous token
   CaseMark mblnCaseEnabled;  ///< what Token::CaseEnabled reads and sets
 };
 

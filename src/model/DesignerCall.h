@@ -5,8 +5,8 @@
 
 namespace vantrel {
 
-/// Makes a state the current one as long as it lives; then that of before is it again, or after the outermost call the newest. Any of
-/// them may go meanwhile.
+/// Makes a state the current one while it lives. At its end the previous state becomes current again, or, after the outermost call, the
+/// newest. Any of them may be deleted meanwhile.
 class DesignerCall {
  public:
   explicit DesignerCall(DesignerState& pobjState) {
@@ -15,7 +15,7 @@ class DesignerCall {
     mobjBefore = DesignerState::sCurrent;
     DesignerState::sCurrent = &pobjState;
   }
-  /// The state of the control that shows the workflow. What was read meanwhile is not the workflow shown.
+  /// The state of the control that shows the workflow. A workflow that was read meanwhile is not shown.
   explicit DesignerCall(const Ref<Workflow>& pobjWorkflow) : DesignerCall(DesignerOf(pobjWorkflow)) {
     DesignerState& state = DesignerState::Current();
     if (pobjWorkflow && pobjWorkflow->IsShown() && !(state.Workflow == pobjWorkflow)) state.Workflow = pobjWorkflow;
@@ -31,7 +31,7 @@ class DesignerCall {
   DesignerCall& operator=(const DesignerCall&) = delete;
 
  private:
-  Ref<DesignerState> mobjBefore;  // null where nothing changed
+  Ref<DesignerState> mobjBefore;  // null if nothing changed
 };
 
 }  // namespace vantrel

@@ -17,8 +17,8 @@ namespace vantrel {
 
 class WorkflowReader;
 
-/// The model's view of the designer control, reached as gobjVantrel. What stands here is the host that serves while no
-/// control exists: it accepts everything, shows nothing, has no elements to give and answers every question with "cancel".
+/// What the model knows of the designer control, reached as gobjVantrel. The functions here are those of the host used while there is no
+/// control: it accepts everything, shows nothing, gives no elements and answers every question with "cancel".
 class DesignerHost {
  public:
   virtual ~DesignerHost() = default;
@@ -27,35 +27,35 @@ class DesignerHost {
   virtual WorkflowReader* VNTRDB() { return nullptr; }
   /// The workflow shown; new places and transitions belong to it.
   virtual Ref<vantrel::Workflow> Workflow() const { return nullptr; }
-  /// Where new places and transitions lie, twips.
+  /// The position of new places and transitions, twips.
   virtual float CurrentX() const { return 200; }
   virtual float CurrentY() const { return 200; }
 
   /// Another control is about to show this one's workflow.
   virtual void LetGo() {}
 
-  /// A workflow became dirty or clean, or what it was already.
+  /// A workflow's dirty mark was set, perhaps to the same value.
   virtual void Dirty(vantrel::Workflow& /*pobjWorkflow*/, bool /*pblnDirty*/) {}
   /// Takes the process-wide use mode, gintUseMode.
   virtual void UseMode(UseModeConstant pintMode);
   /// Makes an element the current one, or none.
   virtual void CurrentControl(const Ref<Element>&) {}
-  /// Hands a transition's action to the host application.
+  /// Gives a transition's action to the host application.
   virtual void RunAction(Transition&) {}
 
-  /// New hidden elements on the chart, owned by it; nothing while there is no chart.
+  /// New hidden elements on the chart, which owns them; null while there is no chart.
   virtual Ref<Image> NewImage() { return nullptr; }
   virtual Ref<Label> NewLabel() { return nullptr; }
   virtual Ref<Label> NewCountLabel() { return nullptr; }
   virtual Ref<Line> NewLine() { return nullptr; }
   virtual Ref<Image> NewHandle() { return nullptr; }
 
-  /// Fits the focus frame round its element again, if it is to be seen.
+  /// Fits the focus frame round its element again, if it is visible.
   virtual void FrameControl() {}
   /// Names of the fonts on this system, in the system's order.
   virtual std::vector<std::string> FontNames() const { return {"Arial"}; }
 
-  /// Asks the user for one of the options. The chosen option's text, or nothing when the user cancels.
+  /// Asks the user for one of the options. Returns its text, or nothing when the user cancels.
   virtual std::optional<std::string> SelectOption(const std::string& /*pstrPrompt*/, const std::vector<std::string>& /*pcolOptions*/) {
     return std::nullopt;
   }

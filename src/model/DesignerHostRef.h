@@ -5,7 +5,7 @@
 
 namespace vantrel {
 
-/// Leads to the built-in host while it holds no other one. Whoever sets it takes it back before the host dies.
+/// Refers to the built-in host while it holds no other one. Reset it before the host dies.
 class DesignerHostRef {
  public:
   DesignerHostRef() = default;

@@ -52,7 +52,7 @@ DesignerState::~DesignerState() {
   if (sCurrent == this) sCurrent = sNewest;
 }
 
-// The one that belongs to no control. It is never the last to go: what refers to it may live as long.
+// The one that belongs to no control. Never destroyed, as what refers to it may live as long.
 DesignerState& DesignerState::First() {
   static DesignerState& first = *new DesignerState;
   return first;

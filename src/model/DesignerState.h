@@ -9,17 +9,17 @@
 
 namespace vantrel {
 
-/// Each control has one, and one more serves while there is no control. One of them is the current one: that of the control that is
-/// being called, and between two calls the newest. An object takes the state of the control that shows its workflow
-/// (Workflow::Designer) and the current one only when no control shows it.
+/// Each control has one, and there is one more for use without a control. One of them is the current one: that of the control that is
+/// being called, and between calls the newest. An object uses the state of the control that shows its workflow (Workflow::Designer),
+/// and the current one only when no control shows it.
 class DesignerState : public Referable {
  public:
-  /// The current one from now on, unless a call is under way (DesignerCall): then as soon as that is over.
+  /// Becomes the current one, but not before a call in progress (DesignerCall) is over.
   DesignerState();
   /// With the same values.
   DesignerState(const DesignerState& pobjFrom);
   DesignerState& operator=(const DesignerState&) = delete;
-  /// When the current one goes, the newest of the others follows.
+  /// When the current one is deleted, the newest of the others becomes current.
   ~DesignerState();
 
   DesignerHostRef Host;
@@ -51,10 +51,10 @@ inline constexpr CurrentValue<&DesignerState::UseMode> gintUseMode;
 inline constexpr CurrentValue<&DesignerState::InputPosition> gintInputPosition;
 inline constexpr CurrentValue<&DesignerState::OutputPosition> gintOutputPosition;
 
-extern WorkflowReader* gobjWorkflowReader;  ///< who is reading a workflow now; null while nobody is
+extern WorkflowReader* gobjWorkflowReader;  ///< the reader of the workflow being read now; null otherwise
 
-/// Gives a host that is no control a state of its own, with the values of the current one, and makes it the current one. Goes with
-/// the scope; then the state of before is the current one again.
+/// Gives a host that is not a control its own state, with the values of the current one, and makes it current. At the end of the scope
+/// the previous state is current again.
 class DesignerStateScope {
  public:
   DesignerStateScope();

@@ -39,7 +39,7 @@ class Elbow final : public ChartObject {
   void Left(float psngLeft);
   std::optional<Rect> Bounds() const override;
   void MoveTo(float psngLeft, float psngTop) override;
-  /// Puts the handle round a point without moving the joint and without a mark.
+  /// Puts the handle round a point without moving the joint and without marking it dirty.
   void CentreHandle(float psngX, float psngY);
 
   bool Visible() const { return mblnVisible; }
@@ -47,10 +47,10 @@ class Elbow final : public ChartObject {
   bool Selected() const override { return mblnSelected; }
   void Selected(bool pblnOn) override { mblnSelected = pblnOn; }
   bool Dirty() const { return mblnDirty; }
-  /// True also marks the arc and the segment behind.
+  /// True also marks the arc and the segment after it.
   void Dirty(bool pblnDirty);
 
-  /// The arc's; Error 91 without an arc.
+  /// The arc's value; Error 91 without an arc.
   std::shared_ptr<PropertyCollection> GetProperties() override;
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;

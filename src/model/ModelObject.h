@@ -13,21 +13,20 @@ namespace vantrel {
 /// An object whose settings a property grid can show and edit.
 class ModelObject : public Object {
  public:
-  /// Fresh records for the object's current state, in the order in which a grid shows them; the caller owns them. (Objects
-  /// whose records are their own, such as tokens, say so.)
+  /// New records of the object's current state, in the order in which a grid shows them. The caller owns them, unless the class says
+  /// otherwise, as Token does.
   virtual std::shared_ptr<PropertyCollection> GetProperties() = 0;
 
-  /// Applies every record in the collection's order: its value, stored under its name. Error 91 for none. Where
-  /// a class stores some names straight into its fields, a value that does not convert throws its Error to the caller.
+  /// Stores the value of every record under its name, in the collection's order. Error 91 for null. Where a class stores some names
+  /// directly in its fields, a value that does not convert throws its Error.
   virtual void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties);
 
-  /// Stores one value under a name (exact comparison), converted to the setting's type, and marks the object and its
-  /// workflow dirty. A value that does not convert is reported in a message box with the error's own text; then nothing
-  /// is stored and nothing marked. Never throws Error.
+  /// Converts one value to the setting's type, stores it under a name (exact comparison), and marks the object and its workflow dirty.
+  /// Shows the error of a value that does not convert in a message box, and then stores and marks nothing. Never throws Error.
   virtual void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) = 0;
 
  protected:
-  /// Runs one store and reports its Error in a message box. True when it went through.
+  /// Runs one store and shows its Error in a message box. True when there was none.
   static bool Guarded(const std::function<void()>& pStore);
 };
 

@@ -11,7 +11,7 @@ namespace vantrel {
 
 namespace {
 
-constexpr float kNarrowLabel = 30;  // twips; a label below this was never fitted to its text
+constexpr float kNarrowLabel = 30;  // twips; a narrower label was never fitted to its text
 
 const char* InputPicture(std::int16_t pintSide) {
   switch (pintSide) {

@@ -21,7 +21,7 @@ class Recordset;
 /// elements belong to the chart. Positions and sizes are twips.
 class Node : public ChartObject {
  public:
-  Ref<vantrel::Workflow> Workflow;                ///< owning workflow, nothing once it is gone
+  Ref<vantrel::Workflow> Workflow;                ///< owning workflow, null once it is gone
   Collection<Arc> InArcs, OutArcs;                ///< arcs into and out of this object, keyed by Arc::Key
   Ref<vantrel::Image> Image;                      ///< the object's picture on the chart
   std::string EnabledImageKey, DisabledImageKey;  ///< keys of its pictures in the image list
@@ -33,19 +33,19 @@ class Node : public ChartObject {
 
   std::string NameText() const override { return mName; }
   const std::string& Name() const { return mName; }
-  /// Stores a name that is known to be free; for whoever builds a whole workflow and keeps its names apart himself.
+  /// Stores a name that is known to be free. For code that builds a whole workflow and checks its names itself.
   void AssignName(const std::string& pstrName) { mName = pstrName; }
 
-  /// Setting either marks dirty and redraws, also when unchanged.
+  /// Setting either marks dirty and redraws, even if unchanged.
   float Top() const { return mTop; }
   void Top(float psngTop);
   float Left() const { return mLeft; }
   void Left(float psngLeft);
-  /// Both at once, redrawn once.
+  /// Sets both and redraws once.
   void MoveTo(float psngLeft, float psngTop) override;
   std::optional<Rect> Bounds() const override;
 
-  /// Sides of the connectors (ConnectorPosition). Setting one makes it the side of new objects, too, and redraws.
+  /// Sides of the connectors (ConnectorPosition). Setting one also makes it the side of new objects, and redraws.
   std::int16_t InputPosition() const { return mInputPosition; }
   virtual void InputPosition(std::int16_t pintPosition);
   std::int16_t OutputPosition() const { return mOutputPosition; }
@@ -69,7 +69,7 @@ class Node : public ChartObject {
   bool Selected() const override { return mSelected; }
   void Selected(bool pblnOn) override;
 
-  /// Brings the chart elements and the arcs to where the object's fields say.
+  /// Moves the chart elements and the arcs to where the object's fields put them.
   virtual void Draw() = 0;
 
  protected:
@@ -81,7 +81,7 @@ class Node : public ChartObject {
   virtual void MarkDirty() = 0;
   /// Marks the owning workflow dirty, if there is one.
   void MarkWorkflowDirty() const;
-  /// Stores name, caption or a connector side straight into the field. False for any other setting.
+  /// Stores name, caption or a connector side directly in the field. False for any other setting.
   bool StoreField(const std::string& pstrPropName, const Variant& pvarValue);
   /// Stores caption, description, a connector side or the tag as their setters do. False for any other setting.
   bool StoreSetting(const std::string& pstrPropName, const Variant& pvarValue);
@@ -92,7 +92,7 @@ class Node : public ChartObject {
   /// `psngLeftOutset` is what an output connector on the left side is moved to the right.
   void DrawConnectors(float psngLeftOutset);
   void DrawArcs();
-  /// Position, connector sides, caption box and picture keys out of the current row, straight into the fields.
+  /// Copies position, connector sides, caption box and picture keys of the current row directly into the fields.
   void AssignLook(const Recordset& pobjRow);
   /// Copies what the clones of both kinds share: caption, its size and offsets, image keys, position and tag.
   void CopyLook(const Node& pobjFrom);

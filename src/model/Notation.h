@@ -58,14 +58,14 @@ class Notation final : public ChartObject {
   std::optional<Rect> Bounds() const override;
   /// To the nearest whole twips.
   void MoveTo(float psngLeft, float psngTop) override;
-  /// The label's; false without a label.
+  /// The label's value; false without a label.
   bool Visible() const;
   void Visible(bool pblnOn);
   bool Selected() const override { return mblnSelected; }
   /// A border while selected, the note's own border style otherwise.
   void Selected(bool pblnOn) override;
 
-  /// Copies all settings to the label; nothing without one.
+  /// Copies all settings to the label. Does nothing without one.
   void Draw();
   /// A note of the same look, text and position, without key, workflow or label.
   std::shared_ptr<Notation> Clone() const;
@@ -75,7 +75,7 @@ class Notation final : public ChartObject {
   void AssignValues(const Recordset& pobjRow);
 
   std::shared_ptr<PropertyCollection> GetProperties() override;
-  /// Redraws, also for a name that it does not know.
+  /// Redraws, even for an unknown name.
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
  private:

@@ -9,8 +9,8 @@ namespace vantrel {
 
 class TokenIndex;
 
-/// Holds tokens in order of arrival and draws itself as a picture with a caption, a token count and two connectors. Names
-/// the properties that tokens lying in it receive.
+/// Holds tokens in order of arrival and draws itself as a picture with a caption, a token count and two connectors. Defines the
+/// properties of the tokens in it.
 class Place final : public Node {
  public:
   /// A place as a control makes it: workflow, position and connector sides come from the designer state.
@@ -19,7 +19,7 @@ class Place final : public Node {
   explicit Place(vantrel::Workflow& pobjWorkflow);
   ~Place() override;
 
-  /// Definitions of the tokens' own properties; the place's own collection, never null unless a host makes it so.
+  /// Definitions of the tokens' properties. The place's own collection; null only if a host sets it to null.
   std::shared_ptr<PropertyCollection> TokenProperties;
   Ref<Label> CountLabel;  ///< shows the token count
   float TokenValue = 0;   ///< stored number
@@ -39,36 +39,36 @@ class Place final : public Node {
   void Dirty(bool pblnDirty) { mblnDirty = pblnDirty; }
 
   float TokenCount() const { return mTokenCount; }
-  /// Stores the count; on a visible place, but in run mode, also shows it.
+  /// Stores the count, and shows it if the place is visible and the mode is not run mode.
   void TokenCount(float psngCount);
-  /// The tokens that lie here, keyed by Token::Key, in order of arrival. AddToken and RemoveToken move tokens by the
-  /// rules of the game; the collection itself knows no rules.
+  /// The tokens in this place, keyed by Token::Key, in order of arrival. AddToken and RemoveToken move tokens by the rules of the
+  /// game; the collection itself has no rules.
   Collection<Token>& Tokens() { return mcolTokens; }
   const Collection<Token>& Tokens() const { return mcolTokens; }
 
-  /// Puts the token at the end of Tokens (giving it a key when it has none) and enables what it completes; automatic
-  /// transitions fire before this returns. Throws Error 457 when the key is taken, Error 28 when automatic transitions
-  /// would fire without end, and what an automatic firing throws.
+  /// Puts the token at the end of Tokens, with a new key if it has none, and enables the transitions that it completes; automatic
+  /// ones fire before this returns. Throws Error 457 when the key is taken, Error 28 when automatic transitions would fire without
+  /// end, and what an automatic firing throws.
   void AddToken(const std::shared_ptr<Token>& pobjToken);
-  /// Puts a token that was stored back to where it lay: as AddToken, but automatic transitions wait on the firing stack and
-  /// nobody is told. Throws Error 457 when the key is taken.
+  /// Puts a stored token back into its place. Like AddToken, but automatic transitions wait on the firing stack and no event is
+  /// raised. Throws Error 457 when the key is taken.
   void PutBack(const std::shared_ptr<Token>& pobjToken);
-  /// Takes the token out (a token without key: the first one) and enables or disables what the place feeds. Throws
-  /// Error 5 when it does not lie here, and like AddToken.
+  /// Takes the token out (for a token without a key, the first one) and enables or disables the transitions that the place feeds.
+  /// Throws Error 5 when it is not in this place, and what AddToken throws.
   void RemoveToken(const std::shared_ptr<Token>& pobjToken);
 
   using Node::Name;
   /// Refuses a name that a place of the workflow already has, its own included (message box), and keeps the old one.
   void Name(const std::string& pstrName);
   using Node::Visible;
-  /// Shows or hides image, caption and the arcs that InArcs and OutArcs list; draws when showing. Nothing but the stored value
-  /// changes while there is no image.
+  /// Shows or hides image, caption and the arcs that InArcs and OutArcs list; draws when showing. Without an image only the stored
+  /// value changes.
   void Visible(bool pblnOn) override;
-  /// The case that waits here can go on: the image shows it.
+  /// True when a case that waits here can go on; the image shows it.
   bool CaseEnabled() const { return mblnCaseEnabled; }
   void CaseEnabled(bool pblnOn);
 
-  /// Nothing while invisible, without workflow, or in run mode.
+  /// Does nothing while invisible, without a workflow, or in run mode.
   void Draw() override;
 
   std::shared_ptr<PropertyCollection> GetProperties() override;
@@ -85,15 +85,15 @@ class Place final : public Node {
   friend class CaseLink;
   friend class TokenRules;
 
-  // Somebody gave a token another case or mark by hand.
+  // A token was given another case or mark by hand.
   void TokensChanged();
   void MarkDirty() override { mblnDirty = true; }
   void DrawCount();
   void Store(const std::string& pstrPropName, const Variant& pvarValue);
 
   Collection<Token> mcolTokens;
-  // What TokenRules knows of the tokens, as of so many changes of the collection.
-  mutable std::unique_ptr<TokenIndex> mobjIndex;  // only while many tokens lie here
+  // What TokenRules knows of the tokens, and after how many changes of the collection.
+  mutable std::unique_ptr<TokenIndex> mobjIndex;  // only while there are many tokens
   mutable std::uint64_t mlngKnownChanges = 0;
   mutable std::int32_t mlngTaken = 0;  // tokens chosen by firings
   std::shared_ptr<vantrel::Object> mobjObject;

@@ -17,8 +17,7 @@ class PropertyBuilder {
 
   PropertyBuilder() : mcolRecords(std::make_shared<PropertyCollection>()) {}
 
-  /// Adds a record and returns it, for options that are not known beforehand. The reference holds as long as the
-  /// collection does.
+  /// Adds a record and returns it, for options that are not known beforehand. The reference is valid as long as the collection.
   PropertyRecord& Add(const std::string& pstrName, PropertyType pType, const std::string& pstrDescription, const Variant& pvarValue,
                       Options pOptions = {});
 

@@ -7,7 +7,7 @@
 
 namespace vantrel {
 
-/// Records keyed by their names. An object of its own, because a record's value may be such a collection.
+/// Records keyed by their names. An Object, because a record's value may be such a collection.
 class PropertyCollection final : public Object, public Collection<PropertyRecord> {
  public:
   std::string Class() const override { return "VNTR.PropertyCollection.1"; }

@@ -7,7 +7,7 @@
 
 namespace vantrel {
 
-/// What a property grid shows for a choice, and what the record's value becomes when the user takes it.
+/// What a property grid shows for a choice, and the value that the record gets when the user takes it.
 struct PropertyOption {
   std::string Prompt;  ///< shown to the user; key in PropertyRecord::Options
   Variant Value;

@@ -22,7 +22,7 @@ enum PropertyType : std::int32_t {
   vntPropertyColor = 17        ///< a 32-bit BGR colour
 };
 
-/// A setting with its current value. Belongs to the collection that it is in; copies (Copy) belong to who asked for them.
+/// A setting with its current value. Owned by its collection; the caller of Copy owns the copy.
 class PropertyRecord {
  public:
   std::int32_t Id = 0;  ///< database id of a stored token property definition or value; 0 for object settings
@@ -35,7 +35,7 @@ class PropertyRecord {
   std::int32_t Attributes = 0;  ///< flags of a token property definition
   bool ReadOnly = false;
 
-  /// A record with the same field values and options of its own; an object in Value is shared.
+  /// A record with the same field values and copies of the options; an object in Value is shared.
   std::shared_ptr<PropertyRecord> Copy() const;
   /// Adds a choice under its prompt. Error 457 when the prompt is there already.
   void AddOption(const std::string& pstrPrompt, const Variant& pvarValue);

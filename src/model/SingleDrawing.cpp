@@ -22,7 +22,7 @@ SingleDrawing::~SingleDrawing() {
   try {
     Finish();
   } catch (const Error&) {
-    // What was thrown first says more.
+    // The error thrown first says more.
   }
 }
 

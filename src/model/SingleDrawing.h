@@ -8,24 +8,24 @@
 
 namespace vantrel {
 
-/// Every node that is drawn draws its arcs: with both ends that is twice. While this lives, arcs that are asked to draw themselves
-/// wait, and Finish draws each of them once, in the order in which they were asked last. Arcs of other workflows draw
-/// themselves at once. One inside another leaves it to the outer.
+/// A node that draws itself draws its arcs, so an arc between two such nodes is drawn twice. While this lives, arcs put their drawing off,
+/// and Finish draws each of them once, in the order of their last requests. Arcs of other workflows draw themselves at once. An inner
+/// one leaves the drawing to the outer one.
 class SingleDrawing {
  public:
   explicit SingleDrawing(Workflow& pobjWorkflow);
-  /// Draws what still waits because something was thrown, and swallows its errors.
+  /// Draws what was still put off when something was thrown, and ignores its errors.
   ~SingleDrawing();
   SingleDrawing(const SingleDrawing&) = delete;
   SingleDrawing& operator=(const SingleDrawing&) = delete;
 
   void Finish();
-  /// True: the arc waits, and must not draw itself now.
+  /// True when the drawing is put off; the arc must not draw itself now.
   static bool Postpones(Arc& pobjArc);
 
  private:
   Ref<Workflow> mobjWorkflow;
-  std::vector<Ref<Arc>> mcolWaiting;  // an arc may stand in it several times, or be gone meanwhile
+  std::vector<Ref<Arc>> mcolWaiting;  // may list an arc several times, or one that is gone
 };
 
 }  // namespace vantrel

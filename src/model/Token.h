@@ -17,8 +17,8 @@ namespace vantrel {
 
 class SubflowRun;
 
-/// Lies in one place, may belong to a case, and remembers who made and who consumed it. Owned by its workflow and by the
-/// place that it lies in. A running net holds millions: its size is watched in bench/.
+/// Is in one place, may belong to a case, and knows the transitions that made and consumed it. Owned by its workflow and by its place.
+/// A running net has millions of them: bench/ measures their size.
 class Token final : public ModelObject, public CaseFields {
  public:
   /// Dated now.
@@ -27,12 +27,12 @@ class Token final : public ModelObject, public CaseFields {
   ~Token() override;
 
   KeyField<Token> Key;                ///< in the workflow's Tokens and the place's Tokens; "Token" and a number
-  KeyField<Token> Name;               ///< equal to Key when nobody gave another
-  Ref<vantrel::Place> Place;          ///< where it lies
-  Ref<Transition> CreateTransition;   ///< nothing for start tokens
-  Ref<Transition> ConsumeTransition;  ///< nothing while it is not consumed
+  KeyField<Token> Name;               ///< equal to Key unless another was given
+  Ref<vantrel::Place> Place;          ///< where it is
+  Ref<Transition> CreateTransition;   ///< null for start tokens
+  Ref<Transition> ConsumeTransition;  ///< null until it is consumed
   Date DateCreated;
-  Date DateConsumed;        ///< the zero date while it is not consumed
+  Date DateConsumed;        ///< the zero date until it is consumed
   RareText Tag, HiddenTag;  ///< free; Tag goes on to the tokens that a subflow produces
   Variant NominalValue;
   std::shared_ptr<vantrel::Object> Object;  ///< linked object of the host
@@ -44,19 +44,19 @@ class Token final : public ModelObject, public CaseFields {
   std::string Class() const override { return "VNTR.Token.1"; }
   std::string NameText() const override { return Name; }
 
-  /// The token's own property values; null until a creator gives it any.
+  /// The token's own property values; null until it is given any.
   const std::shared_ptr<PropertyCollection>& CustomProperties() const;
   void CustomProperties(const std::shared_ptr<PropertyCollection>& pcolProperties);
-  /// Whether there is any value; unlike the question for the collection it never makes one.
+  /// True when there is a value. Unlike CustomProperties it makes no collection.
   bool HasCustomProperties() const;
   bool CaseEnabled() const { return mblnCaseEnabled; }
-  /// True also marks the place that the token lies in; false leaves the place as it is.
+  /// True also marks the token's place; false leaves the place as it is.
   void CaseEnabled(bool pblnOn);
 
   /// The CustomProperties themselves, not copies.
   std::shared_ptr<PropertyCollection> GetProperties() override { return CustomProperties(); }
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override { CustomProperties(pcolProperties); }
-  /// The run of a subflow that the token takes part in; nothing outside subflows, expired when that run has delivered.
+  /// The subflow's run that the token takes part in; null outside subflows and after that run has delivered.
   const Ref<SubflowRun>& Run() const { return mobjRun; }
 
   /// Sets the value of the first custom property of that name; an unknown name changes nothing. Marks the token dirty.
@@ -71,7 +71,7 @@ class Token final : public ModelObject, public CaseFields {
   friend class Workflow;
 
   bool mblnTaken = false;                    // chosen by a firing: counts for no other one
-  mutable bool mblnEmptyProperties = false;  // given a collection with nothing in it, which is made when somebody asks
+  mutable bool mblnEmptyProperties = false;  // was given an empty collection, which is made when it is read
   std::uint32_t mlngArrival = 0;             // orders the tokens of a place that has an index
   mutable std::shared_ptr<PropertyCollection> mcolCustomProperties;
   Ref<SubflowRun> mobjRun;  // the subflow run that the token takes part in

@@ -72,7 +72,7 @@ bool Transition::SwitchEnabled(bool pblnEnabled) {
     if (!pblnEnabled && known) stack.TakeAtRank(mlngStackRank);
     if (!pblnEnabled && !known) stack.RemoveIfThere(Key);
   }
-  Draw();  // lets the user do things, which may switch it once more
+  Draw();  // may run listeners, which may switch it again
   return pblnEnabled && mblnEnabled && mTriggerType == vntAutomatic;
 }
 

@@ -55,14 +55,14 @@ class Transition final : public Node {
   void Visible(bool pblnOn) override;
 
   bool Enabled() const { return mblnEnabled; }
-  /// Redraws, enters or leaves the firing stack, and fires an automatic transition at once, also when it was enabled
-  /// before. Throws what that firing throws.
+  /// Redraws, enters or leaves the firing stack, and fires an automatic transition at once, even if it was enabled before. Throws what
+  /// that firing throws.
   void Enabled(bool pblnEnabled);
   /// Fires with no case given.
   void PullTrigger();
-  /// Consumes and produces as trigger, output type and case tracking say; whatever that enables automatically fires before
-  /// this returns. Throws Error 5, with nothing changed, when an input place is empty (case tracking off), and Error 28
-  /// when automatic transitions would fire without end.
+  /// Consumes and produces by trigger, output type and case tracking. Automatic transitions that this enables fire before it returns.
+  /// Throws Error 5, with nothing changed, when an input place is empty (case tracking off), and Error 28 when automatic transitions
+  /// would fire without end.
   void Fire(const std::shared_ptr<WorkCase>& pobjWorkCase = nullptr);
 
   TriggerTypes TriggerType() const { return mTriggerType; }
@@ -70,11 +70,11 @@ class Transition final : public Node {
   OutputTypes OutputType() const { return mOutputType; }
   void OutputType(OutputTypes pType) { mOutputType = pType; }
 
-  /// The embedded object: one of the host's, or a workflow to run as subflow. Owned together with whoever else holds it.
+  /// The embedded object: one of the host's, or a workflow to run as subflow. Shared with its other owners.
   const std::shared_ptr<vantrel::Object>& Object() const { return mobjObject; }
-  /// Throws Error 5 for a workflow that is, or somewhere inside contains, this transition's own.
+  /// Throws Error 5 for this transition's own workflow and for one that embeds it at any depth.
   void Object(const std::shared_ptr<vantrel::Object>& pobjObject);
-  /// Forgets the firings whose subflow has not delivered yet, and lets go of the tokens they had taken: for a reset.
+  /// Forgets the firings whose subflow has not delivered yet and gives back their tokens. For a reset.
   void CancelRuns() { mcolRuns.clear(); }
   /// The workflow whose finished cases make this transition deliver its output; set by Fire.
   const std::shared_ptr<vantrel::Workflow>& Subflow() const { return mobjSubflow; }
@@ -86,12 +86,12 @@ class Transition final : public Node {
   std::shared_ptr<PropertyCollection> GetProperties() override;
   /// Name, caption, types and connector sides go straight into the fields, without check, redraw or mark.
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
-  /// A name that is no property shows a message box; the transition is marked dirty all the same.
+  /// Shows a message box for an unknown name, and marks the transition dirty all the same.
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
   /// Copies the current row of the Transition table straight into the fields, then reads the workflow that SubflowId names: by
   /// the control's VNTRDB, or by the reader that is reading now. Throws Error for columns that cannot be read, Error 91 when
-  /// nobody can read that workflow, and what reading it throws.
+  /// there is no reader for that workflow, and what reading it throws.
   void AssignValues(const Recordset& pobjRow);
 
   /// A share in this transition.
@@ -109,7 +109,7 @@ class Transition final : public Node {
   friend class SubflowRun;
   friend class TokenGame;
 
-  // An enabling that failed only because of tokens that a firing had chosen: asked again when they stay after all.
+  // An enabling that failed only because a firing had chosen tokens; asked again when they stay after all.
   struct HeldUp {
     std::shared_ptr<WorkCase> Case;  // of the token that arrived
     bool ByDeparture;                // not an arrival but a departure asked
@@ -120,10 +120,10 @@ class Transition final : public Node {
   void MarkDirty() override { Dirty = true; }
   void DrawRoles();
   void Store(const std::string& pstrPropName, const Variant& pvarValue);
-  // Everything that setting Enabled does but the firing. True when the transition has to fire now.
+  // Does everything that setting Enabled does, except firing. True when the transition has to fire now.
   bool SwitchEnabled(bool pblnEnabled);
-  // Whether every input place passes. Asks first where the last question ended: a join of many branches is asked for each
-  // token that arrives, and is usually held up by the same few inputs.
+  // True when every input place passes. Begins where the last question ended: a join of many branches is asked for each token that
+  // arrives, and usually the same few inputs hold it up.
   template <class Passes>
   bool AllInputs(Passes&& pPasses);
 

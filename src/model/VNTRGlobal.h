@@ -8,7 +8,7 @@
 namespace vantrel {
 
 /// Where an arc leaves an object and where it enters one, twips, from the connector image and the side that it sits on.
-/// 0 for a side that is none. Error 91 when the object has no such connector image.
+/// 0 for an invalid side. Error 91 when the object has no such connector image.
 float OutputConnectorX(const Node& pobjNode);
 float OutputConnectorY(const Node& pobjNode);
 float InputConnectorX(const Node& pobjNode);

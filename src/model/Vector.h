@@ -25,8 +25,8 @@ class Vector final : public ChartObject {
 
   std::string Tag;
   Ref<Line> LineControl;
-  Ref<Vector> InVector;   ///< the segment before, nothing for the first
-  Ref<Vector> OutVector;  ///< the segment behind, nothing for the last
+  Ref<Vector> InVector;   ///< the segment before, null for the first
+  Ref<Vector> OutVector;  ///< the segment after, null for the last
   Color ForeColor = kBlack;
   std::int32_t RecId = 0;
 
@@ -61,18 +61,18 @@ class Vector final : public ChartObject {
   bool Dirty() const { return mblnDirty; }
   /// True also marks the arc.
   void Dirty(bool pblnDirty);
-  /// The arc's; false and nothing without an arc.
+  /// The arc's value; false without an arc.
   bool Selected() const override;
   void Selected(bool pblnOn) override;
 
   void Setfocus() { LineWidth(3); }
-  /// Brings the line to where the segment is, in its colour.
+  /// Moves the line to where the segment is, and colours it.
   void Draw();
 
-  /// The bend points that this segment ends or starts at; one that it does both at stands twice.
+  /// The bend points at which this segment ends or starts; one at which it does both is listed twice.
   const std::vector<Elbow*>& Elbows() const { return mcolElbows; }
 
-  /// The arc's; Error 91 without an arc.
+  /// The arc's value; Error 91 without an arc.
   std::shared_ptr<PropertyCollection> GetProperties() override;
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;

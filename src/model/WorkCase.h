@@ -11,7 +11,7 @@
 
 namespace vantrel {
 
-/// With case tracking on, the tokens of a case move together. Owned by its tokens and by whoever keeps a list of cases.
+/// With case tracking on, the tokens of a case move together. Owned by its tokens and by every list of cases that has it.
 class WorkCase final : public Object {
  public:
   std::string Class() const override { return "VNTR.WorkCase.1"; }
@@ -19,7 +19,7 @@ class WorkCase final : public Object {
 
   std::int32_t RecId = 0;
   std::int32_t OrderItemId = 0;  ///< the host's order item that the case belongs to
-  std::string Key;               ///< tells cases apart when a firing lists its candidates
+  std::string Key;               ///< names the case when a firing lists its candidates
   std::string Name;
   std::string Tag, HiddenTag;
   std::string TypeCode;  ///< the host's kind of case

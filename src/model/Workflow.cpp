@@ -17,7 +17,7 @@ std::shared_ptr<PropertyCollection> CopyByName(const PropertyCollection& pcolDef
   auto properties = std::make_shared<PropertyCollection>();
   for (const auto& record : pcolDefinitions) {
     const auto copy = record->Copy();
-    copy->Id = 0;  // the definition's; a value gets an id of its own when it is stored
+    copy->Id = 0;  // the definition's; a value gets its own id when it is stored
     properties->Add(copy, copy->Name);
   }
   return properties;
@@ -82,7 +82,7 @@ std::shared_ptr<Token> Workflow::MakeToken(vantrel::Place& pobjPlace, Transition
 }
 
 void Workflow::z_StartCase(const std::shared_ptr<WorkCase>& pobjCase) {
-  const auto keeper = shared_from_this();  // a listener may let go of the workflow
+  const auto keeper = shared_from_this();  // a listener may release the workflow
   for (const auto& place : Places) {
     if (!place->InArcs.IsEmpty()) continue;
     place->AddToken(CreateToken(place, nullptr, pobjCase));

@@ -21,8 +21,8 @@
 
 namespace vantrel {
 
-/// Owns all objects of one net, keyed by their keys, holds the firing stack and reports what the token game does. Always
-/// held by shared_ptr. May run as the subflow of a transition of another workflow.
+/// Owns all objects of one net, by their keys, holds the firing stack and raises the events of the token game. Always held by shared_ptr.
+/// May run as the subflow of a transition of another workflow.
 class Workflow final : public ModelObject, public std::enable_shared_from_this<Workflow> {
  public:
   Workflow() = default;
@@ -54,7 +54,7 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
 
   /// A token was added to a place of this workflow.
   Event<const std::shared_ptr<vantrel::Place>&, const std::shared_ptr<Token>&> OnTokenAdded;
-  /// A firing of one of this workflow's transitions goes on: its tokens are chosen, nothing has moved yet.
+  /// A transition of this workflow is firing: its tokens are chosen and nothing has moved yet.
   Event<const std::shared_ptr<Transition>&> OnFiring;
   /// A token reached the end place, and SubflowTransition is not set.
   Event<const std::shared_ptr<Token>&> OnCaseFinished;
@@ -68,17 +68,17 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
   void EndPlace(const Ref<vantrel::Place>& pobjPlace) { mobjEndPlace = pobjPlace; }
 
   bool Dirty() const { return mblnDirty; }
-  /// Passes the value on to the control, also when unchanged.
+  /// Tells the control, even if the value is unchanged.
   void Dirty(bool pblnDirty);
   bool Visible() const { return mblnVisible; }
   /// Shows or hides and redraws all transitions, then all places.
   void Visible(bool pblnOn);
 
-  /// Makes a token for a place, with copies of the place's token properties, and registers it in Tokens; does not put it
-  /// into the place. The workflow shares it with the caller.
+  /// Makes a token for a place, with copies of the place's token properties, and registers it in Tokens. Does not put it into the
+  /// place. The workflow shares it with the caller.
   std::shared_ptr<Token> CreateToken(const Ref<vantrel::Place>& pobjPlace, const Ref<Transition>& pobjCreateTransition = nullptr,
                                      const std::shared_ptr<WorkCase>& pobjWorkcase = nullptr);
-  /// Puts a token of the case into every place without input arcs. Throws like Place::AddToken.
+  /// Puts a token of the case into every place without input arcs. Throws what Place::AddToken throws.
   void z_StartCase(const std::shared_ptr<WorkCase>& pobjCase);
   /// Fires the given transition, or the first one on the stack, with no case given; in step-test mode asks first. Nothing
   /// on the stack, a transition that is not on it and an empty input place end it quietly; any other Error is shown in a
@@ -93,40 +93,40 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
   std::shared_ptr<vantrel::Place> NewPlace(const std::string& pstrName = {});
   std::shared_ptr<Transition> NewTransition(const std::string& pstrName = {});
   std::shared_ptr<Notation> NewNotation();
-  /// Removes an object with what cannot stand without it: a place or transition with its arcs, an arc with its segments and bend
-  /// points, a segment with its arc. A bend point leaves a straight run between its neighbours. Chart elements are unloaded. Costs
-  /// in proportion to what goes. Returns all that went; the workflow is not marked dirty. Error 91 for null, Error 5, with nothing
-  /// removed, when the workflow does not have the object.
+  /// Removes an object with everything that depends on it: a place or transition with its arcs, an arc with its segments and bend
+  /// points, a segment with its arc. Where a bend point was, the path becomes straight. Unloads chart elements. Takes time in proportion
+  /// to what it removes. Returns all removed objects; does not mark the workflow dirty. Throws Error 91 for null, and Error 5, with
+  /// nothing removed, when the workflow does not have the object.
   std::vector<std::shared_ptr<ChartObject>> Remove(const std::shared_ptr<ChartObject>& pobjObject);
-  /// True when the workflow's collection of its kind holds this very object.
+  /// True when this very object is in the workflow's collection of its kind.
   bool Has(const ChartObject& pobjObject) const;
 
-  /// Makes an arc with its first segment and links it to both ends; drawing it is the caller's task. Throws Error 457 when
-  /// a key set by hand is in the way.
+  /// Makes an arc with its first segment and links it to both ends. The caller draws it. Throws Error 457 when a key set by hand is
+  /// in the way.
   std::shared_ptr<Arc> CreateArc(const std::shared_ptr<vantrel::Place>& pobjPlace, const std::shared_ptr<Transition>& pobjTransition,
                                  ArcDirectionConstant pintDirection);
-  /// Takes the arc with its segments and bend points out of the workflow; its ends keep it listed. Error 5 when the workflow
-  /// does not have it.
+  /// Takes the arc with its segments and bend points out of the workflow; its ends still list it. Error 5 when the workflow does not
+  /// have it.
   void z_RemoveArc(const std::shared_ptr<Arc>& pobjArc);
 
   /// The state of the control that shows this workflow, or the current one.
   DesignerState& Designer() const { return mobjShownBy ? *mobjShownBy : DesignerState::Current(); }
   bool IsShown() const { return mobjShownBy != nullptr; }
-  /// A control shows the workflow from now on, or null: none does. The state outlives the workflow or is taken back before it goes.
+  /// Sets the control that shows the workflow; null for none. The state must outlive the workflow or be reset before it dies.
   void ShownBy(DesignerState* pobjState) { mobjShownBy = pobjState; }
-  /// What gives elements to this workflow's objects: nobody where the current control shows another workflow.
+  /// Gives elements to this workflow's objects; gives none when the current control shows another workflow.
   DesignerHost& Chart() const;
-  /// The workflow whose settings count for this one: itself when it is shown, otherwise gobjWorkflow, as for what that embeds.
+  /// The workflow whose settings count for this one: itself when it is shown, otherwise gobjWorkflow, which may embed it.
   const Workflow& Leading() const {
     const auto* current = mobjShownBy ? nullptr : DesignerState::Current().Workflow.get();
     return current ? *current : *this;
   }
 
-  /// Changes of cases and marks of tokens by hand so far: tells whether tokens sorted by case are still sorted.
+  /// The number of changes by hand of cases and marks of tokens, which tells whether tokens sorted by case are still sorted.
   std::uint64_t CaseChanges() const { return mlngCaseChanges; }
   void CountCaseChange() { ++mlngCaseChanges; }
 
-  /// True when the other workflow is this one or is embedded in it, however deep.
+  /// True when the other workflow is this one or is embedded in it at any depth.
   bool Embeds(const Workflow& pobjOther) const;
 
   std::shared_ptr<PropertyCollection> GetProperties() override;

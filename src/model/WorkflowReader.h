@@ -8,7 +8,7 @@
 
 namespace vantrel {
 
-/// Reads stored workflows for the model, which knows no database; VNTRDB is one.
+/// Reads stored workflows for the model, which sends no statements. VNTRDB is one.
 class WorkflowReader {
  public:
   WorkflowReader() = default;

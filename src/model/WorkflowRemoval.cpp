@@ -1,4 +1,4 @@
-// How a workflow lets go of an object and of what cannot stand without it.
+// How a workflow removes an object with everything that depends on it.
 #include "model/Workflow.h"
 
 namespace vantrel {
@@ -28,7 +28,7 @@ void UnlinkFromEnds(const Arc& pobjArc) {
   }
 }
 
-/// Notes what it takes out.
+/// Records what it takes out.
 class Removal {
  public:
   explicit Removal(Workflow& pobjWorkflow) : mobjWorkflow(pobjWorkflow) {}
@@ -153,7 +153,8 @@ bool Workflow::Has(const ChartObject& pobjObject) const {
 }
 
 std::vector<std::shared_ptr<ChartObject>> Workflow::Remove(const std::shared_ptr<ChartObject>& pobjObject) {
-  const auto object = pobjObject;  // NOLINT(performance-unnecessary-copy-initialization): it may be the collection's share, which goes
+  const auto object =
+      pobjObject;  // NOLINT(performance-unnecessary-copy-initialization): it may be the collection's share, which this releases
   if (!object) throw Error(vntErrObjectNotSet);
   Removal removal(*this);
   removal.Remove(*object);

@@ -9,7 +9,7 @@ namespace vantrel {
 CaseEnd::CaseEnd(std::shared_ptr<Workflow> pobjWorkflow, std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken)
     : mobjWorkflow(std::move(pobjWorkflow)), mobjPlace(std::move(pobjPlace)), mobjToken(std::move(pobjToken)) {}
 
-// A run delivers once: what else of it reaches the end place comes too late.
+// A run delivers once. Its other tokens that reach the end place come too late.
 bool CaseEnd::IsLate() const { return mobjToken->Run().Expired(); }
 
 bool CaseEnd::Advance(TokenGame& pobjGame) {

@@ -10,8 +10,8 @@
 
 namespace vantrel {
 
-/// Takes the token out of the end place unless history is kept, then tells the world, or delivers the output of the
-/// transition that the workflow runs for.
+/// Takes the token out of the end place unless history is kept. Then raises the event, or delivers the output of the transition that
+/// runs the workflow.
 class CaseEnd final : public GameStep {
  public:
   CaseEnd(std::shared_ptr<Workflow> pobjWorkflow, std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken);

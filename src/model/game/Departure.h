@@ -22,11 +22,11 @@ class Reevaluation : public GameStep {
   bool mblnTracking;
 };
 
-/// Takes the token out of the place (a token without key: the first one), then reevaluates what the place feeds.
+/// Takes the token out of the place (for a token without a key, the first one), then asks the transitions that the place feeds again.
 class Departure final : public Reevaluation {
  public:
   enum Reason : std::uint8_t {
-    kByHand,   ///< Error 5 when the token does not lie there; a firing that has chosen it hears that it is gone
+    kByHand,   ///< Error 5 when the token is not there; a firing that has chosen it is told
     kConsumed  ///< by the firing that has chosen it
   };
   Departure(std::shared_ptr<Place> pobjPlace, std::shared_ptr<Token> pobjToken, Reason pReason);

@@ -31,13 +31,12 @@ class Enabling {
     return place;
   }
 
-  /// Does what follows the answers: everything that setting Transition::Enabled does but the firing. True when the
-  /// transition has to fire now.
+  /// Acts on the answers: does everything that setting Transition::Enabled does, except firing. True when the transition has to fire now.
   static bool Switch(Transition& pobjTransition, bool pblnEnabled) { return pobjTransition.SwitchEnabled(pblnEnabled); }
   /// After a firing that took nothing: puts the transition on the firing stack again when it can still fire, and disables it
   /// when others have its tokens.
   static void Settle(Transition& pobjTransition);
-  /// All that a given back token lets happen, but nothing fires: for the end of a firing that failed.
+  /// Does everything that follows when a token is given back, except firing: for the end of a firing that failed.
   static void SettleAround(const Token& pobjToken);
 
  private:

@@ -65,7 +65,7 @@ bool Firing::Advance(TokenGame& pobjGame) {
   return false;
 }
 
-// A stage that fails under case tracking is followed by the one that was set before it.
+// When a stage fails under case tracking, the firing goes on with the stage set before it.
 void Firing::DoStage(TokenGame& pobjGame) {
   switch (mStage) {
     case kChoose:

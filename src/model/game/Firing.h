@@ -11,17 +11,17 @@
 
 namespace vantrel {
 
-/// Chooses a case and tokens, which count for nobody else from then on, and either starts the embedded workflow or produces
-/// output. Output tokens arrive before the chosen ones leave. A firing that produces nothing gives its tokens back.
+/// Chooses a case and tokens, which then count for no other firing, and either starts the embedded workflow or produces output. Output
+/// tokens arrive before the chosen ones leave. A firing that produces nothing gives its tokens back.
 class Firing final : public GameStep {
  public:
   Firing(std::shared_ptr<Transition> pobjTransition, std::shared_ptr<WorkCase> pobjCase);
   ~Firing() override;
   bool Advance(TokenGame& pobjGame) override;
-  /// With case tracking on, what fails after the choice of the case is passed over. A loop is not.
+  /// With case tracking on, ignores errors after the choice of the case, except that of a loop.
   bool Absorb(const Error& pobjError) override;
 
-  /// The subflow that this firing started has delivered: the transition may fire anew while the rest of this firing waits.
+  /// The subflow that this firing started has delivered: the transition may fire again while the rest of this firing waits.
   void Delivered();
 
  private:

@@ -22,7 +22,7 @@ bool FiringNext::Advance(TokenGame& pobjGame) {
   return true;
 }
 
-// When a subflow ends inside a firing and asks for the next transition, one that is still about to consume has its turn later.
+// When a subflow ends inside a firing and asks for the next transition, one that has yet to consume its tokens waits its turn.
 std::shared_ptr<Transition> FiringNext::FirstWaiting() const {
   for (Collection<Transition>::Cursor stack(mobjWorkflow->FiringStack); const Transition* transition = stack.Next();) {
     if (transition->mFiringsUnderWay == 0) return stack.Shared();

@@ -8,8 +8,8 @@
 
 namespace vantrel {
 
-/// Takes a transition off the workflow's firing stack and fires it. Errors end here: quietly where there was nothing to
-/// fire, in a message box otherwise. A loop inside a larger operation ends that operation.
+/// Takes a transition off the workflow's firing stack and fires it. Errors end here: silently when there was nothing to fire, otherwise in
+/// a message box. A loop inside a larger operation ends that operation.
 class FiringNext final : public GameStep {
  public:
   FiringNext(std::shared_ptr<Workflow> pobjWorkflow, std::shared_ptr<Transition> pobjTransition);

@@ -1,4 +1,4 @@
-// One operation of the token game, cut into bits so that operations can nest as deep as memory reaches.
+// One operation of the token game, in pieces, so that operations can nest as deep as memory allows.
 #pragma once
 
 #include <cstdint>
@@ -18,12 +18,12 @@ class GameStep {
   GameStep(const GameStep&) = delete;
   GameStep& operator=(const GameStep&) = delete;
 
-  /// Goes on until the next operation called (at most one a time, and then it must return true) or to the end. False when
-  /// the step is through.
+  /// Goes on until it calls the next operation (at most one at a time; then it must return true) or to the end. False when the step is
+  /// done.
   virtual bool Advance(TokenGame& pobjGame) = 0;
 
-  /// Hears of an Error from the step itself or from what it called. True when it deals with it and wants to go on (it is
-  /// then advanced again); false to let it pass to the step below.
+  /// Gets an Error of the step itself or of an operation that it called. True when the step handles it and goes on (it is then advanced
+  /// again); false to pass it to the step below.
   virtual bool Absorb(const Error& /*pobjError*/) { return false; }
 
  protected:

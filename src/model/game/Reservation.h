@@ -8,8 +8,8 @@
 
 namespace vantrel {
 
-/// Holds tokens from their choice until they leave their places or are given back, which its end does at the latest. A firing
-/// makes it; when the firing starts a subflow, the reservation goes to the run and at last to the delivery.
+/// Holds tokens from their choice until they leave their places or are given back; its destructor gives back the rest. A firing makes it.
+/// When the firing starts a subflow, it passes to the run, and at last to the delivery.
 class Reservation {
  public:
   explicit Reservation(Transition& pobjTransition);
@@ -24,14 +24,14 @@ class Reservation {
   std::shared_ptr<Token> Leave(std::size_t plngToken) { return std::move(mcolTokens[plngToken]); }
   /// Lets the tokens count for others again. They stay in Tokens.
   void GiveBack();
-  /// Somebody took a token away by hand that firings of the transition may hold.
+  /// A token that firings of the transition may hold was removed by hand.
   static void Forget(const Transition& pobjTransition, const Token& pobjToken);
 
  private:
   void Link();
   void Unlink();
 
-  Transition& mobjTransition;  // outlives its reservations, which hang together, newest first
+  Transition& mobjTransition;  // outlives its reservations, a linked list, newest first
   Reservation* mobjNewer = nullptr;
   Reservation* mobjOlder = nullptr;
   std::vector<std::shared_ptr<Token>> mcolTokens;

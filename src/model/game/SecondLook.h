@@ -10,8 +10,7 @@
 
 namespace vantrel {
 
-/// Asks the transitions behind a place again that would have been enabled but for a token that a firing had chosen, and
-/// fires the automatic ones.
+/// Asks again the transitions after a place that a token chosen by a firing kept from being enabled, and fires the automatic ones.
 class SecondLook final : public GameStep {
  public:
   explicit SecondLook(std::shared_ptr<Place> pobjPlace);

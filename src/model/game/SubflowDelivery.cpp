@@ -50,7 +50,7 @@ bool SubflowDelivery::Advance(TokenGame& pobjGame) {
 
 SubflowDelivery::~SubflowDelivery() { EndOutput(); }
 
-// The run is over: others may use what stays behind.
+// The run is over: others may use the tokens that stay.
 bool SubflowDelivery::Absorb(const Error& /*pobjError*/) {
   if (!mChosen) return false;
   mChosen->GiveBack();
@@ -67,7 +67,7 @@ void SubflowDelivery::EndOutput() {
   mobjGame = nullptr;
 }
 
-// From here on, whatever else finishes for this run comes too late.
+// From here on this run delivers nothing more.
 void SubflowDelivery::EndRun() {
   SubflowRun* run = mobjFinished->Run().get();
   if (!run || !(run->Owner() == mobjTransition)) run = SubflowRun::OldestOf(*mobjTransition, mobjFinished->WorkCase.get());

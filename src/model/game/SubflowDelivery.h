@@ -11,8 +11,8 @@
 
 namespace vantrel {
 
-/// Produces the output of a transition whose subflow has finished with a token, lets the tokens that the firing chose
-/// leave their places, and goes on with the transition's workflow.
+/// Produces the output of a transition whose subflow has finished with a token, takes the tokens that the firing chose out of their
+/// places, and goes on with the transition's workflow.
 class SubflowDelivery final : public GameStep {
  public:
   enum Manner : std::uint8_t {

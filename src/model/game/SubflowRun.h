@@ -13,8 +13,8 @@ namespace vantrel {
 
 class Firing;
 
-/// Keeps the tokens that the firing chose until the subflow delivers. Tokens inside the subflow refer to the run that they take
-/// part in, so that two runs at the same time each deliver once and for their own tokens. Owned by the transition.
+/// Keeps the tokens that the firing chose until the subflow delivers. Tokens inside the subflow refer to their run, so that of two runs at
+/// the same time each delivers once and for its own tokens. Owned by the transition.
 class SubflowRun final : public Referable {
  public:
   /// A run that begins, the transition's newest.

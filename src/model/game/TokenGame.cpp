@@ -58,7 +58,7 @@ bool TokenGame::Absorbed(const Error& pobjError, const GameStep* pobjBelow) {
       if (mTop->Absorb(pobjError)) return true;
       Pop();
     }
-  } catch (...) {  // out of whoever shows the message
+  } catch (...) {  // thrown by the presenter of the message
     Abandon(pobjBelow);
     throw;
   }

@@ -33,7 +33,7 @@ class TokenGame {
 
   static TokenGame& Instance() { return sGame; }
 
-  /// True while nothing that the step called is still to be run.
+  /// True when everything that the step called has run.
   bool IsTop(const GameStep& pobjStep) const { return mTop == &pobjStep; }
 
   /// Puts an operation on the stack, to be run before the step that calls this is advanced again.
@@ -60,7 +60,7 @@ class TokenGame {
 
   /// Throws Error 28 when the stack is so deep that the firing which is to begin can only be part of a loop.
   void CheckDepth(const Transition& pobjTransition) const;
-  /// An empty list with room, to be given back: firings come by the million, and most consume a token or two.
+  /// An empty list with room, to be given back. There are millions of firings, and most consume a token or two.
   std::vector<std::shared_ptr<Token>> BorrowList();
   void GiveBackList(std::vector<std::shared_ptr<Token>>&& pcolTokens);
 
@@ -70,15 +70,15 @@ class TokenGame {
 
  private:
   static constexpr std::size_t kChunkSize = 64 * 1024;
-  // Room for the steps of a chain of a million automatic transitions, or of a place with a million tokens that an automatic
-  // transition takes one inside the removal of the other. With the tokens it stays under a gigabyte.
+  // Room for the steps of a chain of a million automatic transitions, or of a place from which an automatic transition takes a million
+  // tokens, each inside the removal of the one before. With the tokens it stays under a gigabyte.
   static constexpr std::size_t kMostChunks = 256 * 1024 * 1024 / kChunkSize;
   // Only a loop lets a transition produce while an output of its own is under way. Users may leave a loop by a choice, but
   // not after so many rounds.
   static constexpr std::int32_t kMostRounds = 10'000;
-  // Each round leaves a token on every output: with many outputs fewer rounds fill the memory.
+  // Each round leaves a token in every output place, so with many outputs fewer rounds fill the memory.
   static constexpr std::int64_t kMostLoopTokens = 1'000'000;
-  // Listeners that move tokens do take room on the thread's stack.
+  // Listeners that move tokens use the thread's stack.
   static constexpr std::int32_t kDeepestNesting = 500;
 
   struct Room {

@@ -10,9 +10,9 @@
 
 namespace vantrel {
 
-/// Answers "a free token?", "of this case?", "a marked one?" without a walk over all tokens of the place: a hundred thousand
-/// may wait in one, most of them chosen already. Gives the same answers as such a walk. Made and kept up by TokenRules, which
-/// throws it away when somebody changes tokens by hand.
+/// Answers "a free token?", "of this case?", "a marked one?" without a walk over all tokens of the place, where a hundred thousand may
+/// wait, most of them chosen already. Gives the same answers as such a walk. TokenRules makes it, keeps it up to date, and deletes it
+/// when tokens are changed by hand.
 class TokenIndex {
  public:
   using ByArrival = std::map<std::uint32_t, Token*>;
@@ -21,7 +21,7 @@ class TokenIndex {
 
   /// The tokens that no firing has chosen, in order of arrival.
   const ByArrival& Free() const { return mcolFree; }
-  /// The same of one case, or null for none. No case is a case here, too.
+  /// Those of one case, or null when there are none. Tokens without a case count as a case.
   const ByArrival* FreeOf(const WorkCase* pobjCase) const;
   bool HasAnyOf(const WorkCase* pobjCase) const { return mcolGroups.contains(pobjCase); }
   bool HasMarked() const { return mlngMarked > 0; }

@@ -8,7 +8,7 @@ namespace vantrel {
 
 namespace {
 
-constexpr std::int32_t kCrowd = 64;  // fewer tokens are walked through as fast as they are looked up
+constexpr std::int32_t kCrowd = 64;  // below this a walk is as fast as a look-up
 
 template <class Accepts>
 Token* FirstThat(const Place& pobjPlace, Accepts&& pAccepts) {

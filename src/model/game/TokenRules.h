@@ -8,9 +8,9 @@
 
 namespace vantrel {
 
-/// What the token game asks of places and their tokens, and the only way in which it changes them. A token that a firing has
-/// chosen is taken: until it leaves or is given back it counts for no other firing. The others are free. With case tracking
-/// on, "of a case" means the same WorkCase object; tokens without a case are of no case, which is a case like any other here.
+/// The token game's questions about places and their tokens, and its only way to change them. A token that a firing has chosen is taken:
+/// until it leaves or is given back it counts for no other firing. The others are free. With case tracking on, "of a case" means the
+/// same WorkCase object; tokens without a case form a case here.
 class TokenRules {
  public:
   /// Whose tokens a question is about.
@@ -61,17 +61,17 @@ class TokenRules {
     }
   }
 
-  /// Marks every token of the case that lies in the place as case-enabled, and with it the place. True when that was shown on
-  /// the chart, which lets the user do things.
+  /// Marks every token of the case in the place as case-enabled, and the place as well. True when the chart showed it, which may have run
+  /// listeners.
   static bool MarkEnabled(Place& pobjPlace, const WorkCase* pobjCase);
 
   static void Add(Place& pobjPlace, const std::shared_ptr<Token>& pobjToken);
-  /// Takes a token out of the place; one without key means the first. Error 5 when it does not lie there.
+  /// Takes a token out of the place; a token without a key means the first. Error 5 when it is not there.
   static std::shared_ptr<Token> Remove(Place& pobjPlace, const Token* pobjToken);
   static bool LiesIn(const Place& pobjPlace, const Token& pobjToken) { return pobjPlace.Tokens().RankOf(pobjToken.Key, &pobjToken) >= 0; }
   static void Take(Place& pobjPlace, Token& pobjToken);
   static void GiveBack(Token& pobjToken);
-  /// Somebody changed tokens of the place by hand: what is known of them is no longer true.
+  /// Forgets what is known of the place's tokens, as they were changed by hand.
   static void Forget(const Place& pobjPlace);
 
  private:
