@@ -1,6 +1,9 @@
 // Pictures that images show, and lists of them.
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <functional>
 #include <memory>
 #include <string>
@@ -34,8 +37,16 @@ class ImageList {
   static ImageList VantrelImages();
 
  private:
-  struct Hash : std::hash<std::string_view> {
+  // Both ends of a key and its length tell pictures apart. Each node looks up three pictures when it is drawn.
+  struct Hash {
     using is_transparent = void;
+    std::size_t operator()(std::string_view pstrKey) const {
+      std::uint64_t head = 0, tail = 0;
+      const std::size_t size = std::min(sizeof head, pstrKey.size());
+      std::memcpy(&head, pstrKey.data(), size);
+      std::memcpy(&tail, pstrKey.data() + (pstrKey.size() - size), size);
+      return (head ^ (tail * 31 + pstrKey.size())) * 0x9E3779B97F4A7C15 >> 32;
+    }
   };
   std::unordered_map<std::string, std::shared_ptr<const Picture>, Hash, std::equal_to<>> mPictures;
 };

@@ -10,7 +10,7 @@ namespace {
 // the time of a drag.)
 std::int32_t CellOf(float psngAt, float psngCell) {
   constexpr float kFarthest = 1e9F;
-  const float cell = psngAt / psngCell;
+  const float cell = psngAt * (1 / psngCell);
   if (!(cell > -kFarthest)) return -1'000'000'000;
   if (cell >= kFarthest) return 1'000'000'000;
   const auto whole = static_cast<std::int32_t>(cell);

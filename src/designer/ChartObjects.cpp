@@ -34,8 +34,12 @@ std::optional<Rect> BoundsOf(const ModelObject& pobjObject) {
 }
 
 void MoveTo(ModelObject& pobjObject, float psngLeft, float psngTop) {
-  const auto bounds = BoundsOf(pobjObject);
-  if (bounds && (bounds->Left != psngLeft || bounds->Top != psngTop)) static_cast<ChartObject&>(pobjObject).MoveTo(psngLeft, psngTop);
+  if (auto* object = dynamic_cast<ChartObject*>(&pobjObject)) MoveTo(*object, psngLeft, psngTop);
+}
+
+void MoveTo(ChartObject& pobjObject, float psngLeft, float psngTop) {
+  const auto bounds = pobjObject.Bounds();
+  if (bounds && (bounds->Left != psngLeft || bounds->Top != psngTop)) pobjObject.MoveTo(psngLeft, psngTop);
 }
 
 }  // namespace vantrel

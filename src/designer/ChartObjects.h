@@ -19,7 +19,8 @@ bool IsSelected(const ModelObject& pobjObject);
 void Select(ModelObject& pobjObject, bool pblnOn);
 /// The picture of a place or transition, the box of a note, the handle of a bend point, twips; nothing for other objects.
 std::optional<Rect> BoundsOf(const ModelObject& pobjObject);
-/// Moves the top-left corner; nothing for objects that have none.
+/// Moves the top-left corner; nothing for objects that have none, or that are there already.
 void MoveTo(ModelObject& pobjObject, float psngLeft, float psngTop);
+void MoveTo(ChartObject& pobjObject, float psngLeft, float psngTop);
 
 }  // namespace vantrel

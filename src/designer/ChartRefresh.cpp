@@ -6,11 +6,18 @@ namespace vantrel {
 
 namespace {
 
-void DrawAll(Workflow& pobjWorkflow) {
-  SingleDrawing arcsOnce(pobjWorkflow);
+// Transitions, drawn after the places, draw nearly all arcs: the places need not.
+void DrawPlaces(Workflow& pobjWorkflow) {
+  SingleDrawing noArcs(pobjWorkflow);
+  noArcs.Forget();
   for (Collection<Place>::Cursor places(pobjWorkflow.Places); Place* place = places.Next();) {
     if (place->Visible()) place->Draw();
   }
+  noArcs.Finish();
+}
+
+void DrawAll(Workflow& pobjWorkflow) {
+  DrawPlaces(pobjWorkflow);
   for (Collection<Transition>::Cursor transitions(pobjWorkflow.Transitions); Transition* transition = transitions.Next();)
     transition->Draw();
   for (Collection<Arc>::Cursor arcs(pobjWorkflow.Arcs); Arc* arc = arcs.Next();) {
@@ -18,7 +25,6 @@ void DrawAll(Workflow& pobjWorkflow) {
     if (!drawnByTransition) arc->Draw();
   }
   for (Collection<Notation>::Cursor notes(pobjWorkflow.Notations); Notation* note = notes.Next();) note->Draw();
-  arcsOnce.Finish();
 }
 
 }  // namespace

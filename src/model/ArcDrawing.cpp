@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <functional>
 #include <optional>
+#include <span>
 
 #include "model/Arc.h"
 #include "model/SingleDrawing.h"
@@ -38,7 +39,7 @@ std::optional<ArcEnd> InputPoint(const Node& pobjNode) {
 }
 
 // A joint takes the point of that of its two segments that comes later in the workflow; usually both have the same.
-void DrawSegments(const std::vector<Vector*>& pcolSegments, std::optional<ArcEnd> pStart, std::optional<ArcEnd> pEnd) {
+void DrawSegments(std::span<Vector* const> pcolSegments, std::optional<ArcEnd> pStart, std::optional<ArcEnd> pEnd) {
   for (Vector* segment : pcolSegments) {
     ArcEnd from{segment->X1(), segment->Y1()}, to{segment->X2(), segment->Y2()};
     if (const Vector* before = segment->InVector.get()) {
@@ -52,7 +53,6 @@ void DrawSegments(const std::vector<Vector*>& pcolSegments, std::optional<ArcEnd
       to = *pEnd;
     }
     segment->Place(from.X, from.Y, to.X, to.Y);
-    segment->Draw();
   }
 }
 
@@ -101,7 +101,9 @@ void Arc::Draw() {
     start = OutputPoint(ends.Source);
     end = InputPoint(ends.Target);
   }
-  const auto segments = Segments();
+  const bool isStraight = mcolSegments.size() == 1 && Workflow && Workflow->Has(*mcolSegments.front());
+  const auto several = isStraight ? std::vector<Vector*>() : Segments();
+  const std::span<Vector* const> segments(isStraight ? mcolSegments : several);
   DrawSegments(segments, start, end);
   const bool isBent =
       std::any_of(mcolSegments.begin(), mcolSegments.end(), [](const Vector* segment) { return !segment->Elbows().empty(); });

@@ -38,6 +38,7 @@ void SingleDrawing::Finish() {
 
 bool SingleDrawing::Postpones(Arc& pobjArc) {
   if (!gobjOuter || !pobjArc.Workflow || !(pobjArc.Workflow == gobjOuter->mobjWorkflow)) return false;
+  if (gobjOuter->mblnForgets) return true;
   pobjArc.mlngTurn = gobjOuter->mcolWaiting.size();
   gobjOuter->mcolWaiting.emplace_back(&pobjArc);
   return true;

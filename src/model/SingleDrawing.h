@@ -20,11 +20,14 @@ class SingleDrawing {
   SingleDrawing& operator=(const SingleDrawing&) = delete;
 
   void Finish();
+  /// Drops the arcs that are asked to draw themselves: the caller draws them afterwards.
+  void Forget() { mblnForgets = true; }
   /// True when the drawing is put off; the arc must not draw itself now.
   static bool Postpones(Arc& pobjArc);
 
  private:
   Ref<Workflow> mobjWorkflow;
+  bool mblnForgets = false;
   std::vector<Ref<Arc>> mcolWaiting;  // may list an arc several times, or one that is gone
 };
 

@@ -43,7 +43,7 @@ void Vector::Place(float psngX1, float psngY1, float psngX2, float psngY2) {
   msngY1 = psngY1;
   msngX2 = psngX2;
   msngY2 = psngY2;
-  if (Line* line = LineControl.get()) line->Place(msngX1, msngY1, msngX2, msngY2);
+  Draw();
 }
 
 void Vector::LineWidth(std::int16_t& pintPixels) {

@@ -49,7 +49,7 @@ class Vector final : public ChartObject {
   void Y2(float psngY) { End(msngX2, psngY); }
   void Start(float psngX1, float psngY1);
   void End(float psngX2, float psngY2);
-  /// Both ends at once.
+  /// Both ends at once, and draws the line there.
   void Place(float psngX1, float psngY1, float psngX2, float psngY2);
 
   std::int16_t LineWidth() const { return mintLineWidth; }

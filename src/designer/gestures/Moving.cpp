@@ -9,7 +9,9 @@
 namespace vantrel {
 
 void MovingGroup::Add(const std::shared_ptr<ModelObject>& pobjObject) {
-  if (const auto bounds = BoundsOf(*pobjObject)) mcolMembers.push_back({pobjObject, bounds->Left, bounds->Top});
+  const auto object = std::dynamic_pointer_cast<ChartObject>(pobjObject);
+  const auto bounds = object ? object->Bounds() : std::nullopt;
+  if (bounds) mcolMembers.push_back({object, bounds->Left, bounds->Top});
 }
 
 void MovingGroup::AddBendPoints() {
@@ -35,7 +37,7 @@ bool MovingGroup::MoveTo(Workflow& pobjWorkflow, float psngX, float psngY) const
   SingleDrawing arcsOnce(pobjWorkflow);
   for (const Member& member : mcolMembers) {
     const auto object = member.Item.lock();
-    if (!object || !IsPartOf(*object, pobjWorkflow)) continue;
+    if (!object || !pobjWorkflow.Has(*object)) continue;
     vantrel::MoveTo(*object, member.Left + psngX, member.Top + psngY);
     moves = true;
   }
