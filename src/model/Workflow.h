@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +18,7 @@
 #include "model/Vector.h"
 #include "model/WorkCase.h"
 #include "util/Collection.h"
+#include "util/Color.h"
 #include "util/Event.h"
 
 namespace vantrel {
@@ -50,6 +52,7 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
   RunStyleConstant RunStyle = vntSilent;
   bool LockControls = false;
   std::int16_t Status = 0;            ///< the host's
+  std::optional<Color> ChartColor;    ///< background that the program's window and files keep; controls do not read it
   Ref<Transition> SubflowTransition;  ///< set by a host: the transition that this workflow delivers for when a case ends
 
   /// A token was added to a place of this workflow.

@@ -3,6 +3,7 @@
 #include <unordered_set>
 #include <vector>
 
+#include "persistence/ChartColor.h"
 #include "persistence/DatabaseAccess.h"
 
 namespace vantrel {
@@ -70,6 +71,7 @@ void WholeSaving::Save(const std::shared_ptr<Workflow>& pobjWorkflow) {
   }
   mobjDatabase.SaveWorkFlow(pobjWorkflow);
   CheckFailures();
+  if (pobjWorkflow->ChartColor) SaveChartColor(*mobjDatabase.Connection, pobjWorkflow->RecId, *pobjWorkflow->ChartColor);
   for (const auto& place : pobjWorkflow->Places) {
     if (!place->TokenProperties) continue;
     mobjDatabase.SaveTokenProperties(place);

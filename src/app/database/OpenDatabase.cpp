@@ -2,11 +2,15 @@
 
 #include <filesystem>
 #include <iostream>
+#include <unordered_set>
 #include <utility>
+#include <vector>
 
 #include "app/Lines.h"
 #include "app/database/Engines.h"
 #include "app/database/SchemaVersion.h"
+#include "database/TransactionScope.h"
+#include "persistence/ChartColor.h"
 #include "util/Error.h"
 
 namespace vantrel {
@@ -64,6 +68,20 @@ SchemaVersion VersionOf(Connection& pobjConnection, const std::string& pstrName)
   return version;
 }
 
+// Of the workflow and of all that are embedded in it.
+void ReadColors(Connection& pobjConnection, const std::shared_ptr<Workflow>& pobjWorkflow) {
+  std::vector<std::shared_ptr<Workflow>> found = {pobjWorkflow};
+  std::unordered_set<const Workflow*> seen = {pobjWorkflow.get()};
+  for (std::size_t i = 0; i < found.size(); ++i) {
+    const auto workflow = found[i];  // the list grows
+    workflow->ChartColor = ReadChartColor(pobjConnection, workflow->RecId);
+    for (const auto& transition : workflow->Transitions) {
+      const auto inner = std::dynamic_pointer_cast<Workflow>(transition->Object());
+      if (inner && seen.insert(inner.get()).second) found.push_back(inner);
+    }
+  }
+}
+
 }  // namespace
 
 OpenDatabase::OpenDatabase(const DatabaseAddress& pobjAddress)
@@ -106,7 +124,11 @@ void OpenDatabase::Do(const std::function<void()>& pWork) {
 
 std::shared_ptr<Workflow> OpenDatabase::ReadWorkflow(std::int32_t plngId) {
   std::shared_ptr<Workflow> workflow;
-  Do([&] { workflow = mAccess.ReadWorkflow(plngId); });
+  Do([&] {
+    const TransactionScope moment(Connection(), Transaction::Read);
+    workflow = mAccess.ReadWorkflow(plngId);
+    if (workflow) ReadColors(Connection(), workflow);
+  });
   if (workflow) return workflow;
   CheckTables();  // that there is no connection any more looks the same
   throw NoSuchWorkflow(plngId);

@@ -4,7 +4,6 @@
 #include "app/database/Deletion.h"
 #include "app/database/OpenDatabase.h"
 #include "database/TransactionScope.h"
-#include "persistence/ChartColor.h"
 #include "persistence/SavedMarks.h"
 #include "persistence/WholeSave.h"
 
@@ -29,26 +28,11 @@ SavedMarks MarksOf(const std::shared_ptr<Workflow>& pobjWorkflow) {
   return marks;
 }
 
-// In one transaction; when it throws, ids and marks of change are put back by whoever changed them.
-void SaveChart(OpenDatabase& pobjDatabase, const std::shared_ptr<Workflow>& pobjWorkflow, std::optional<Color> plngBackColor) {
-  if (!plngBackColor) return SaveWhole(pobjDatabase.Access(), pobjWorkflow);
-  SavedMarks marks = MarksOf(pobjWorkflow);
-  try {
-    TransactionScope transaction(pobjDatabase.Connection(), Transaction::Write);
-    SaveWhole(pobjDatabase.Access(), pobjWorkflow);
-    SaveChartColor(pobjDatabase.Connection(), pobjWorkflow->RecId, *plngBackColor);
-    transaction.Commit();
-  } catch (...) {
-    marks.Restore();
-    throw;
-  }
-}
-
-void SaveNew(OpenDatabase& pobjDatabase, const std::shared_ptr<Workflow>& pobjWorkflow, std::optional<Color> plngBackColor) {
+void SaveNew(OpenDatabase& pobjDatabase, const std::shared_ptr<Workflow>& pobjWorkflow) {
   SavedMarks marks = MarksOf(pobjWorkflow);
   ForgetRecords(*pobjWorkflow);
   try {
-    SaveChart(pobjDatabase, pobjWorkflow, plngBackColor);
+    SaveWhole(pobjDatabase.Access(), pobjWorkflow);
   } catch (...) {
     marks.Restore();
     throw;
@@ -64,26 +48,19 @@ std::vector<WorkflowListing> WorkflowStore::List() const {
   return listing;
 }
 
-OpenedChart WorkflowStore::ReadChart(std::int32_t plngId) const {
-  OpenDatabase database(mAddress);
-  OpenedChart chart;
-  const TransactionScope moment(database.Connection(), Transaction::Read);
-  chart.Workflow = database.ReadWorkflow(plngId);
-  database.Do([&] { chart.BackColor = ReadChartColor(database.Connection(), plngId); });
-  return chart;
-}
+std::shared_ptr<Workflow> WorkflowStore::Read(std::int32_t plngId) const { return OpenDatabase(mAddress).ReadWorkflow(plngId); }
 
-void WorkflowStore::Save(const std::shared_ptr<Workflow>& pobjWorkflow, std::optional<Color> plngBackColor) const {
+void WorkflowStore::Save(const std::shared_ptr<Workflow>& pobjWorkflow) const {
   OpenDatabase database(mAddress);
   database.Do([&] {
-    if (pobjWorkflow->RecId != 0 && !IsThere(database, pobjWorkflow->RecId)) return SaveNew(database, pobjWorkflow, plngBackColor);
-    SaveChart(database, pobjWorkflow, plngBackColor);
+    if (pobjWorkflow->RecId != 0 && !IsThere(database, pobjWorkflow->RecId)) return SaveNew(database, pobjWorkflow);
+    SaveWhole(database.Access(), pobjWorkflow);
   });
 }
 
-void WorkflowStore::SaveAsNew(const std::shared_ptr<Workflow>& pobjWorkflow, std::optional<Color> plngBackColor) const {
+void WorkflowStore::SaveAsNew(const std::shared_ptr<Workflow>& pobjWorkflow) const {
   OpenDatabase database(mAddress);
-  database.Do([&] { SaveNew(database, pobjWorkflow, plngBackColor); });
+  database.Do([&] { SaveNew(database, pobjWorkflow); });
 }
 
 void WorkflowStore::Delete(std::int32_t plngId) const {

@@ -3,22 +3,14 @@
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "app/database/DatabaseAddress.h"
 #include "model/Workflow.h"
 #include "persistence/WorkflowList.h"
-#include "util/Color.h"
 
 namespace vantrel {
-
-/// A stored workflow as it is opened.
-struct OpenedChart {
-  std::shared_ptr<vantrel::Workflow> Workflow;
-  std::optional<Color> BackColor;  ///< of the chart; nothing where none was saved
-};
 
 /// Every call opens the database and closes it again: nothing is locked while the user thinks, and a server that was away is
 /// found again. All calls throw DatabaseFailure.
@@ -30,14 +22,12 @@ class WorkflowStore {
   std::string Name() const { return mAddress.Shown(); }
 
   std::vector<WorkflowListing> List() const;
-  std::shared_ptr<Workflow> Read(std::int32_t plngId) const { return ReadChart(plngId).Workflow; }
-  OpenedChart ReadChart(std::int32_t plngId) const;
+  std::shared_ptr<Workflow> Read(std::int32_t plngId) const;
   /// Saves the workflow with those embedded in it, all or nothing; when it throws, ids and marks of change are what they were.
-  /// One whose row somebody deleted meanwhile gets a new id. Cases and tokens are not saved. The colour is saved with it where one is
-  /// given and the database has a table for it.
-  void Save(const std::shared_ptr<Workflow>& pobjWorkflow, std::optional<Color> plngBackColor = {}) const;
+  /// One whose row somebody deleted meanwhile gets a new id. Cases and tokens are not saved.
+  void Save(const std::shared_ptr<Workflow>& pobjWorkflow) const;
   /// Saves it under a new id, which it keeps; what was stored before stays. Embedded workflows are shared by both.
-  void SaveAsNew(const std::shared_ptr<Workflow>& pobjWorkflow, std::optional<Color> plngBackColor = {}) const;
+  void SaveAsNew(const std::shared_ptr<Workflow>& pobjWorkflow) const;
   /// Refuses a workflow that others embed.
   void Delete(std::int32_t plngId) const;
 

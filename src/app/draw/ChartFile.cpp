@@ -5,6 +5,7 @@
 
 #include "designer/Vantrel.h"
 #include "model/DesignerState.h"
+#include "model/Workflow.h"
 #include "qt/ChartPicture.h"
 #include "qt/QtTextMeasure.h"
 #include "toolkit/HeadlessToolkit.h"
@@ -19,6 +20,7 @@ void DrawWorkflow(const std::shared_ptr<Workflow>& pobjWorkflow, const std::stri
   HeadlessToolkit toolkit;
   Vantrel control(toolkit);
   control.ChartArea.Measure(std::make_shared<QtTextMeasure>());
+  control.BackColor(pobjWorkflow->ChartColor.value_or(kWhite));
   control.Workflow(pobjWorkflow);
   WriteChart(control.ChartArea, pstrPath, pdblZoom);
 }

@@ -19,7 +19,7 @@ namespace vantrel {
 namespace {
 
 constexpr char kFolderKey[] = "files/folder";
-constexpr double kPictureZoom = 2;  // of pictures made of pixels: sharp on any screen
+constexpr double kPictureZoom = 2;  // of PNG files: sharp on any screen
 
 class WaitCursor {
  public:
@@ -41,6 +41,14 @@ std::optional<QString> FailureOf(const std::function<void()>& pWork) {
   }
 }
 
+// Setting the colour marks a change, which it is not here.
+void ShowColor(Vantrel& pobjControl) {
+  const Color color = pobjControl.Workflow()->ChartColor.value_or(kWhite);
+  if (pobjControl.BackColor() == color) return;
+  pobjControl.BackColor(color);
+  pobjControl.Workflow()->Dirty(false);
+}
+
 QString NotesOf(const ImportedNet& pobjNet) {
   QString notes = QString("Read %1.").arg(ToQString(pobjNet.Name));
   if (!pobjNet.Marking.empty()) notes += " Its initial marking is not part of the workflow.";
@@ -52,7 +60,7 @@ QString NotesOf(const ImportedNet& pobjNet) {
 FileCommands::FileCommands(VantrelWidget& pobjWidget, WorkflowStore pobjStore, QWidget* pobjWindow)
     : QObject(pobjWindow), mobjWidget(pobjWidget), mobjStore(std::move(pobjStore)), mobjWindow(pobjWindow) {
   mobjWidget.Control().MayReplaceWorkflow = [this] {
-    New();  // with all that belongs to it
+    New();  // asks first, and updates title and list
     return false;
   };
 }
@@ -97,8 +105,15 @@ void FileCommands::Begin(const std::shared_ptr<Workflow>& pobjWorkflow, const QS
   Vantrel& control = mobjWidget.Control();
   for (ScrollBar* const bar : {&control.HScroll, &control.VScroll}) bar->Max(0);  // another chart may be smaller
   pobjWorkflow ? control.Workflow(pobjWorkflow) : static_cast<void>(control.NewWorkflow());
+  ShowColor(control);
   mobjWidget.View().ShowBeginning();
   emit ShownChanged();
+}
+
+std::shared_ptr<Workflow> FileCommands::Shown() const {
+  const Vantrel& control = mobjWidget.Control();
+  if (control.Workflow()) control.Workflow()->ChartColor = control.BackColor();
+  return control.Workflow();
 }
 
 bool FileCommands::New() {
@@ -129,12 +144,12 @@ bool FileCommands::Save() { return SaveBy(&WorkflowStore::Save); }
 
 bool FileCommands::SaveAsNew() { return SaveBy(&WorkflowStore::SaveAsNew); }
 
-bool FileCommands::SaveBy(void (WorkflowStore::*pSave)(const std::shared_ptr<Workflow>&, std::optional<Color>) const) {
+bool FileCommands::SaveBy(void (WorkflowStore::*pSave)(const std::shared_ptr<Workflow>&) const) {
   mobjWidget.View().FinishEditing();
-  const auto workflow = mobjWidget.Control().Workflow();
+  const auto workflow = Shown();
   if (!workflow) return false;
   const auto before = workflow->RecId;
-  const bool isDone = Try(QString("Cannot save %1.").arg(ShownName()), [&] { (mobjStore.*pSave)(workflow, std::nullopt); });
+  const bool isDone = Try(QString("Cannot save %1.").arg(ShownName()), [&] { (mobjStore.*pSave)(workflow); });
   workflow->Dirty(!isDone);
   if (!isDone) return false;
   mstrFile.clear();
@@ -196,7 +211,7 @@ void FileCommands::AskForExport() {
 }
 
 void FileCommands::Export(const QString& pstrFile) {
-  const auto workflow = mobjWidget.Control().Workflow();
+  const auto workflow = Shown();
   if (!workflow) return;
   if (Try("The net was not written.", [&] { ExportPnml(*workflow, pstrFile.toStdString()); })) {
     const auto left = ArcsLeftOut(*workflow).size();

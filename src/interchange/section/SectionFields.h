@@ -94,6 +94,7 @@ void WorkflowFields(Archive& pArchive, W& pobjWorkflow) {
   pArchive.Field("showWeights", pobjWorkflow.ShowWeights, false);
   pArchive.Field("runStyle", pobjWorkflow.RunStyle, vntSilent);
   pArchive.Field("lockControls", pobjWorkflow.LockControls, false);
+  pArchive.Property("backColor", pobjWorkflow.ChartColor.value_or(kWhite), kWhite, [&](auto color) { pobjWorkflow.ChartColor = color; });
   pArchive.Field("tag", pobjWorkflow.Tag, {});
   pArchive.Field("divisionId", pobjWorkflow.DivisionId, 0);
   pArchive.Field("status", pobjWorkflow.Status, 0);

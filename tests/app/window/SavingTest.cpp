@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "app/window/WindowTest.h"
+#include "interchange/PnmlExport.h"
 
 namespace vantrel {
 
@@ -40,6 +41,31 @@ TEST_F(SavingTest, WhatWasDrawnIsThereAfterTheProgramWasClosed) {
   EXPECT_EQ(places.Item(3)->Top(), top);
   EXPECT_EQ(Control().Workflow()->StartPlace->Name(), "StartPlace");
   EXPECT_FALSE(Control().Dirty());
+}
+
+TEST_F(SavingTest, TheChartKeepsItsColourInTheDatabaseAndInFiles) {
+  constexpr Color kSand = 0x96C8E6;
+  Files().New();
+  Control().BackColor(kSand);
+  ASSERT_TRUE(Files().Save());
+  EXPECT_FALSE(mobjWindow->isWindowModified());
+  Files().New();
+  EXPECT_EQ(Control().BackColor(), kWhite);
+
+  Reopen();
+  ASSERT_TRUE(Files().Open(1));
+  EXPECT_EQ(Control().BackColor(), kSand);
+  EXPECT_EQ(Control().ChartArea.BackColor(), kSand);
+  EXPECT_FALSE(mobjWindow->isWindowModified());
+
+  ExportPnml(*Store().Read(1), File("net.pnml"));
+  Files().New();
+  ASSERT_TRUE(Files().Import(QString::fromStdString(File("net.pnml"))));
+  EXPECT_EQ(Control().BackColor(), kSand);
+  Control().BackColor(kWhite);
+  ASSERT_TRUE(Files().Save());
+  ASSERT_TRUE(Files().Open(2));
+  EXPECT_EQ(Control().BackColor(), kWhite);
 }
 
 TEST_F(SavingTest, AFailedSaveSaysSoAndKeepsTheChartDirty) {
