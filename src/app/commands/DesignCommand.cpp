@@ -1,7 +1,5 @@
 #include "app/commands/DesignCommand.h"
 
-#include <stdexcept>
-
 #include <CLI/CLI.hpp>
 
 #include "app/CommandLine.h"
@@ -25,12 +23,12 @@ void DesignCommand::Declare(CLI::App& pobjApp) {
 }
 
 int DesignCommand::Run() {
+  DisplayQuestion display;
   DesignRequest request{mDatabase.Existing(), 0, {}, mFileOptions};
   const auto id = StoredId(mstrNet);
   if (id) request.Id = *id;
   if (!id) request.File = mstrNet;
-  if (const auto fault = WhyNoDisplay(); !fault.empty()) throw std::runtime_error(fault);
-  return RunDesigner(request);
+  return RunDesigner(request, display);
 }
 
 }  // namespace vantrel

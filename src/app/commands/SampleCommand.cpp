@@ -29,8 +29,9 @@ ImportedNet MakeSample() { return BuildWorkflow(PnmlReader().ReadBytes(SampleNet
 
 int SampleCommand::Run() {
 #if VANTREL_HAS_QT
-  const std::string fault = WhyNoDisplay();
-  if (fault.empty()) return Design();
+  DisplayQuestion display;
+  const std::string fault = display.WhyNot();
+  if (fault.empty()) return Design(display);
   std::cerr << "vantrel: " << fault << '\n';
 #endif
   return DrawAndPlay();
@@ -38,7 +39,7 @@ int SampleCommand::Run() {
 
 #if VANTREL_HAS_QT
 
-int SampleCommand::Design() {
+int SampleCommand::Design(DisplayQuestion& pobjDisplay) {
   const DatabaseAddress address = DatabaseOption().Existing();
   const WorkflowStore store(address);
   DesignRequest request{address, 0, {}, {}};
@@ -47,12 +48,8 @@ int SampleCommand::Design() {
     store.Save(sample);
     request.Id = sample->RecId;
   }
-  return RunDesigner(request);
+  return RunDesigner(request, pobjDisplay);
 }
-
-#else
-
-int SampleCommand::Design() { return DrawAndPlay(); }
 
 #endif
 

@@ -4,6 +4,8 @@
 
 namespace vantrel {
 
+class DisplayQuestion;
+
 /// `vantrel` alone: the designer on the sample workflow or on what was open last, in the user's own database. Without a display it
 /// draws the sample, plays it and tells what happened.
 class SampleCommand {
@@ -12,7 +14,7 @@ class SampleCommand {
   int Run();
 
  private:
-  int Design();
+  int Design(DisplayQuestion& pobjDisplay);
   int DrawAndPlay();
 };
 

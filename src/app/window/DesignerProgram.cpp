@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <algorithm>
+#include <stdexcept>
 
 #include <vantrel/version.h>
 
@@ -26,13 +27,13 @@ void NameProgram() {
   QApplication::setWindowIcon(ProgramIcon());
 }
 
-// On the command line a wrong id is a mistake to be told there, before there is a window. Null: nothing was asked for.
+// Read before there is a window, so that a wrong id or file is reported on the command line. Null when nothing was asked for.
 std::shared_ptr<Workflow> Wanted(const DesignRequest& pobjRequest, const WorkflowStore& pobjStore) {
   if (!pobjRequest.File.empty()) return ImportPnml(pobjRequest.File, pobjRequest.FileOptions).Workflow;
   return pobjRequest.Id != 0 ? pobjStore.Read(pobjRequest.Id) : nullptr;
 }
 
-// What was open last may well be gone, or be what brought the program down.
+// The workflow that was open last may be deleted or damaged by now: then a new one is shown.
 void ShowLast(DesignerWindow& pobjWindow, const std::vector<WorkflowListing>& pcolStored) {
   const std::int32_t last = pobjWindow.LastOpened();
   if (!IsStored(pcolStored, last) || !pobjWindow.Files().Open(last)) pobjWindow.Files().New();
@@ -40,16 +41,17 @@ void ShowLast(DesignerWindow& pobjWindow, const std::vector<WorkflowListing>& pc
 
 }  // namespace
 
-int RunDesigner(const DesignRequest& pobjRequest) {
+int RunDesigner(const DesignRequest& pobjRequest, DisplayQuestion& pobjDisplay) {
   const WorkflowStore store(pobjRequest.Database);
-  const auto stored = store.List();  // what is wrong with the database is told before there is a window, too
+  const auto stored = store.List();  // likewise before there is a window
   const auto wanted = Wanted(pobjRequest, store);
+  if (const auto fault = pobjDisplay.WhyNot(); !fault.empty()) throw std::runtime_error(fault);
   int count = 1;
   char name[] = "vantrel";
   char* arguments[] = {name, nullptr};
   const QApplication application(count, arguments);
   NameProgram();
-  DesignerWindow window(store);
+  DesignerWindow window(store, stored);
   window.show();
   if (wanted) window.Files().Begin(wanted, ToQString(pobjRequest.File));
   if (!wanted) ShowLast(window, stored);

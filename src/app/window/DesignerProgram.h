@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/database/DatabaseAddress.h"
+#include "app/window/Display.h"
 #include "interchange/PnmlReader.h"
 
 namespace vantrel {
@@ -17,8 +18,8 @@ struct DesignRequest {
   PnmlOptions FileOptions;
 };
 
-/// Shows the window until the user closes it. Returns an ExitStatus; throws when the database, workflow or file asked for cannot be used.
-/// Needs a display, see WhyNoDisplay.
-int RunDesigner(const DesignRequest& pobjRequest);
+/// Shows the window until the user closes it. Returns an ExitStatus. Throws before there is a window when the database, workflow or file
+/// asked for cannot be used, or when no window can be shown.
+int RunDesigner(const DesignRequest& pobjRequest, DisplayQuestion& pobjDisplay);
 
 }  // namespace vantrel

@@ -21,13 +21,13 @@ constexpr char kGeometryKey[] = "window/geometry", kStateKey[] = "window/state",
 constexpr int kMessageTime = 8000;  // milliseconds
 
 QString LastKeyOf(const WorkflowStore& pobjStore) {
-  const QFileInfo file(ToQString(pobjStore.Name()));  // the same name elsewhere is another database
+  const QFileInfo file(ToQString(pobjStore.Name()));  // a file of the same name in another folder is another database
   return kLastKey + QString::fromLatin1(QUrl::toPercentEncoding(file.exists() ? file.canonicalFilePath() : file.filePath()));
 }
 
 }  // namespace
 
-DesignerWindow::DesignerWindow(const WorkflowStore& pobjStore)
+DesignerWindow::DesignerWindow(const WorkflowStore& pobjStore, const std::vector<WorkflowListing>& pcolStored)
     : mobjDesigner(new VantrelWidget(this)),
       mobjFiles(*mobjDesigner, pobjStore, this),
       mobjStored(new StoredList),
@@ -42,8 +42,8 @@ DesignerWindow::DesignerWindow(const WorkflowStore& pobjStore)
   SetUpList();
   ConnectDesigner();
   Restore();
+  mobjStored->Show(pcolStored);
   ShownChanged();
-  ReadList();
   mobjDesigner->setFocus();
 }
 
@@ -86,7 +86,7 @@ void DesignerWindow::ConnectDesigner() {
   connect(&mobjDesigner->View(), &ChartView::ZoomChanged, mobjStatus, &StatusLine::ShowZoom);
   connect(mobjDesigner, &VantrelWidget::DirtyChange, this, [this](bool dirty) { setWindowModified(dirty); });
   connect(mobjDesigner, &VantrelWidget::ObjectDragDrop, this, [this](const auto& dragged) { TakeDrop(dragged); });
-  // Queued: the control must not lose its workflow in the middle of a press.
+  // Queued, so that the control does not lose its workflow in the middle of a press.
   connect(mobjDesigner, &VantrelWidget::TransitionDblClick, this, &DesignerWindow::OpenEmbedded, Qt::QueuedConnection);
   connect(mobjDesigner, &VantrelWidget::RunCommand, this, [tell](const QString& command, const auto& transition) {
     tell(QString("%1 would run: %2").arg(ToQString(transition->Name()), command));
@@ -122,7 +122,7 @@ void DesignerWindow::TakeDrop(const std::shared_ptr<vantrel::Object>& pobjDragge
   if (!data || data->Urls.empty()) return;
   const QString file = QUrl(ToQString(data->Urls.front())).toLocalFile();
   if (file.isEmpty()) return mobjStatus->showMessage("Only files of this computer can be imported.", kMessageTime);
-  // Later: whoever drags must not wait for our questions.
+  // Queued, so that the program that is dragged from does not wait for our questions.
   QMetaObject::invokeMethod(
       &mobjFiles, [this, file] { mobjFiles.Import(file); }, Qt::QueuedConnection);
 }

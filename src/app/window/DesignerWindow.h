@@ -19,7 +19,8 @@ class DesignerWindow final : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit DesignerWindow(const WorkflowStore& pobjStore);
+  /// `pcolStored` is what the database holds.
+  DesignerWindow(const WorkflowStore& pobjStore, const std::vector<WorkflowListing>& pcolStored);
   ~DesignerWindow() override;
 
   FileCommands& Files() { return mobjFiles; }

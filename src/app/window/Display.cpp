@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <cstdlib>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -17,7 +18,7 @@ bool IsSet(const char* pstrVariable) {
   return value && *value;
 }
 
-// A display that does not answer ends the process that asks it: so a child asks.
+// A child process asks, because a display that does not answer ends the process that asks.
 [[noreturn]] void Ask() {
   const rlimit none = {0, 0};
   setrlimit(RLIMIT_CORE, &none);
@@ -30,23 +31,26 @@ bool IsSet(const char* pstrVariable) {
   _exit(0);
 }
 
-bool Answers() {
-  const pid_t child = fork();
-  if (child < 0) return true;
-  if (child == 0) Ask();
-  int status = 0;
-  return waitpid(child, &status, 0) != child || (WIFEXITED(status) && WEXITSTATUS(status) == 0);
-}
-
 }  // namespace
 
-std::string WhyNoDisplay() {
-  const bool isChosen = IsSet("QT_QPA_PLATFORM");
-  if (!isChosen && !IsSet("DISPLAY") && !IsSet("WAYLAND_DISPLAY")) {
-    return "no display: neither DISPLAY nor WAYLAND_DISPLAY says where windows go";
-  }
-  if (Answers()) return {};
-  if (isChosen)
+DisplayQuestion::DisplayQuestion()
+    : mblnChosen(IsSet("QT_QPA_PLATFORM")), mblnNamed(mblnChosen || IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY")) {
+  if (!mblnNamed) return;
+  mlngChild = fork();
+  if (mlngChild == 0) Ask();
+}
+
+void DisplayQuestion::Wait() {
+  const pid_t child = std::exchange(mlngChild, 0);
+  int status = 0;
+  if (child > 0 && waitpid(child, &status, 0) == child) mblnAnswers = WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+std::string DisplayQuestion::WhyNot() {
+  if (!mblnNamed) return "no display: neither DISPLAY nor WAYLAND_DISPLAY says where windows go";
+  Wait();
+  if (mblnAnswers) return {};
+  if (mblnChosen)
     return std::string("no display: QT_QPA_PLATFORM is \"") + std::getenv("QT_QPA_PLATFORM") + "\", which shows no windows here";
   return std::string("no display: ") + std::getenv(IsSet("DISPLAY") ? "DISPLAY" : "WAYLAND_DISPLAY") + " does not answer";
 }

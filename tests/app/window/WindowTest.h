@@ -30,10 +30,10 @@ class WindowTest : public testing::Test {
     Reopen();
   }
 
-  /// The program is ended and started again.
+  /// Ends the program and starts it again.
   void Reopen() {
     mobjWindow.reset();
-    mobjWindow = std::make_unique<DesignerWindow>(Store());
+    mobjWindow = std::make_unique<DesignerWindow>(Store(), Store().List());
     mobjWindow->show();
     QApplication::processEvents();
   }
@@ -44,7 +44,7 @@ class WindowTest : public testing::Test {
   FileCommands& Files() { return mobjWindow->Files(); }
   Vantrel& Control() { return mobjWindow->Designer().Control(); }
 
-  /// Of the command with that id.
+  /// The action of the command with that id.
   QAction* Action(std::string_view pstrId) {
     auto* const action = mobjWindow->findChild<QAction*>(QString::fromUtf8(pstrId.data(), static_cast<qsizetype>(pstrId.size())));
     if (!action) ADD_FAILURE() << "no action " << pstrId;
@@ -56,7 +56,7 @@ class WindowTest : public testing::Test {
     return mobjWindow->findChild<W*>(pstrName);
   }
 
-  /// Answers the next box, and notes its text.
+  /// Answers the next box and records its text.
   void AnswerNext(QMessageBox::StandardButton pButton) {
     QTimer::singleShot(0, qApp, [this, pButton] {
       auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
