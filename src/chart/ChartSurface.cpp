@@ -58,7 +58,7 @@ void ChartSurface::ElementChanged(Element& pobjElement, const Rect& pobjBefore, 
   if (pblnIsVisible) Damage(after);
 }
 
-// Keeps grid and bounds true to what is visible where.
+// Updates grid and bounds.
 void ChartSurface::Arrange(Element& pobjElement, const Rect& pobjBefore, const Rect& pobjAfter, bool pblnWasVisible, bool pblnIsVisible) {
   if (pblnWasVisible && pblnIsVisible) {
     mGrid.Move(&pobjElement, pobjBefore, pobjAfter);
@@ -111,7 +111,7 @@ void ChartSurface::BringToFront(Element& pobjElement) {
   if (pobjElement.Visible()) Damage(pobjElement.Bounds());
 }
 
-// Whoever hears of the damage may take the element's index again, or the surface away: that is the last step.
+// Tells of the damage last: a listener may make an element with the same index, or end the surface.
 void ChartSurface::Unload(Element& pobjElement) {
   if (pobjElement.Index() == 0) return;
   const std::shared_ptr<Element> keeper = pobjElement.shared_from_this();
@@ -143,7 +143,7 @@ void ChartSurface::Drop(const Element& pobjElement) {
 std::vector<Element*> ChartSurface::ElementsIn(const Rect& pobjArea) const {
   std::vector<Element*> found;
   mGrid.Collect(pobjArea, found);
-  std::vector<std::pair<std::int64_t, Element*>> layers;  // beside the pointers: sorting must not go to each element again and again
+  std::vector<std::pair<std::int64_t, Element*>> layers;  // with their orders, so that sorting need not look at the elements
   layers.reserve(found.size());
   for (Element* element : found) {
     if (element->Bounds().Touches(pobjArea)) layers.emplace_back(element->ZOrder(), element);

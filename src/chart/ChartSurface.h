@@ -17,13 +17,13 @@
 
 namespace vantrel {
 
-/// Owns the element families, knows every visible element's rectangle and tells views what to paint again. Views ask it
-/// for elements; they never ask the model.
+/// Owns the element families, knows every visible element's rectangle and tells views what to paint again. Views ask it for
+/// elements; they never ask the model.
 class ChartSurface {
   static constexpr Rect kEverything{-1e12F, -1e12F, 1e12F, 1e12F};
-  // Before the families: their templates are numbered and stacked while they are made.
+  // Declared before the families, whose constructors number and stack their templates.
   SpatialGrid mGrid;
-  mutable RunningBounds mVisibleBounds, mBoxBounds;  // a question settles what is unknown
+  mutable RunningBounds mVisibleBounds, mBoxBounds;  // computed anew when asked for while unknown
   std::shared_ptr<const TextMeasure> mMeasure;
   std::int64_t mFront = 0;
   float mScaleLeft = 0, mScaleTop = 0, mScaleWidth = 0, mScaleHeight = 0;
@@ -47,10 +47,10 @@ class ChartSurface {
   /// The visible element nearest to the front under a point, or null. The tolerance widens lines only, twips.
   Element* ElementAt(float psngX, float psngY, float psngTolerance = 0) const;
 
-  /// The rectangle around all visible elements, twips; nothing for an empty chart. Costs a look at every element only after one
-  /// went from the edge.
+  /// The rectangle around all visible elements, twips; nothing for an empty chart. Looks at every element only after one on the
+  /// edge has moved or gone.
   std::optional<Rect> VisibleBounds() const;
-  /// The same of all elements but lines and templates, hidden ones included: they show up later where they are now.
+  /// The same around all images and labels, hidden ones included, templates not.
   std::optional<Rect> BoxBounds() const;
 
   float ScaleLeft() const { return mScaleLeft; }  ///< the part in view, twips
@@ -65,15 +65,15 @@ class ChartSurface {
   void Visible(bool pblnOn);
 
   const TextMeasure& Measure() const { return *mMeasure; }
-  /// Takes another text measure; null brings the built-in one back. Labels are not measured again by this.
+  /// Installs a text measure; null brings the built-in one back. Does not measure existing labels again.
   void Measure(std::shared_ptr<const TextMeasure> pobjMeasure);
 
-  /// Restricts OnDamaged to what touches this rectangle, twips: a view needs to hear only of what it shows. Everything at first.
+  /// Restricts OnDamaged to what touches this rectangle, twips: the part that the view shows. At first everything.
   void Watch(const Rect& pobjArea) { mWatched = pobjArea; }
 
-  /// Raised with each rectangle (twips) that has to be painted again.
+  /// Raised with each rectangle (twips) to paint again.
   Event<const Rect&> OnDamaged;
-  /// Raised after VisibleBounds grew, with the rectangle that they did not hold.
+  /// Raised after VisibleBounds grew, with the rectangle that made them grow.
   Event<const Rect&> OnGrown;
 
  private:

@@ -15,9 +15,9 @@ class ChartSurface;
 /// The families that elements are numbered in.
 enum ElementFamilyId : std::uint8_t { ctlImageFamily, ctlLabelFamily, lblCountFamily, ctlLineFamily, ctlHandleFamily };
 
-/// A visual element: an image, a label or a line. Owned by its family on the surface; model objects and views refer to it.
-/// Every setter that changes something tells the surface which rectangle to paint again; one that changes nothing is
-/// silent. An element whose surface is gone keeps its values and tells nobody.
+/// A visual element: an image, a label or a line. Its family on the surface owns it; model objects and views refer to it. A setter
+/// that changes something tells the surface which rectangle to paint again; a setter that changes nothing repaints nothing. An
+/// element whose surface is gone keeps its values.
 class Element : public Object, public std::enable_shared_from_this<Element> {
  public:
   ElementFamilyId Family() const { return mFamily; }
@@ -36,7 +36,7 @@ class Element : public Object, public std::enable_shared_from_this<Element> {
   /// True when the point (twips) is on the element, widened by a tolerance.
   virtual bool Covers(float psngX, float psngY, float psngTolerance) const;
 
-  /// Puts the element before all others.
+  /// Puts the element in front of all others.
   void BringToFront();
   /// Larger is nearer to the front.
   std::int64_t ZOrder() const { return mZOrder; }
@@ -46,7 +46,7 @@ class Element : public Object, public std::enable_shared_from_this<Element> {
 
  protected:
   Element() = default;
-  /// Lets `pChange` alter the fields and reports what was covered before and after.
+  /// Runs `pChange`, which alters the fields, and tells the surface the rectangles before and after.
   template <class Change>
   void Alter(Change&& pChange) {
     const Rect before = Bounds();
@@ -83,11 +83,11 @@ class BoxElement : public Element {
   void Width(float psngWidth) { Set(mWidth, psngWidth < 0 ? 0 : psngWidth); }
   float Height() const { return mHeight; }
   void Height(float psngHeight) { Set(mHeight, psngHeight < 0 ? 0 : psngHeight); }
-  /// One change instead of two or four.
+  /// Set both values in one change.
   void MoveTo(float psngLeft, float psngTop);
   void Resize(float psngWidth, float psngHeight);
 
-  /// 0 none, 1 single line.
+  /// 0: no border, 1: a single line.
   std::int16_t BorderStyle() const { return mBorderStyle; }
   void BorderStyle(std::int16_t pintStyle) { Set(mBorderStyle, pintStyle); }
 

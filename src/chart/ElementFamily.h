@@ -10,8 +10,8 @@ namespace vantrel {
 
 class ChartSurface;
 
-/// Elements of one kind, counted from 0. Element 0 is the template whose settings new elements copy; it is never removed.
-/// A new element gets the index one above the highest in use; an index below that is not used again.
+/// Elements of one kind, numbered from 0. Element 0 is the template: new elements copy its settings, and it is never removed. A new
+/// element gets the index one above the highest in use; lower free indexes are not used again.
 template <class E>
 class ElementFamily {
  public:
@@ -37,7 +37,7 @@ class ElementFamily {
     if (const auto element = At(plngIndex)) element->Unload();
   }
 
-  /// Cuts the ties to a surface that goes away.
+  /// Tells all elements that the surface is gone.
   void Detach() {
     for (const auto& element : mElements) {
       if (element) element->mSurface = nullptr;

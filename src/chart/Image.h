@@ -14,7 +14,7 @@ class Image final : public BoxElement {
   std::string Class() const override { return "VNTR.Image.1"; }
 
   const std::shared_ptr<const vantrel::Picture>& Picture() const { return mPicture; }
-  /// Takes the picture and its size. Null leaves the picture as it is: a list without that key must not blank the chart.
+  /// Takes the picture and its size. Null keeps the old picture: a list without that key must not blank the chart.
   void Picture(const std::shared_ptr<const vantrel::Picture>& pobjPicture);
 
   /// Whether the image takes what the host drags.

@@ -9,8 +9,8 @@
 
 namespace vantrel {
 
-/// A text in a box. With AutoSize on, the box follows its text, measured by the surface's TextMeasure; the side that stays
-/// is the left one, the right one or the centre, by Alignment.
+/// A text in a box. With AutoSize on, the box takes the size of its text, measured by the surface's TextMeasure; Alignment says
+/// what stays in place: the left side, the right side or the centre.
 class Label final : public BoxElement {
  public:
   std::string Class() const override { return "VNTR.Label.1"; }

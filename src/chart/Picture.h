@@ -13,7 +13,7 @@
 
 namespace vantrel {
 
-/// A picture known by name. What it looks like is the business of who paints it; its size is part of the chart's geometry.
+/// A picture known by name. Painters know what it looks like; the chart needs only its size.
 struct Picture {
   std::string Key;
   float Width = 0, Height = 0;  ///< natural size in twips

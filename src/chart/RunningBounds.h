@@ -7,8 +7,8 @@
 
 namespace vantrel {
 
-/// Keeps the smallest rectangle around others up to date while they come, move and go. When one leaves that lay on the edge,
-/// the result is unknown until Set is called with what a look at all of them gives.
+/// Keeps the smallest rectangle around others up to date while they come, move and go. After one on the edge has gone the result is
+/// unknown: the caller then computes it from all of them anew.
 class RunningBounds {
  public:
   bool IsKnown() const { return mblnKnown; }

@@ -11,8 +11,8 @@ namespace vantrel {
 
 class Element;
 
-/// Sorts rectangles into square cells, so that a question about a part of the chart costs in proportion to what is there.
-/// Rectangles that would fill very many cells are kept in a list of their own.
+/// Sorts rectangles into square cells, so that finding the elements of a part of the chart costs in proportion to their number.
+/// Keeps rectangles that would fill very many cells in a separate list.
 class SpatialGrid {
  public:
   void Insert(Element* pobjElement, const Rect& pobjBounds);

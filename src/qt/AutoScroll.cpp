@@ -9,7 +9,7 @@ namespace vantrel {
 namespace {
 
 constexpr std::chrono::milliseconds kInterval(40);
-constexpr double kEdge = 2;  // belongs to the outside: a window may end where the screen does; device-independent pixels
+constexpr double kEdge = 2;  // counts as outside, because a window may end where the screen does; device-independent pixels
 constexpr double kShare = 0.3, kSlowest = 4, kFastest = 40;
 
 double DistanceTo(double pdblAt, double pdblLow, double pdblHigh) {

@@ -8,13 +8,13 @@
 
 namespace vantrel {
 
-/// The further outside the pointer is, the faster.
+/// Scrolls the faster, the further outside the pointer is.
 class AutoScroll final {
  public:
-  /// Called again and again with the distance to go, device-independent pixels.
+  /// Calls `pScroll` again and again with the distance to scroll, device-independent pixels.
   explicit AutoScroll(std::function<void(const QPointF& pobjDistance)> pScroll);
 
-  /// Where the pointer is while something is dragged; goes on without further calls.
+  /// Sets where the pointer is during a drag. Scrolling continues without further calls.
   void Follow(const QPointF& pobjPointer, const QRectF& pobjView);
   void Stop() { mobjTimer.stop(); }
 

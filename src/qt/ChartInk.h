@@ -1,4 +1,4 @@
-// Colours that stay readable on whatever colour a host gives the chart.
+// Colours that stay readable on every background of the chart.
 #pragma once
 
 #include <QColor>
@@ -11,7 +11,7 @@ namespace vantrel {
 
 constexpr QColor kInk(0x1e, 0x29, 0x3b);       ///< of arcs, as of the pictures' edges
 constexpr QColor kLightInk(0xf8, 0xfa, 0xfc);  ///< the same on a dark ground, and of text there
-constexpr QColor kAccent(0x1d, 0x4e, 0xd8);    ///< of what is selected
+constexpr QColor kAccent(0x1d, 0x4e, 0xd8);    ///< of the selection
 constexpr QColor kLightAccent(0x93, 0xc5, 0xfd);
 
 /// Whether white is easier to read on this colour than black.
@@ -21,7 +21,7 @@ inline bool IsDark(const QColor& pobjGround) {
   return 0.2126 * linear(pobjGround.redF()) + 0.7152 * linear(pobjGround.greenF()) + 0.0722 * linear(pobjGround.blueF()) < kMiddle;
 }
 
-/// Black is what texts and lines have unless somebody chose a colour: on a dark ground it turns light. Others stay as they are.
+/// Turns black, the usual colour of texts and lines, light on a dark ground. Keeps other colours.
 inline QColor InkOn(Color plngColor, bool pblnOnDark) { return plngColor == kBlack && pblnOnDark ? kLightInk : ToQColor(plngColor); }
 
 }  // namespace vantrel

@@ -22,7 +22,7 @@ namespace {
 
 constexpr float kMargin = 12 * kTwipsPerPixel;
 constexpr double kLargestPng = 16000;        // pixels a side
-constexpr double kLargestVectors = 1000000;  // beyond it viewers give up, and later the numbers of the formats do
+constexpr double kLargestVectors = 1000000;  // viewers fail beyond it, and so does the precision of the formats later
 constexpr std::int32_t kCannotWrite = 75;
 constexpr double kChartDpi = 96;
 constexpr double kPointsPerPixel = 72 / kChartDpi;
@@ -40,10 +40,10 @@ struct Canvas {
   double Width() const { return Pixels(Area.Right - Area.Left); }
   double Height() const { return Pixels(Area.Bottom - Area.Top); }
   double Pixels(float psngTwips) const { return std::max(1.0, std::ceil(psngTwips / kTwipsPerPixel * Zoom)); }
-  // Only of a canvas that CheckSize let pass.
+  // Only after CheckSize.
   QSize Size() const { return {static_cast<int>(Width()), static_cast<int>(Height())}; }
 
-  // `pdblUnit`: the painter's units to a pixel of the picture.
+  // `pdblUnit`: units of the painter for one pixel of the picture.
   void Paint(QPaintDevice& pobjDevice, double pdblUnit) const {
     QPainter painter(&pobjDevice);
     painter.scale(pdblUnit, pdblUnit);
@@ -53,7 +53,7 @@ struct Canvas {
   }
 };
 
-// Two digits that are not above the number.
+// Rounds down to two digits.
 double RoundedDown(double pdblNumber) {
   const double step = std::pow(10, std::floor(std::log10(pdblNumber)) - 1);
   return std::floor(pdblNumber / step) * step;
@@ -124,7 +124,7 @@ void WriteChart(const ChartSurface& pobjSurface, const std::string& pstrPath, do
   CheckSize(canvas, format.LargestSide);
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly)) Refuse(kCannotWrite, path, "cannot be written: " + file.errorString());
-  // Pictures pay no heed to what a device refuses: a full disk would leave a part of one.
+  // Qt's picture writers ignore write errors, so a full disk would leave part of a picture: write to memory first.
   QBuffer picture;
   picture.open(QIODevice::WriteOnly);
   format.Write(canvas, picture);

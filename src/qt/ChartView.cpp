@@ -16,7 +16,7 @@ namespace vantrel {
 namespace {
 
 constexpr int kReach = 2;          // device-independent pixels that rounding may move an edge
-constexpr int kManyDamages = 200;  // from here on everything is painted again: regions of many rectangles are slow
+constexpr int kManyDamages = 200;  // beyond it the whole view is painted again: regions of many rectangles are slow
 constexpr int kManyParts = 8;
 constexpr double kFitMargin = 20;  // device-independent pixels
 constexpr float kContentsMargin = 20 * kTwipsPerPixel;
@@ -36,7 +36,7 @@ Qt::CursorShape CursorOf(PointerShape pShape) {
     case vntPointerHourglass:
       return Qt::WaitCursor;
     case vntPointerHand:
-      return Qt::PointingHandCursor;  // the user's own: it follows his settings for size and contrast
+      return Qt::PointingHandCursor;  // the system's: it follows the user's settings for size and contrast
     default:
       return Qt::ArrowCursor;
   }
@@ -57,7 +57,7 @@ ChartView::ChartView(Vantrel& pobjControl, QWidget* pobjParent)
   setFocusPolicy(Qt::StrongFocus);
   setAcceptDrops(true);
   setFrameShape(QFrame::NoFrame);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // coming and going they would change what is in view
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // bars that come and go would change what is in view
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   viewport()->setMouseTracking(true);
   viewport()->setAttribute(Qt::WA_OpaquePaintEvent);
@@ -89,7 +89,7 @@ void ChartView::Damaged(const Rect& pobjRect, int plngReach) {
   viewport()->update(damaged.toAlignedRect().adjusted(-plngReach, -plngReach, plngReach, plngReach));
 }
 
-// What was taken away is noticed when the zoom or the size changes: until then there is only more room to scroll.
+// The contents shrink when the zoom or the size changes. Until then users can scroll a little too far.
 void ChartView::GrowContents(const Rect& pobjRect) {
   if (mobjContents.Encloses(pobjRect)) return;
   mobjContents = mobjContents.United(pobjRect);

@@ -22,9 +22,9 @@ namespace vantrel {
 class InPlaceEditor;
 
 /// Paints a control's chart, selection rectangle and focus frame, scrolls and zooms, and hands mouse, keys and drops to the
-/// control's Input. Zoom by Ctrl and the wheel, by pinching, by Ctrl and +, -, 0 (actual size), 9 (everything); pan by the wheel,
-/// the middle button, or Space and dragging; what is dragged beyond the edge takes the chart along. F2 writes in place. Tab goes from
-/// object to object. The control must outlive the view.
+/// control's Input. Ctrl with the wheel, +, -, 0 (actual size) or 9 (everything) zooms, as pinching does. The wheel, the middle button,
+/// or Space and dragging pan; dragging something beyond the edge scrolls. F2 edits a text in place. Tab goes from object to object.
+/// The control must outlive the view.
 class ChartView final : public QAbstractScrollArea {
   Q_OBJECT
 
@@ -35,23 +35,23 @@ class ChartView final : public QAbstractScrollArea {
   ~ChartView() override;
 
   double Zoom() const { return mobjTransform.Zoom; }
-  /// Within the limits; what lies in the middle of the view stays there.
+  /// Keeps the middle of the view in place. Values beyond the limits become the nearest limit.
   void Zoom(double pdblZoom);
-  /// The same about another point of the view.
+  /// Keeps another point of the view in place.
   void Zoom(double pdblZoom, const QPointF& pobjAnchor);
-  /// Everything on the chart at once, at most in its actual size.
+  /// Shows everything on the chart, at most in its actual size.
   void FitToWindow();
-  /// Scrolls to the upper left end of the chart, as after another workflow was given to the control.
+  /// Scrolls to the upper left end of the chart.
   void ShowBeginning();
-  /// Scrolls as little as shows the rectangle, twips.
+  /// Scrolls as little as needed to show the rectangle, twips.
   void Reveal(const Rect& pobjRect);
   const ViewTransform& Transform() const { return mobjTransform; }
   /// The part of the chart in view, twips.
   Rect InView() const;
   void ShowPointer(PointerShape pShape);
-  /// A text that is being edited in place goes to its object, as if the user had left the box.
+  /// Stores a text that is being edited in place, as if the user had left the box.
   void FinishEditing();
-  /// Begins to edit the text of the current object in place, where it has one and the chart may be changed.
+  /// Edits the text of the current object in place, if it has one and the chart may be changed.
   void EditText();
 
  signals:

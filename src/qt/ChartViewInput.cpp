@@ -1,4 +1,4 @@
-// What the user does in the window.
+// How the view handles mouse, keys and drops.
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QGestureEvent>
@@ -105,7 +105,7 @@ void ChartView::mouseMoveEvent(QMouseEvent* pobjEvent) {
   ScrollBy(mobjControl.VScroll, moved.y());
 }
 
-// The pointer stands still, and the chart moves under it. The gesture may be over: by Escape, or with its workflow.
+// The pointer rests while the chart moves under it. The gesture may have ended meanwhile: by Escape, or with its workflow.
 void ChartView::DragOn(const QPointF& pobjDistance) {
   if (!mobjControl.Input.IsCaptured()) return mobjAutoScroll.Stop();
   ScrollBy(mobjControl.HScroll, pobjDistance.x() / mobjTransform.Scale());
@@ -170,7 +170,7 @@ void ChartView::keyPressEvent(QKeyEvent* pobjEvent) {
   }
   if (pobjEvent->key() == Qt::Key_F2) return EditText();
   const std::int16_t code = KeyCodeOf(pobjEvent->key());
-  // Not accepted, it goes on to the window, whose shortcuts and dialogs may want it. After a key that is used the view may be gone.
+  // An event that is not accepted goes on to the window, for its shortcuts and dialogs. A key that is used may have ended the view.
   if (code == 0 || !mobjControl.Input.Key(code, ShiftStateOf(pobjEvent->modifiers()))) pobjEvent->ignore();
 }
 
@@ -201,7 +201,7 @@ void ChartView::focusOutEvent(QFocusEvent* pobjEvent) {
 }
 
 void ChartView::contextMenuEvent(QContextMenuEvent* pobjEvent) {
-  // With the mouse the press itself has shown the menu.
+  // A mouse press has shown the menu by itself.
   if (pobjEvent->reason() != QContextMenuEvent::Keyboard || !mobjControl.EnablePopups) return;
   const QPoint centre = viewport()->rect().center();
   const Element* const current = mobjControl.CurrentControl().get();

@@ -11,7 +11,7 @@ class QMimeData;
 
 namespace vantrel {
 
-/// The DragObject of a drop from another program, or from a widget that set none.
+/// The DragObject of a drop from another program, or from a widget that did not set one.
 class DraggedData final : public Object {
  public:
   explicit DraggedData(const QMimeData& pobjData);

@@ -13,7 +13,7 @@ namespace vantrel {
 
 namespace {
 
-constexpr QColor kHalo(255, 255, 255, 190);  // between the dashes, to be seen on a dark chart
+constexpr QColor kHalo(255, 255, 255, 190);  // between the dashes, for dark charts
 constexpr QColor kBandFill(0x1d, 0x4e, 0xd8, 28);
 constexpr double kOutlineGap = 2;
 constexpr double kSmallestHandle = 6, kLargestHandle = 12;  // device-independent pixels, whatever the zoom

@@ -1,4 +1,4 @@
-// What lies before all elements of the chart.
+// Paints what lies in front of all elements of the chart.
 #pragma once
 
 class QPainter;
@@ -9,8 +9,8 @@ class FocusFrame;
 class SelectionRectangle;
 struct ViewTransform;
 
-/// Paints the rubber band and the focus frame where they are visible, in the same pixels at every zoom. Their damaged
-/// rectangles have to be widened by kFrameReach.
+/// Paint the rubber band and the focus frame if they are visible, with lines of the same width at every zoom. Widen their damaged
+/// rectangles by kFrameReach.
 void PaintSelection(QPainter& pobjPainter, const SelectionRectangle& pobjSelection, const ViewTransform& pobjTransform);
 void PaintFocusFrame(QPainter& pobjPainter, const FocusFrame& pobjFrame, const ViewTransform& pobjTransform);
 

@@ -26,7 +26,7 @@ InPlaceEditor::InPlaceEditor(FocusFrame& pobjFrame, QWidget* pobjViewport) : QLi
 
 void InPlaceEditor::Follow(const ViewTransform& pobjTransform) {
   if (!mobjFrame.IsEditing()) {
-    // Hiding takes the focus away, which must not look like the user leaving the box.
+    // Hiding takes the focus away, which must not count as the user leaving the box.
     const bool hadFocus = hasFocus();
     hide();
     if (hadFocus) parentWidget()->setFocus();
@@ -37,7 +37,7 @@ void InPlaceEditor::Follow(const ViewTransform& pobjTransform) {
   const int width = std::max(kNarrowest, label.width() + 2 * kFrame), height = std::max(sizeHint().height(), label.height());
   QRect box(label.center().x() - width / 2, label.center().y() - height / 2, width, height);
   const QRect view = parentWidget()->rect();
-  if (view.intersects(label)) {  // then the whole box is seen, too, where it is wider than its label
+  if (view.intersects(label)) {  // show the whole box, which may be wider than its label
     box.moveLeft(std::max(0, std::min(box.left(), view.width() - width)));
     box.moveTop(std::max(0, std::min(box.top(), view.height() - height)));
   }
@@ -75,7 +75,7 @@ void InPlaceEditor::keyPressEvent(QKeyEvent* pobjEvent) {
 
 void InPlaceEditor::focusOutEvent(QFocusEvent* pobjEvent) {
   QLineEdit::focusOutEvent(pobjEvent);
-  // The box's own context menu takes the focus only for a moment.
+  // The box's own context menu takes the focus for a moment only.
   if (pobjEvent->reason() != Qt::PopupFocusReason) Commit();
 }
 

@@ -10,15 +10,15 @@ namespace vantrel {
 class FocusFrame;
 struct ViewTransform;
 
-/// Follows a control's FocusFrame: there while the frame is editing, with the label's text in the label's size. Enter and the
-/// loss of the focus hand the text over, Escape leaves the label as it was. A child of the view's viewport.
+/// Shown while the control's FocusFrame is editing, with the label's text in the label's size. Enter and the loss of the focus store
+/// the text; Escape keeps the old one. A child of the view's viewport.
 class InPlaceEditor final : public QLineEdit {
  public:
   InPlaceEditor(FocusFrame& pobjFrame, QWidget* pobjViewport);
 
-  /// The frame's editing began, moved or ended, or the view shows another part of the chart.
+  /// Call it when the frame's editing began, moved or ended, and when the view shows another part of the chart.
   void Follow(const ViewTransform& pobjTransform);
-  /// Hands the text over, if the box is there.
+  /// Stores the text, if the box is shown.
   void Commit();
 
  protected:

@@ -13,7 +13,7 @@ namespace vantrel {
 
 namespace {
 
-// Two sides of a frame, each as a filled strip: no pen can straddle the box's edge.
+// Two sides of a frame, each as a filled strip: a pen would paint on both sides of the box's edge.
 void PaintCorner(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth, const QColor& pobjColor, bool pblnTopLeft) {
   const double x = pblnTopLeft ? pobjBox.left() : pobjBox.right() - pdblWidth;
   const double y = pblnTopLeft ? pobjBox.top() : pobjBox.bottom() - pdblWidth;
@@ -21,7 +21,7 @@ void PaintCorner(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth,
   pobjPainter.fillRect(QRectF(x, pobjBox.top(), pdblWidth, pobjBox.height()), pobjColor);
 }
 
-// Two strengths of one colour: white light on a white ground, or black shade on a black one, would leave half a frame.
+// Two shades of one colour: white light on a white ground, or black shade on a black one, would be invisible.
 void PaintBevel(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth, bool pblnSunken, bool pblnOnDark) {
   const QColor shade = pblnOnDark ? QColor(255, 255, 255, 55) : QColor(0, 0, 0, 140);
   const QColor light = pblnOnDark ? QColor(255, 255, 255, 170) : QColor(0, 0, 0, 45);

@@ -1,4 +1,4 @@
-// How a label looks round its text.
+// Paints a label without its text.
 #pragma once
 
 #include <QRectF>
@@ -9,9 +9,8 @@ namespace vantrel {
 
 class Label;
 
-/// Paints a label's background, border and bevel into a box given in the painter's units. The scale is the size of a chart
-/// pixel in these units; `pblnOnDark` tells what shows through a transparent label. Inside the box only; nothing for a plain
-/// transparent label.
+/// Paints a label's background, border and bevel inside a box given in the painter's units. `pdblScale` is the size of a chart pixel in
+/// these units; `pblnOnDark` says whether the ground of a transparent label is dark. Paints nothing for a plain transparent label.
 void PaintLabelBox(QPainter& pobjPainter, const Label& pobjLabel, const QRectF& pobjBox, double pdblScale, bool pblnOnDark);
 
 }  // namespace vantrel

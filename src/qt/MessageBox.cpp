@@ -40,7 +40,7 @@ MsgBoxAnswer AnswerOf(int plngButton, MsgBoxButtons pintButtons) {
 MsgBoxAnswer ShowMessageBox(const std::string& pstrText, MsgBoxButtons pintButtons, const std::string& pstrTitle) {
   const QString title = pstrTitle.empty() ? QGuiApplication::applicationDisplayName() : ToQString(pstrTitle);
   const auto icon = pintButtons == vntOKOnly ? QMessageBox::Information : QMessageBox::Question;
-  // On the heap: the window under the box may be closed, and takes the box with it.
+  // On the heap: closing the window under the box deletes the box.
   const QPointer<QMessageBox> box(new QMessageBox(icon, title, ToQString(pstrText), ButtonsOf(pintButtons), QApplication::activeWindow()));
   box->setTextFormat(Qt::PlainText);
   const int button = box->exec();

@@ -21,16 +21,16 @@ namespace {
 constexpr double kVisible = 1.25;                // device pixels; smaller pictures are left out
 constexpr double kRenderedPixels = 1000 * 1000;  // larger pictures are not kept as pixels
 constexpr QColor kUnknownPicture(0x64, 0x74, 0x8b);
-constexpr double kVeiledZoom = 0.2;  // below it, what text is still legible is so large that no line hides it
+constexpr double kVeiledZoom = 0.2;  // below it, only text so large is legible that no line hides it
 constexpr double kConnector = 8;     // chart pixels, a side
-constexpr int kVeil = 185;           // of 255: a line is still seen to go on under a text
+constexpr int kVeil = 185;           // of 255: a line shows faintly through it
 
 bool HoldsVectors(const QPainter& pobjPainter) {
   const auto type = pobjPainter.paintEngine()->type();
   return type != QPaintEngine::Raster && type != QPaintEngine::OpenGL2 && type != QPaintEngine::X11;
 }
 
-// Handles come from the chart without a picture of their own.
+// The chart gives handles no picture of their own.
 const std::shared_ptr<const Picture>& PictureOf(const Image& pobjImage) {
   static const auto handle = ImageList::VantrelImages().Find("Handle");
   return pobjImage.Picture() || pobjImage.Family() != ctlHandleFamily ? pobjImage.Picture() : handle;
@@ -43,8 +43,8 @@ void PaintOutline(QPainter& pobjPainter, const QRectF& pobjBox, double pdblWidth
   pobjPainter.drawRect(pobjBox.adjusted(half, half, -half, -half));
 }
 
-// Filled corners on a thin frame: seen on a round picture as on a square one that fills the frame, and not by colour alone. The
-// hollow squares of the focus frame are for pulling, these are not.
+// A thin frame with filled corners: visible round any picture, and not by colour alone. The hollow squares of the focus frame can
+// be pulled; these cannot.
 void PaintSelectionMark(QPainter& pobjPainter, const QRectF& pobjBox, double pdblScale, const QColor& pobjColor) {
   PaintOutline(pobjPainter, pobjBox, std::max(1.0, std::round(pdblScale)), pobjColor);
   const double side = std::min(std::max(3.0, std::round(6 * pdblScale)), std::round(pobjBox.width() / 3));
@@ -89,7 +89,7 @@ void PaintPass::Use(Units pUnits) {
   mobjPainter.setWorldTransform(pUnits == kChart ? mobjChartUnits : mobjTargetUnits);
 }
 
-// Edges are rounded one by one: what touches on the chart touches on the screen at every zoom.
+// Rounds each edge by itself, so that what touches on the chart touches on the screen at every zoom.
 QRectF PaintPass::Target(const Rect& pobjRect) const {
   const double scale = mdblScale / kTwipsPerPixel;
   const QPointF from(pobjRect.Left * scale + mdblX, pobjRect.Top * scale + mdblY);
@@ -98,7 +98,7 @@ QRectF PaintPass::Target(const Rect& pobjRect) const {
   return {QPointF(std::round(from.x()), std::round(from.y())), QPointF(std::round(to.x()), std::round(to.y()))};
 }
 
-// The template line is the rubber band of an arc that is being drawn: it lies before the pictures that it leads to.
+// The template line is the rubber band of an arc that is being drawn. It lies in front of the pictures.
 bool PaintPass::IsArc(const Element& pobjElement) { return pobjElement.Family() == ctlLineFamily && pobjElement.Index() != 0; }
 
 void PaintPass::Paint(const std::vector<Element*>& pcolElements) {
@@ -214,11 +214,11 @@ void PaintPass::PaintLine(const Line& pobjLine) {
   mcolLines.push_back(mblnVectors ? line : Snapped(line, width));
 }
 
-// Level and upright lines are moved onto whole pixels, between two rows they would be a grey ribbon: onto those in the middle of a
-// connector at their end. They reach under what they join.
+// Moves level and upright lines onto whole pixels, where they are sharp: those in the middle of the connector at their end. Extends them
+// to whole pixels under what they join.
 QLineF PaintPass::Snapped(QLineF pobjLine, double pdblWidth) const {
   const double shift = std::lround(pdblWidth) % 2 == 1 ? 0.5 : 0, half = kConnector / 2 * mdblScale;
-  const bool isFar = 2 * half < kVisible;  // no connector is painted
+  const bool isFar = 2 * half < kVisible;  // connectors are not painted
   const auto snap = [shift, half, isFar](double pdblAt) {
     if (isFar) return std::round(pdblAt - shift) + shift;
     const double middle = (std::round(pdblAt - half) + std::round(pdblAt + half)) / 2;

@@ -20,10 +20,10 @@ class Image;
 class Label;
 class Line;
 
-/// Belongs to ChartPainter. Paints in layers: arcs; a veil over them under each text, so that a line never runs through a caption;
-/// everything else from back to front. Which layer an element belongs to follows from the element alone, so that a part of the
-/// chart looks the same painted by itself. Boxes, pictures and lines are painted in units of the target (device pixels, or the units of a
-/// file of vectors), texts in chart pixels under a scaled painter, so that they break alike at every zoom.
+/// Belongs to ChartPainter. Paints three layers: arcs; a veil under each text, so that no line runs through a caption; everything else
+/// from back to front. The layer of an element depends on the element alone, so that a part of the chart painted by itself looks the
+/// same. Boxes, pictures and lines are painted in units of the target (device pixels, or the units of a vector file). Texts are painted in
+/// chart pixels with a scaled painter, so that their lines break alike at every zoom.
 class PaintPass {
  public:
   PaintPass(QPainter& pobjPainter, Pictures& pobjPictures, TextLayouts& pobjLayouts, double pdblZoom, Color plngBackColor);

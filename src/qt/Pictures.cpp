@@ -10,9 +10,9 @@ namespace vantrel {
 
 namespace {
 
-constexpr std::size_t kSizesKept = 8;  // of one picture: two zooms or screens, and a pixel more or less for where it lies
+constexpr std::size_t kSizesKept = 8;  // of one picture: for two zooms or screens, each with a pixel more or less from rounding
 
-// What the colours of the designer's pictures become on a dark ground.
+// The colours of the designer's pictures, and what replaces them on a dark ground.
 constexpr std::pair<const char*, const char*> kOnDark[] = {
     {"#1e293b", "#e2e8f0"},                                                  // edges
     {"#ffffff", "#0f172a"},                                                  // paper, and the gap round connectors
@@ -34,7 +34,7 @@ QByteArray OnDark(QByteArray pstrSvg) {
 }
 
 struct Drawing {
-  std::unique_ptr<QSvgRenderer> Light, Dark;  // without a dark one the light one serves
+  std::unique_ptr<QSvgRenderer> Light, Dark;  // Dark may be null: then Light serves
 };
 
 struct Gallery {

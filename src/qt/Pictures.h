@@ -1,4 +1,4 @@
-// What pictures look like.
+// Renders pictures.
 #pragma once
 
 #include <QByteArray>
@@ -17,18 +17,17 @@ class QSvgRenderer;
 
 namespace vantrel {
 
-/// Renders pictures of the chart by their keys, and keeps what it rendered in the sizes that were asked for last. The designer's
-/// own pictures exist in light colours on dark, too, for charts whose ground is dark. Needs a QGuiApplication; a view has one of
-/// its own.
+/// Renders pictures of the chart by their keys and keeps the sizes used last. The designer's own pictures exist in light colours, too,
+/// for charts with a dark ground. Needs a QGuiApplication. Each view has its own.
 class Pictures {
  public:
-  /// Lets a host draw pictures of its own image lists: SVG text under the picture's key, from now on and for all views. One of
-  /// the designer's pictures may be replaced. False when the text is no SVG; then nothing changes.
+  /// Sets what a picture of a host's image list looks like, as SVG text under the picture's key, for all views. May replace one of
+  /// the designer's pictures. Returns false, and changes nothing, when the text is not SVG.
   static bool Install(const std::string& pstrKey, const QByteArray& pstrSvg);
 
-  /// The picture in exactly so many device pixels. Null for a key that nobody has drawn.
+  /// The picture in exactly so many device pixels. Null for an unknown key.
   const QPixmap& Pixmap(const std::shared_ptr<const Picture>& pobjPicture, QSize pobjSize, bool pblnOnDark = false);
-  /// Paints the picture as vectors. False for a key that nobody has drawn.
+  /// Paints the picture as vectors. Returns false for an unknown key.
   static bool Render(QPainter& pobjPainter, const std::string& pstrKey, const QRectF& pobjTarget, bool pblnOnDark = false);
 
  private:
@@ -38,7 +37,7 @@ class Pictures {
     QPixmap Pixmap;
   };
   struct Entry {
-    std::shared_ptr<const Picture> Keeper;  // its address is the key
+    std::shared_ptr<const Picture> Keeper;  // keeps alive the picture whose address is the key
     std::vector<Sized> Sizes;
     std::size_t Oldest = 0;
   };

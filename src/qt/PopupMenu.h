@@ -7,8 +7,8 @@ namespace vantrel {
 
 class MenuItem;
 
-/// Fills an empty menu with an entry's entries: sub-menus, check marks, separators; hidden entries are left out, and separators
-/// that separate nothing. The data of an action is its MenuItem as `void*`; nothing is connected.
+/// Fills an empty menu with the sub-entries of an entry: sub-menus, check marks, separators. Leaves out hidden entries and separators
+/// that separate nothing. The data of an action is its MenuItem as `void*`; the caller connects the actions.
 void FillMenu(QMenu& pobjMenu, MenuItem& pobjItem);
 
 }  // namespace vantrel

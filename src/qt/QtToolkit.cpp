@@ -16,7 +16,7 @@ namespace vantrel {
 
 namespace {
 
-// A dialog belongs to its owner as well, which may die while the dialog is open.
+// The dialog also belongs to its owner, which may be deleted while the dialog is open.
 template <class Widget>
 class OwnedWidget {
  public:

@@ -14,8 +14,8 @@
 
 namespace vantrel {
 
-/// Menus, pointers and colours for a control in a window. The owner is what dialogs lie over; it may go while one is open. The
-/// first toolkit of a process lets message boxes be windows, too; a host that wants others installs its own presenter later.
+/// Menus, pointers and colours for a control in a window. Dialogs lie over the owner, which may be deleted while one is open. The first
+/// toolkit of a process also shows message boxes as windows; a host that wants others installs its own presenter afterwards.
 class QtToolkit final : public Toolkit {
  public:
   explicit QtToolkit(QWidget* pobjOwner = nullptr);
@@ -27,14 +27,14 @@ class QtToolkit final : public Toolkit {
   std::vector<std::string> FontNames() const override;
 
   std::function<void(PointerShape)> OnPointer;  ///< shows the pointer over the chart
-  std::optional<QPoint> PopupPosition;          ///< of the next pop-up alone, on the screen; otherwise it is where the mouse is
+  std::optional<QPoint> PopupPosition;          ///< of the next pop-up, on the screen; without it, where the mouse is
 
  private:
   QPointer<QWidget> mobjOwner;
   bool mblnHourglass = false;
 };
 
-/// Shows a message in a box over the active window. Answers with the harmless button when the box is closed otherwise.
+/// Shows a message in a box over the active window. Closing the box answers with the harmless button.
 MsgBoxAnswer ShowMessageBox(const std::string& pstrText, MsgBoxButtons pintButtons, const std::string& pstrTitle);
 
 }  // namespace vantrel

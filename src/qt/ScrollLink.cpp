@@ -12,8 +12,8 @@ namespace vantrel {
 
 namespace {
 
-constexpr float kSpare = 0.75F;    // of the view, behind the contents: room to draw on
-constexpr float kSteps = 20;       // of the arrows, to a view
+constexpr float kSpare = 0.75F;    // of the view, after the contents: space for drawing more
+constexpr float kSteps = 20;       // of the arrows, for one view
 constexpr float kFarthest = 1e9F;  // what the window's bar can hold
 
 int Twips(float psngTwips) { return static_cast<int>(std::lround(std::clamp(psngTwips, -kFarthest, kFarthest))); }

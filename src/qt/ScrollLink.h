@@ -11,14 +11,14 @@ namespace vantrel {
 
 class ScrollBar;
 
-/// Keeps both at one value, in twips. The window's bar reaches everything the control's range and the chart's contents reach,
-/// and the better part of a view beyond.
+/// Keeps both at the same value, in twips. The window's bar covers the control's range and the chart's contents, and most of a view
+/// beyond them.
 class ScrollLink {
  public:
-  /// `pOnMoved` is called when the origin changed, whoever changed it.
+  /// Calls `pOnMoved` after each change of the origin.
   ScrollLink(ScrollBar& pobjBar, QScrollBar& pobjWindowBar, std::function<void()> pOnMoved);
 
-  /// Contents from `psngLow` to `psngHigh`, of which `psngInView` are to be seen; twips.
+  /// The contents reach from `psngLow` to `psngHigh`, and `psngInView` of them are in view; twips.
   void Range(float psngLow, float psngHigh, float psngInView);
 
  private:

@@ -16,11 +16,11 @@ namespace vantrel {
 namespace {
 
 constexpr qreal kSlack = 0.75;     // chart pixels that rounding may take
-constexpr int kNarrowest = 90;     // per cent; a text that needs no more is condensed rather than wrapped
+constexpr int kNarrowest = 90;     // per cent; a text that fits when condensed to this is condensed rather than wrapped
 constexpr qreal kPadding = 3;      // chart pixels between a box and its text, where there is room
-constexpr qreal kTight = 1;        // the same where the text is too wide
+constexpr qreal kTight = 1;        // the same around a text that is too wide
 constexpr qreal kLeading = 1.5;    // chart pixels of a line above and below its letters
-constexpr qreal kTooHigh = 1.1;    // as a multiple of the box; below that only the room under the letters is missing
+constexpr qreal kTooHigh = 1.1;    // as a multiple of the box; below it only the space under the letters is cut off
 constexpr qreal kSmallestBox = 1;  // chart pixels
 
 Qt::Alignment AlignmentOf(std::int16_t pintAlignment) {
@@ -35,8 +35,8 @@ void LayOut(TextLayout& pobjLayout, qreal psngWidth, Qt::Alignment pAlignment, Q
   pobjLayout.Text.prepare({}, pobjLayout.Font);
 }
 
-// Boxes that were fitted to their text on another system may be a little narrow for it here: then the letters move together, as
-// wrapping would hide the last word. Returns how wide the text is.
+// A box that was fitted to its text on another system may be a little too narrow here. The text is condensed then, because wrapping
+// would hide its last word. Returns the width of the text.
 qreal FitTo(TextLayout& pobjLayout, qreal psngWidth) {
   LayOut(pobjLayout, -1, Qt::AlignLeft, QTextOption::NoWrap);
   const QSizeF natural = pobjLayout.Text.size();
@@ -58,8 +58,7 @@ qreal FitTo(TextLayout& pobjLayout, qreal psngWidth) {
   return pobjLayout.Text.textWidth();
 }
 
-// The last line that the box has room for ends in an ellipsis: without one nobody sees that there is more. A box lower than a line
-// shows what it can.
+// Ends the last line that fits with an ellipsis, to show that there is more. A box lower than a line shows the upper part of it.
 void CutTo(TextLayout& pobjLayout, qreal psngHeight) {
   const QString text = pobjLayout.Text.text();
   const qreal width = pobjLayout.Text.textWidth();

@@ -22,13 +22,13 @@ struct TextLayout {
   QFont Font;
   QPointF Inset;                            ///< of the text from the box's corner
   QRectF Extent;                            ///< what the text covers of the box, from the box's corner
-  Qt::Alignment Alignment = Qt::AlignLeft;  ///< for painters that lay the text out themselves
-  bool IsClipped = false;                   ///< reaches beyond the box
-  bool IsDecorated = false;                 ///< underlined or struck out: QStaticText draws that at wrong places when scaled
+  Qt::Alignment Alignment = Qt::AlignLeft;  ///< for text that QPainter lays out
+  bool IsClipped = false;                   ///< the text is larger than the box
+  bool IsDecorated = false;                 ///< underlined or struck out, which QStaticText draws in the wrong place when scaled
 };
 
-/// Lays out the texts of labels and remembers them: drawing text costs more than anything else on a chart. Labels alike in
-/// text, font and size share one layout; those not asked for any more are forgotten after a while.
+/// Lays out the texts of labels and keeps the layouts: text is what costs most on a chart. Labels with the same text, font and size
+/// share one layout. Layouts that were not used for a while are dropped.
 class TextLayouts {
  public:
   /// Valid until the next call.

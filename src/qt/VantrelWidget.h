@@ -13,8 +13,8 @@ namespace vantrel {
 
 class ChartView;
 
-/// A designer that a host puts anywhere in its windows: owns a control, its toolkit and its view. The control's events come as
-/// signals of the same names. Delete it with deleteLater from slots of its own signals.
+/// A designer for a host's windows: owns a control, its toolkit and its view. Passes the control's events on as signals of the same
+/// names. To delete it from a slot of its own signals, use deleteLater.
 class VantrelWidget final : public QWidget {
   Q_OBJECT
 

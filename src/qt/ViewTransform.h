@@ -9,8 +9,8 @@
 
 namespace vantrel {
 
-/// Chart twips to device-independent pixels of a view. The chart is shifted by whole device pixels, so that scrolling does not
-/// make pictures tremble against each other.
+/// Converts between chart twips and device-independent pixels of a view. Shifts the chart by whole device pixels, so that pictures keep
+/// their distances while the user scrolls.
 struct ViewTransform {
   double Zoom = 1;
   float OriginX = 0, OriginY = 0;  ///< the chart's point in the view's corner, twips

@@ -10,7 +10,7 @@ namespace vantrel {
 
 namespace {
 
-/// Elements moved about at random, and the questions that the surface answers put to every one of them.
+/// Moves elements at random, and compares the answers of the surface with a look at every element.
 class RandomChart {
  public:
   RandomChart() {
@@ -115,7 +115,7 @@ TEST(ChartSurface, LineIsHitNearItsCourseAndNotInItsBox) {
   EXPECT_EQ(surface.ElementAt(3025, 3000, 30), line.get());
 }
 
-/// The damage that a surface reports.
+/// Records the damage that a surface reports.
 class Damage {
  public:
   explicit Damage(ChartSurface& pobjSurface)

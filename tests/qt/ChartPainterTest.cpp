@@ -40,7 +40,7 @@ double Luminance(const QColor& pobjColor) {
   return 0.2126 * linear(pobjColor.redF()) + 0.7152 * linear(pobjColor.greenF()) + 0.0722 * linear(pobjColor.blueF());
 }
 
-// How many pixels stand out from the ground by a contrast ratio.
+// Counts the pixels with at least that contrast ratio to the ground.
 int Readable(const QImage& pobjImage, const QRect& pobjPart, const QColor& pobjGround, double pdblContrast) {
   int readable = 0;
   for (int y = pobjPart.top(); y <= pobjPart.bottom(); ++y) {

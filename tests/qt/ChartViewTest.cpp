@@ -22,7 +22,7 @@
 namespace vantrel {
 namespace {
 
-// Gathers what is painted again.
+// Records what is painted again.
 class PaintSpy final : public QObject {
  public:
   explicit PaintSpy(QWidget& pobjWidget) { pobjWidget.installEventFilter(this); }

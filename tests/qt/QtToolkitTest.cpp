@@ -17,7 +17,7 @@
 namespace vantrel {
 namespace {
 
-// Does something to the next modal window, once it is there.
+// Runs an action on the next modal window.
 template <class Act>
 void WithModal(Act pAct) {
   QTimer::singleShot(20, [pAct] {
@@ -96,7 +96,7 @@ TEST(MessageBox, AnswersHarmlesslyWhenTheWindowUnderItIsClosed) {
     window->activateWindow();
     QApplication::processEvents();
     WithModal([window](QWidget*) { delete window; });
-    // Where the platform activates no window the box has no owner, and somebody has to close it.
+    // On platforms that activate no window the box has no owner, so the test closes it.
     QTimer::singleShot(200, [] {
       if (QWidget* const modal = QApplication::activeModalWidget()) modal->close();
     });

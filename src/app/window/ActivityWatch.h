@@ -16,11 +16,11 @@ class ActivityWatch final : public QObject {
  public:
   ActivityWatch(VantrelWidget& pobjWidget, QObject* pobjParent);
 
-  /// Something may have changed: Settled follows.
+  /// Says that something may have changed. Settled follows.
   void Stir() { mobjPause.start(); }
 
  signals:
-  /// Once for all that happened, when there is nothing else to do.
+  /// Emitted once for all changes, when the program is idle.
   void Settled();
   void PointerAt(QPointF pobjTwips);
   void PointerLeft();

@@ -6,8 +6,8 @@ namespace vantrel {
 
 class Vantrel;
 
-/// Moves the control's CurrentX and CurrentY to where the user sees what a command inserts: where he clicked last, else the middle of
-/// the part in view (twips); and down to the right until no picture lies there.
+/// Sets the control's CurrentX and CurrentY for an object that a command inserts: where the user clicked last if that is in view (twips),
+/// else the middle of the view; then moved down to the right until no picture is in the way.
 void ChooseInsertPosition(Vantrel& pobjControl, const Rect& pobjInView);
 
 }  // namespace vantrel

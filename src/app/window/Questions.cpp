@@ -15,7 +15,7 @@ QMessageBox* MakeBox(QWidget* pobjParent, QMessageBox::Icon pIcon, const QString
   return box;
 }
 
-// The window under the box may be closed, and takes the box with it: then the answer is the harmless one.
+// Closing the window under the box deletes the box; the answer is Cancel then.
 int Answer(QMessageBox* pobjBox) {
   const QPointer<QMessageBox> box(pobjBox);
   const int answer = box->exec();

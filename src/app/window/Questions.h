@@ -1,4 +1,4 @@
-// What the window asks and tells.
+// The boxes of the window.
 #pragma once
 
 #include <QString>
@@ -8,11 +8,11 @@ namespace vantrel {
 
 enum class LeaveAnswer { Save, Discard, Cancel };
 
-/// What is to become of unsaved changes to a thing of that name.
+/// Asks what to do with unsaved changes to a thing of that name.
 LeaveAnswer AskBeforeLeaving(QWidget* pobjParent, const QString& pstrName);
-/// Whether to do something that cannot be undone; the harmless answer is the default.
+/// Asks whether to do something that cannot be undone. Cancel is the default.
 bool AskWhether(QWidget* pobjParent, const QString& pstrQuestion, const QString& pstrDetails, const QString& pstrButton);
-/// Something failed: what, and why.
+/// Says what failed, and why.
 void TellFailure(QWidget* pobjParent, const QString& pstrWhat, const QString& pstrWhy);
 
 }  // namespace vantrel

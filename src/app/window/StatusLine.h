@@ -1,4 +1,4 @@
-// What the window's lowest line says.
+// The status line of the window.
 #pragma once
 
 #include <QLabel>

@@ -129,7 +129,7 @@ void StoredList::MarkOpened() {
       QStandardItem* const item = mobjModel.item(row, column);
       if (!item) continue;
       const bool isOpened = mlngOpened != 0 && mobjModel.item(row, kId)->text().toInt() == mlngOpened;
-      if (item->font().bold() == isOpened) continue;  // every change costs a look at the filter
+      if (item->font().bold() == isOpened) continue;  // every change makes the filter look at the row again
       QFont font = mobjView->font();
       font.setBold(isOpened);
       item->setFont(font);

@@ -23,12 +23,12 @@ class StoredList final : public QWidget {
 
   /// Keeps filter and selection.
   void Show(const std::vector<WorkflowListing>& pcolStored);
-  /// Instead of a list: why there is none.
+  /// Shows why there is no list.
   void ShowFailure(const QString& pstrFailure);
-  /// Marks the workflow that is open; 0: none.
+  /// Marks the workflow that is open; 0 marks none.
   void ShowOpened(std::int32_t plngId);
   std::optional<std::int32_t> Chosen() const;
-  /// Puts the keyboard into the filter.
+  /// Gives the keyboard focus to the filter.
   void Search();
 
  signals:
