@@ -153,8 +153,8 @@ bool Workflow::Has(const ChartObject& pobjObject) const {
 }
 
 std::vector<std::shared_ptr<ChartObject>> Workflow::Remove(const std::shared_ptr<ChartObject>& pobjObject) {
-  const auto object =
-      pobjObject;  // NOLINT(performance-unnecessary-copy-initialization): it may be the collection's share, which this releases
+  // The caller's may be the collection's own share, which this releases. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+  const auto object = pobjObject;
   if (!object) throw Error(vntErrObjectNotSet);
   Removal removal(*this);
   removal.Remove(*object);

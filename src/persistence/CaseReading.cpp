@@ -97,7 +97,7 @@ Token* CaseReading::FindToken(std::int32_t plngId) const {
   return found != mcolTokens.end() && found->first == plngId ? found->second.get() : nullptr;
 }
 
-// The end place has let go of what reached it, and nobody has consumed that.
+// The end place has released the tokens that reached it, and no transition has consumed them.
 bool CaseReading::LiesInPlace(const Token& pobjToken) const {
   if (pobjToken.ConsumeTransition || !pobjToken.DateConsumed.IsZero()) return false;
   return mobjWorkflow.KeepHistory || !(pobjToken.Place == mobjWorkflow.EndPlace());

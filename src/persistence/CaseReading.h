@@ -1,4 +1,4 @@
-// Stored cases and tokens come back into their workflow.
+// Reads stored cases and tokens into their workflow.
 #pragma once
 
 #include <cstdint>
@@ -17,9 +17,9 @@ class CaseReading {
  public:
   CaseReading(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);
 
-  /// Cases, tokens and values; the tokens lie nowhere yet.
+  /// Reads cases, tokens and values; the tokens are in no place yet.
   void Read();
-  /// Puts what was not consumed into the places. The workflow must be gobjWorkflow.
+  /// Puts unconsumed tokens into their places. The workflow must be gobjWorkflow.
   void PutBack();
   std::vector<std::shared_ptr<WorkCase>> TakeCases() { return std::move(mcolCases); }
 

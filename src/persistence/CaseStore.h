@@ -1,4 +1,4 @@
-// Cases and tokens become rows.
+// Writes cases and tokens as rows.
 #pragma once
 
 #include <cstdint>
@@ -10,7 +10,7 @@
 
 namespace vantrel {
 
-/// Used inside a write transaction. Whoever calls keeps the marks of the objects given; those of others are kept in the marks.
+/// Used inside a write transaction. The caller keeps the marks of the objects given; this keeps those of others.
 class CaseStore {
  public:
   explicit CaseStore(DatabaseAccess& pobjAccess) : mobjAccess(pobjAccess) {}

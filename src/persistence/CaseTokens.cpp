@@ -21,7 +21,7 @@ bool CaseTokens::OnlyGrew(const Workflow& pobjWorkflow) const {
   const auto& tokens = pobjWorkflow.Tokens;
   const std::uint64_t added = static_cast<std::uint64_t>(tokens.Count()) - mcolTokens.size();
   if (tokens.Changes() - mlngTokenChanges != added) return false;
-  // Holes that older removals left may have been closed, which moves all ranks.
+  // Holes left by removals may have been closed, which moves all ranks.
   return mcolTokens.empty() || tokens.RankOf(mcolTokens.back()->Key, mcolTokens.back()) == mlngLastRank;
 }
 

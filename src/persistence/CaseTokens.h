@@ -10,9 +10,9 @@
 
 namespace vantrel {
 
-/// Finds the tokens of a case without a walk over all tokens of the workflow, of which a long-running net has millions. Knows one
-/// workflow at a time; looks at what was added since the last question, and at everything anew when tokens went or changed
-/// their cases. 12 bytes a token.
+/// Finds the tokens of a case without a walk over all tokens of the workflow, of which a long-running net has millions. Knows one workflow
+/// at a time. Looks at the tokens added since the last question, or at all again when tokens were removed or changed their cases. 12
+/// bytes a token.
 class CaseTokens {
  public:
   /// The tokens of the workflow with that case, or those without case, in the collection's order.
@@ -31,7 +31,7 @@ class CaseTokens {
 
   Ref<Workflow> mobjWorkflow;
   std::unordered_map<const WorkCase*, Group> mcolGroups;
-  // Of each token, in the collection's order. They live as long as nothing was removed from the collection.
+  // One for each token, in the collection's order. The tokens live until something is removed from the collection.
   std::vector<Token*> mcolTokens;
   std::vector<std::uint32_t> mcolNext;  // the next token of the same case
   std::int64_t mlngLastRank = -1;

@@ -1,4 +1,4 @@
-// The steps of a save, one for each kind of thing that is drawn.
+// The steps of a save, one for each kind of object on the chart.
 #pragma once
 
 #include <functional>
@@ -13,7 +13,7 @@ namespace vantrel {
 /// TransactionLost.
 bool SaveTransitions(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);
 bool SavePlaces(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);
-/// Shows no failure but throws it. False for a workflow without arcs. Arcs that lack an end keep the rows that they have.
+/// Throws failures and shows none. False for a workflow without arcs. Arcs that lack an end keep their rows.
 bool SaveArcs(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);
 /// An arc with one segment has no rows.
 bool SaveVectors(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);

@@ -83,7 +83,7 @@ std::int32_t DatabaseAccess::NextId(const std::string& pstrTableName) {
 
 void DatabaseAccess::Write(SavedMarks& pobjMarks, const std::function<void()>& pWork) {
   Connection();
-  const auto connection = mobjConnection;  // a message box may be answered by code that hands in another one
+  const auto connection = mobjConnection;  // the code that answers a message box may set another one
   ShowLoss([&] { connection->BeginTrans(Transaction::Write); });
   try {
     pWork();
@@ -133,7 +133,7 @@ void DatabaseAccess::Read(const std::function<bool()>& pWork) {
     try {
       connection->CommitTrans();
     } catch (const Error&) {
-      return;  // the failure that matters is on its way, or there was nothing to read
+      return;  // the more important failure is already thrown, or there was nothing to read
     }
   };
   try {
@@ -145,7 +145,7 @@ void DatabaseAccess::Read(const std::function<bool()>& pWork) {
   hasRead ? connection->CommitTrans() : endQuietly();
 }
 
-// Where no transaction can be had, the row sets will find out why, and each reader knows what that means for it.
+// When no transaction can begin, the row sets fail for the same reason, and each reader handles that.
 bool DatabaseAccess::BeginReading(vantrel::Connection* pobjConnection) {
   if (!pobjConnection) return false;
   try {

@@ -1,4 +1,4 @@
-// Statements, row sets, new ids and transactions: what all parts of VNTRDB stand on.
+// Statements, row sets, new ids and transactions, for all parts of VNTRDB.
 #pragma once
 
 #include <cstdint>
@@ -14,7 +14,7 @@
 
 namespace vantrel {
 
-/// The transaction in which something failed is gone, and nothing more can be done in it. The failure has been shown.
+/// The transaction was lost by a failure, and nothing more can be done in it. The failure has been shown.
 class TransactionLost final : public Error {
  public:
   explicit TransactionLost(const Error& pobjReason) : Error(pobjReason) {}
@@ -41,7 +41,7 @@ class DatabaseAccess {
   /// 0, or the number of the failure, which was shown. A connection that turns out to be closed is opened again, but the
   /// statement is not repeated. Throws TransactionLost and ReopeningFailed.
   std::int32_t ExecuteSQL(const SqlText& pobjSql);
-  /// Null when the rows cannot be had: without a word when the connection cannot be used, else with the failure shown.
+  /// Null on failure. Shows nothing when the connection cannot be used, otherwise the failure.
   std::unique_ptr<Recordset> GetRecordset(const std::string& pstrSql, std::int32_t plngCursorType = vntOpenForwardOnly);
   /// Never null: Error 91 instead, or the reason when the transaction is lost.
   std::unique_ptr<Recordset> Rows(const std::string& pstrSql);
@@ -74,7 +74,7 @@ class DatabaseAccess {
 
   const std::shared_ptr<vantrel::Connection>& mobjConnection;
   std::optional<Error> mobjFirstFailure;
-  std::optional<Error> mobjUnshown;  // why GetRecordset last gave nothing without a word
+  std::optional<Error> mobjUnshown;  // why GetRecordset last returned null without showing anything
   std::string mstrLastFailure;
   std::int32_t mlngFailures = 0;
 };

@@ -1,4 +1,4 @@
-// How objects of one kind become the rows of one table.
+// Writes objects of one kind as the rows of one table.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,7 @@ std::int32_t RecIdOf(const T& pobjItem) {
   }
 }
 
-/// The object is stored now, in the row with that id.
+/// Notes that the object is stored in the row with that id.
 template <class T>
 void MarkStored(T& pobjItem, std::int32_t plngId) {
   if constexpr (requires { pobjItem.RecId(); }) {
@@ -38,7 +38,7 @@ class RowSaving {
   RowSaving(DatabaseAccess& pobjAccess, const char* pstrTable, std::int32_t plngWorkflowId)
       : mobjAccess(pobjAccess), mstrTable(pstrTable), mlngWorkflowId(plngWorkflowId) {}
 
-  /// Deletes the rows of the workflow that no item of the collection has; all of them when it is empty.
+  /// Deletes the workflow's rows without an item in the collection; all of them when it is empty.
   template <class T>
   void DeleteOthers(const Collection<T>& pcolItems) const {
     std::vector<std::int32_t> ids;
@@ -46,8 +46,8 @@ class RowSaving {
     for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) ids.push_back(RecIdOf(*item));
     DeleteAllBut(ids);
   }
-  /// Writes one object; `pAssign(row)` fills the columns. A new one goes into a row of its own, opened from `pstrNewSource`, or
-  /// from an empty selection where that is null.
+  /// Writes one object; `pAssign(row)` fills the columns. A new object gets a new row, opened from `pstrNewSource`, or from an empty
+  /// selection if that is null.
   template <class T, class Assign>
   void SaveItem(T& pobjItem, Assign&& pAssign, const char* pstrNewSource = nullptr) const {
     const std::int32_t id = RecIdOf(pobjItem);

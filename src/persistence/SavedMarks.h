@@ -1,4 +1,4 @@
-// What a save changes in objects, to be put back when nothing was saved.
+// Restores what a save changed in objects when nothing was saved.
 #pragma once
 
 #include <functional>
@@ -9,7 +9,7 @@
 
 namespace vantrel {
 
-/// Remembers ids and dirty marks of objects as they are, and shares the objects.
+/// Remembers ids and dirty marks of objects, and keeps the objects alive.
 class SavedMarks {
  public:
   void Keep(const std::shared_ptr<Workflow>& pobjWorkflow);
@@ -23,7 +23,7 @@ class SavedMarks {
   /// The workflow and everything drawn in it.
   void KeepChart(const std::shared_ptr<Workflow>& pobjWorkflow);
 
-  /// Puts everything back, what was kept last first, and forgets it.
+  /// Restores everything in reverse order, and forgets it.
   void Restore();
 
  private:

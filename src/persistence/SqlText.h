@@ -20,14 +20,14 @@ struct SqlList {
   const std::vector<std::int32_t>& Ids;
 };
 
-/// Puts a statement together piece by piece. What comes from outside goes in as a value, never as a piece.
+/// Builds a statement piece by piece. Values from outside are added as values, never as pieces.
 class SqlText {
  public:
-  /// A literal of the program, as it stands.
+  /// Adds a literal of the program unchanged.
   SqlText& operator<<(const char* pstrPiece);
   SqlText& operator<<(std::int32_t plngValue);
   SqlText& operator<<(bool pblnValue);
-  /// The shortest digits that give the same single again, with a point.
+  /// The shortest digits that give the same single when read, with a decimal point.
   SqlText& operator<<(float psngValue);
   SqlText& operator<<(Date pdtmValue);
   SqlText& operator<<(SqlQuoted pText);

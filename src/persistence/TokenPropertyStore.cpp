@@ -97,7 +97,7 @@ std::shared_ptr<Collection<PropertyOption>> ReadPropertyOptions(DatabaseAccess& 
 void SaveTokenProperties(DatabaseAccess& pobjAccess, const Place& pobjPlace) {
   if (!pobjPlace.TokenProperties) throw Error(vntErrObjectNotSet);
   const PropertyCollection& definitions = *pobjPlace.TokenProperties;
-  std::vector<SqlText> inserts;  // made before anything is deleted: a default that is no text is an Error
+  std::vector<SqlText> inserts;  // made before anything is deleted: a default that has no text is an Error
   for (const auto& definition : definitions) {
     inserts.push_back(InsertOf(*definition, pobjPlace.RecId(), static_cast<std::int32_t>(inserts.size()) + 1));
   }
@@ -118,7 +118,7 @@ void SaveTokenValues(DatabaseAccess& pobjAccess, SavedMarks& pobjMarks, const To
   if (!definitions || !entries) throw Error(vntErrObjectNotSet);
   std::unordered_map<std::string_view, std::shared_ptr<PropertyRecord>> definitionOf;
   for (const auto& definition : *definitions) definitionOf.try_emplace(definition->Name, definition);
-  // The tokens that a subflow delivers have their values in common, but each has rows of its own.
+  // Tokens that a subflow delivers share their values, but each has its own rows.
   const bool isShared = entries.use_count() > 2;
   for (const auto& entry : *entries) {
     const auto found = definitionOf.find(entry->Name);

@@ -1,4 +1,4 @@
-// The definitions of what tokens carry, and the tokens' own values.
+// The definitions of token properties, and the tokens' own values.
 #pragma once
 
 #include <cstdint>

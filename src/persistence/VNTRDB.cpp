@@ -25,7 +25,7 @@ std::string ChainText(const std::vector<std::int32_t>& pcolIds, std::int32_t pln
 
 }  // namespace
 
-// One workflow is being read.
+// Notes that a workflow is being read.
 class VNTRDB::ReadingScope {
  public:
   ReadingScope(VNTRDB& pobjDatabase, std::int32_t plngId) : mcolReading(pobjDatabase.mcolReading), mobjBefore(gobjWorkflowReader) {

@@ -15,9 +15,9 @@ namespace vantrel {
 class CaseStore;
 class DatabaseAccess;
 
-/// Reads and saves workflows, token property definitions, cases and tokens over a connection that the host opens and hands in.
-/// Tables are the host's affair (data/schema/ has them); this class never creates or changes one. Every operation that writes
-/// runs in one transaction of its own, inside the host's if the host has begun one. For one thread.
+/// Reads and saves workflows, token property definitions, cases and tokens over a connection that the host opens and passes in. Never
+/// creates or changes a table: the host does, with data/schema/. Every operation that writes runs in one transaction, inside the host's
+/// if the host has begun one. For one thread.
 ///
 /// Failing statements are shown in message boxes, as each operation says, and counted in Failures.
 class VNTRDB final : public Object, public WorkflowReader {
@@ -28,15 +28,15 @@ class VNTRDB final : public Object, public WorkflowReader {
   VNTRDB();
   ~VNTRDB() override;
 
-  std::shared_ptr<vantrel::Connection> Connection;  ///< open; null until the host hands one in
+  std::shared_ptr<vantrel::Connection> Connection;  ///< open; null until the host passes one in
 
   std::string Class() const override { return "VNTR.VNTRDB.1"; }
 
   /// The workflow with everything drawn in it and the workflows embedded in it, not shown yet; null when there is no such id, or no
   /// connection that can be used.
-  /// What it reads becomes the process-wide current workflow (gobjWorkflow), also when nothing was found. All of one state of
-  /// the database. Throws Error for columns that cannot be read and Error 5 for a workflow that is embedded in itself; arcs
-  /// that cannot be read are left out.
+  /// Makes what it reads the process-wide current workflow (gobjWorkflow), even if it found nothing. Reads one state of the database.
+  /// Throws Error for columns that cannot be read and Error 5 for a workflow that is embedded in itself; leaves out arcs that cannot
+  /// be read.
   std::shared_ptr<Workflow> ReadWorkflow(std::int32_t plngRecId) override;
 
   /// Writes the whole chart of the workflow and removes rows whose objects are gone; new objects get their ids. Does not save
@@ -48,16 +48,16 @@ class VNTRDB final : public Object, public WorkflowReader {
   /// Removes the rows of the chart; definitions, cases and tokens stay.
   void DeleteWorkflow(const Variant& pvarRecId);
 
-  /// The next free id of a table whose ids the system gives: 1 for an empty one. Nobody else gets the same id while a write
-  /// transaction is open; without one the host must see to that.
+  /// The next free id of a table whose ids the system gives: 1 for an empty one. While a write transaction is open no other program gets
+  /// the same id; otherwise the host must ensure that.
   std::int32_t NextId(const std::string& pstrTableName);
 
   /// The definitions of a place in the order in which they were saved, with their options; never null.
   std::shared_ptr<PropertyCollection> ReadTokenProperties(std::int32_t plngPlaceRecId);
   /// The options of a stored definition; never null.
   std::shared_ptr<Collection<PropertyOption>> ReadPropertyOptions(std::int32_t plngPropertyRecId);
-  /// Replaces the stored definitions of the place. The records keep the ids that they had: read the workflow again before
-  /// saving tokens with values of new definitions.
+  /// Replaces the stored definitions of the place. The records in memory keep their old ids: read the workflow again before you save
+  /// tokens with values of new definitions.
   void SaveTokenProperties(const std::shared_ptr<Place>& pobjPlace);
 
   /// 0 or the failure's number of the statement; 999 without connection; empty when nothing had to be written.
@@ -69,11 +69,11 @@ class VNTRDB final : public Object, public WorkflowReader {
   /// in its Id. Throws Error 5 for a value without definition.
   void SaveTokenPropertyValues(const std::shared_ptr<Token>& pobjToken);
 
-  /// Puts the stored cases and tokens of a workflow just read back: unconsumed tokens into their places, in the order in which
-  /// they were saved, consumed ones into Workflow::Tokens alone, and so those in the end place, which lets go of its tokens
-  /// unless history is kept. Enabling and firing stack come out as the rules give them for that marking and the workflow's own
-  /// case tracking; nothing fires. The cases that have tokens, in order of their ids; Key and Name are "WorkCase" and the id.
-  /// Throws Error 5 when the workflow has tokens already; after any Error it has none.
+  /// Puts the stored cases and tokens back into a workflow that was just read. Unconsumed tokens go into their places, in the order in
+  /// which they were saved. Consumed ones go into Workflow::Tokens alone, and so do those in the end place, which releases its tokens
+  /// unless history is kept. Enables transitions and fills the firing stack by the rules for that marking and the workflow's own case
+  /// tracking; nothing fires. Returns the cases that have tokens, in order of their ids; Key and Name are "WorkCase" and the id.
+  /// Throws Error 5 when the workflow already has tokens; after any Error it has none.
   std::vector<std::shared_ptr<WorkCase>> ReadCases(const std::shared_ptr<Workflow>& pobjWorkflow);
 
   /// How many failures this object has shown in message boxes so far, and the last one's description.

@@ -34,7 +34,7 @@ std::shared_ptr<Workflow> EmbeddedIn(const Transition& pobjTransition) {
 
 }  // namespace
 
-// Depth first with a stack of its own: a workflow is listed when all that it embeds are.
+// Depth first, with a stack: lists a workflow after all that it embeds.
 void WholeSaving::Gather(const std::shared_ptr<Workflow>& pobjWorkflow) {
   struct Visit {
     std::shared_ptr<Workflow> Item;
@@ -95,7 +95,7 @@ void WholeSaving::Run(const std::shared_ptr<Workflow>& pobjWorkflow) {
   } catch (...) {
     connection->RollbackTrans();
     mMarks.Restore();
-    CheckFailures();  // what was shown first says more than what it led to
+    CheckFailures();  // the failure shown first says more than its consequences
     throw;
   }
   try {

@@ -1,4 +1,4 @@
-// Saving a workflow together with all that it is made of.
+// Saves a workflow together with all that it embeds.
 #pragma once
 
 #include <memory>
@@ -7,12 +7,11 @@
 
 namespace vantrel {
 
-/// Saves the workflow, the workflows embedded in its transitions however deep (inner ones first, each once; SubflowId becomes
-/// the inner one's id), and the token property definitions of all their places: all of it or nothing. Cases and tokens are
-/// not part of it.
+/// Saves the workflow, the workflows embedded in its transitions at any depth (inner ones first, each once; SubflowId becomes the inner
+/// one's id), and the token property definitions of all their places: all or nothing. Saves no cases and tokens.
 ///
-/// Throws an Error with the first failure's description when anything at all was refused; then the database is what it was,
-/// and so are ids and dirty marks. Failing statements are shown in message boxes, as by VNTRDB.
+/// Throws an Error with the first failure's description when anything was refused; then database, ids and dirty marks are as before.
+/// Shows failing statements in message boxes, as VNTRDB does.
 void SaveWhole(VNTRDB& pobjDatabase, const std::shared_ptr<Workflow>& pobjWorkflow);
 
 }  // namespace vantrel

@@ -17,7 +17,7 @@ std::unique_ptr<Recordset> Open(Connection& pobjConnection, const std::string& p
   return rows;
 }
 
-// The listing of an id; null for none. The list is in order of ids.
+// The listing of an id, or null. The list is in order of ids.
 WorkflowListing* Find(std::vector<WorkflowListing>& pcolList, const Variant& pvarId) {
   if (pvarId.IsNull()) return nullptr;
   const std::int32_t id = pvarId.ToInt32();
@@ -66,7 +66,7 @@ std::vector<WorkflowListing> ReadList(Connection& pobjConnection) {
 }  // namespace
 
 std::vector<WorkflowListing> ListWorkflows(Connection& pobjConnection) {
-  // Whoever holds the connection keeps it during the call.
+  // The caller keeps the connection during the call.
   const std::shared_ptr<Connection> connection(std::shared_ptr<Connection>(), &pobjConnection);
   std::vector<WorkflowListing> list;
   DatabaseAccess(connection).Read([&] {

@@ -19,7 +19,7 @@ void WorkflowReading::Try(Step&& pStep) {
   try {
     pStep();
   } catch (const Error&) {
-    if (mobjAccess.IsTransactionLost()) throw;  // everything that follows would fail, too
+    if (mobjAccess.IsTransactionLost()) throw;  // everything after this would fail as well
   }
 }
 

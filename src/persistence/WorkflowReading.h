@@ -1,4 +1,4 @@
-// Rows become a workflow.
+// Reads rows into a workflow.
 #pragma once
 
 #include <cstdint>
@@ -19,8 +19,7 @@ class WorkflowReading {
   WorkflowReading(DatabaseAccess& pobjAccess, const std::shared_ptr<Workflow>& pobjWorkflow)
       : mobjAccess(pobjAccess), mobjWorkflow(pobjWorkflow) {}
 
-  /// False when there is no row with that id. Throws Error for a row that cannot be read; from the first arc on, what cannot
-  /// be read is left out.
+  /// False when there is no row with that id. Throws Error for a row that cannot be read; from the first arc on, leaves such rows out.
   bool Run(std::int32_t plngRecId);
 
  private:
@@ -42,7 +41,7 @@ class WorkflowReading {
   DatabaseAccess& mobjAccess;
   std::shared_ptr<Workflow> mobjWorkflow;
   std::unordered_set<std::string> mcolPlaceNames;
-  // The first object of each id, which is the one that a search from the beginning finds.
+  // The first object of each id, as a search from the beginning would find it.
   std::unordered_map<std::int32_t, std::shared_ptr<Place>> mcolPlaces;
   std::unordered_map<std::int32_t, std::shared_ptr<Transition>> mcolTransitions;
 };

@@ -1,4 +1,4 @@
-// A stored workflow as if it had never been stored.
+// Makes a stored workflow look as if it had never been stored.
 #pragma once
 
 #include <memory>
@@ -9,12 +9,12 @@
 
 namespace vantrel {
 
-/// Takes the database ids off a workflow and off all that is drawn in it. Embedded workflows keep theirs.
+/// Clears the database ids of a workflow and of all that is drawn in it. Embedded workflows keep theirs.
 void ForgetRecords(Workflow& pobjWorkflow);
 
-/// Takes the database ids off a workflow that was read, and off all that belongs to it, embedded workflows included; one that
-/// several transitions embed, which reading gives several times, becomes one object. Returns a line for every transition whose
-/// embedded workflow is not there.
+/// Clears the database ids of a workflow that was read, and of all that belongs to it, embedded workflows included. One that several
+/// transitions embed, and that was read several times, becomes one object. Returns a line for every transition whose embedded workflow
+/// is missing.
 std::vector<std::string> MakeNew(const std::shared_ptr<Workflow>& pobjWorkflow);
 
 }  // namespace vantrel

@@ -1,4 +1,4 @@
-// The option that every command over a database has.
+// The option of every command that uses a database.
 #pragma once
 
 #include <string>
@@ -17,7 +17,7 @@ class DatabaseOption {
   void Declare(CLI::App& pobjApp);
 
   bool IsGiven() const { return !mstrAddress.empty(); }
-  /// The database named, or the default one, which is made where it is missing.
+  /// The named database, or the default one, which is made if it is missing.
   DatabaseAddress Existing() const;
   /// The same without making it.
   DatabaseAddress Address() const;

@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// A path that is not absolute is to be ignored, says that specification.
+// That specification says to ignore a path that is not absolute.
 fs::path FolderOf(const char* pstrVariable) {
   const char* const value = std::getenv(pstrVariable);
   fs::path folder(value ? value : "");
@@ -38,7 +38,7 @@ void MakeFolder(const fs::path& pobjFolder) {
   throw std::runtime_error(pobjFolder.string() + ": cannot make the folder: " + std::generic_category().message(errno));
 }
 
-// One that a process left behind that ended before it had made the tables is as good as none.
+// An empty file, left by a process that ended before it had made the tables, counts as missing.
 bool IsMade(const std::string& pstrPath) {
   std::error_code fault;
   const auto size = fs::file_size(pstrPath, fault);

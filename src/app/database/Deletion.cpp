@@ -16,7 +16,7 @@ bool AllAmong(const std::vector<std::int32_t>& pcolIds, const Ids& pcolChosen) {
   return std::all_of(pcolIds.begin(), pcolIds.end(), [&](std::int32_t plngId) { return pcolChosen.count(plngId) > 0; });
 }
 
-// One round finds what the round before has left without others.
+// Each round finds the workflows that only those of the round before embed.
 bool ChooseEmbedded(const std::vector<WorkflowListing>& pcolStored, Ids& pcolChosen) {
   const std::size_t before = pcolChosen.size();
   for (const WorkflowListing& workflow : pcolStored) {

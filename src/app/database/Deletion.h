@@ -1,4 +1,4 @@
-// Which workflows go when some are deleted.
+// Finds the workflows to delete.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@ namespace vantrel {
 
 bool IsStored(const std::vector<WorkflowListing>& pcolStored, std::int32_t plngId);
 
-/// The workflows with those ids, each once; with pblnEmbedded also those that only workflows on this list embed, however deep.
+/// The workflows with those ids, each once; with pblnEmbedded also those that only workflows on this list embed, at any depth.
 /// In the order of pcolStored.
 std::vector<WorkflowListing> ToDelete(const std::vector<WorkflowListing>& pcolStored, const std::vector<std::int32_t>& pcolIds,
                                       bool pblnEmbedded);

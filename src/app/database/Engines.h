@@ -1,4 +1,4 @@
-// Which engine serves an address.
+// Finds the engine for an address.
 #pragma once
 
 #include <memory>
@@ -8,11 +8,11 @@
 
 namespace vantrel {
 
-/// All throw Error: what the engine says of the address, or that this program was built without the engine.
+/// All throw Error: the engine's error for the address, or that this program was built without the engine.
 std::shared_ptr<Connection> OpenConnection(const DatabaseAddress& pobjAddress);
-/// Makes the tables, and a file where it is missing. Refuses a database that has them.
+/// Makes the tables, and the file if it is missing. Refuses a database that has them.
 void CreateDatabase(const DatabaseAddress& pobjAddress);
-/// Brings tables of the version before to the newest one, in one transaction.
+/// Upgrades tables of the previous version to the newest one, in one transaction.
 void UpgradeDatabase(const DatabaseAddress& pobjAddress);
 
 }  // namespace vantrel

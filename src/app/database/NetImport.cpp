@@ -12,7 +12,7 @@ std::string Counted(std::int64_t plngCount, const std::string& pstrWhat) {
   return std::to_string(plngCount) + ' ' + pstrWhat + (plngCount == 1 ? "" : "s");
 }
 
-// A token in the start place is what a case begins with anyway.
+// Every case begins with a token in the start place.
 std::string LostMarking(const ImportedNet& pobjNet) {
   std::int64_t tokens = 0;
   for (const InitialTokens& initial : pobjNet.Marking) tokens += initial.Count;

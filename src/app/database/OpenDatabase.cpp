@@ -26,7 +26,7 @@ std::string QuotedForShell(const std::string& pstrText) {
 
 DatabaseFailure FailureOf(const std::string& pstrName, const std::string& pstrWhat) { return DatabaseFailure(pstrName + ": " + pstrWhat); }
 
-// In the words of the engine, which names the database in most of its texts.
+// In the words of the engine, most of which name the database.
 DatabaseFailure EngineFailureOf(const std::string& pstrName, const std::string& pstrDescription) {
   return pstrDescription.find(pstrName) == std::string::npos ? FailureOf(pstrName, pstrDescription) : DatabaseFailure(pstrDescription);
 }
@@ -46,7 +46,7 @@ std::shared_ptr<Connection> Connect(const DatabaseAddress& pobjAddress) {
   }
 }
 
-// Throws for no tables of the system and for those of a newer program.
+// Throws when the system's tables are missing or from a newer program.
 SchemaVersion VersionOf(Connection& pobjConnection, const std::string& pstrName) {
   SchemaVersion version;
   try {
@@ -130,7 +130,7 @@ std::shared_ptr<Workflow> OpenDatabase::ReadWorkflow(std::int32_t plngId) {
     if (workflow) ReadColors(Connection(), workflow);
   });
   if (workflow) return workflow;
-  CheckTables();  // that there is no connection any more looks the same
+  CheckTables();  // a lost connection would look the same
   throw NoSuchWorkflow(plngId);
 }
 

@@ -15,7 +15,7 @@
 
 namespace vantrel {
 
-/// What came of work over a database; its text begins with the database's name.
+/// A failure of work with a database; its text begins with the database's name.
 class DatabaseFailure : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -40,8 +40,8 @@ class OpenDatabase {
   vantrel::Connection& Connection() { return *mAccess.Connection; }
   VNTRDB& Access() { return mAccess; }
 
-  /// Does the work. An Error that leaves it, and a failure that was only shown, come out as a DatabaseFailure. Other messages
-  /// go to standard error.
+  /// Does the work. Throws an Error that leaves it, and a failure that was only shown, as a DatabaseFailure. Writes other messages to
+  /// standard error.
   void Do(const std::function<void()>& pWork);
 
   /// Throws DatabaseFailure when there is none with that id.
@@ -51,11 +51,11 @@ class OpenDatabase {
  private:
   void CheckTables();
   DatabaseFailure Failure(const std::string& pstrWhat) const;
-  // In the words of the engine, which names the database in most of its texts.
+  // In the words of the engine, most of which name the database.
   DatabaseFailure EngineFailure(const std::string& pstrDescription) const;
 
   std::string mstrName;
-  std::vector<std::string> mMessages;  // of the work under way
+  std::vector<std::string> mMessages;  // of the current work
   MsgBoxScope mMessageScope;
   DesignerStateScope mStateBefore;  // reading makes what it reads the current workflow
   VNTRDB mAccess;

@@ -8,7 +8,7 @@ namespace vantrel {
 
 namespace {
 
-// What reading a workflow asks for.
+// The columns that reading a workflow needs.
 constexpr const char* kNeeded[] = {
     "SELECT Id, GUID, StartPlaceName, EndPlaceName, CaseTracking, KeepHistory, ShowGuards, ShowWeights, RunStyle, LockControls FROM "
     "Workflow",
@@ -20,7 +20,7 @@ constexpr const char* kNeeded[] = {
     "SELECT Id, PlaceId, Name, [Index], Type, [Value] FROM TokenProperty",
     "SELECT PropertyId, Prompt, [Value] FROM PropertyOption"};
 
-// What the engine misses; nothing when the statement can be run.
+// What is missing, in the engine's words; empty when the statement runs.
 std::optional<std::string> LackOf(Connection& pobjConnection, const std::string& pstrSelect) {
   try {
     pobjConnection.NewRecordset()->Open(pstrSelect + " WHERE 1 = 0");

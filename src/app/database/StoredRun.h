@@ -1,4 +1,4 @@
-// How many cases and tokens a database has of a workflow.
+// Counts the stored cases and tokens of a workflow.
 #pragma once
 
 #include <cstdint>

@@ -4,7 +4,7 @@ class QWidget;
 
 namespace vantrel {
 
-/// What mouse and keyboard do on a chart.
+/// Says what mouse and keyboard do on a chart.
 void ShowKeys(QWidget* pobjParent);
 void ShowAbout(QWidget* pobjParent);
 

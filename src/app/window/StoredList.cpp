@@ -154,7 +154,7 @@ void StoredList::Search() {
   mobjFilter->selectAll();
 }
 
-// From the filter Down leads into the list, and Enter opens what is left of it.
+// In the filter, Down goes to the list, and Enter opens the chosen workflow, or the first one.
 bool StoredList::eventFilter(QObject* pobjWatched, QEvent* pobjEvent) {
   if (pobjWatched != mobjFilter || pobjEvent->type() != QEvent::KeyPress) return QWidget::eventFilter(pobjWatched, pobjEvent);
   const int key = static_cast<QKeyEvent*>(pobjEvent)->key();

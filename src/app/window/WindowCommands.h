@@ -1,4 +1,4 @@
-// The window's commands: one table behind its menus, tool bar and shortcuts.
+// The window's commands: one table for its menus, tool bar and shortcuts.
 #pragma once
 
 #include <QMainWindow>
@@ -17,12 +17,12 @@ struct WindowParts {
   StoredList& Stored;
 };
 
-/// A line of a menu. Without Run it offers the entry of the designer's own menu that has this id (see CommandIds), with the keys
-/// proposed there. Without an id it is a separator.
+/// A line of a menu. Without Run it is the entry of the designer's own menu with this id (see CommandIds), with the keys proposed there.
+/// Without an id it is a separator.
 struct WindowCommand {
   std::string_view Id;
   const char* Text = "";  ///< with the mnemonic
-  const char* Icon = "";  ///< in the tool bar, where a command without one is not offered
+  const char* Icon = "";  ///< in the tool bar; without one the command is not there
   const char* Keys = "";  ///< as QKeySequence::listFromString reads them
   void (*Run)(const WindowParts& pobjParts) = nullptr;
   bool (*IsEnabled)(const Vantrel& pobjControl) = nullptr;  ///< null: always

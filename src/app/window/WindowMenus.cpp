@@ -28,11 +28,11 @@ auto& LastOf(const Objects& pcolObjects) {
   return *pcolObjects.Item(pcolObjects.Count());
 }
 
-// What was inserted is what the user goes on with.
+// Chooses the inserted object, as the user goes on with it.
 void ChooseInserted(Vantrel& pobjControl, std::string_view pstrId) {
   const auto workflow = pobjControl.Workflow();
   if (!workflow || !Inserts(pstrId)) return;
-  pobjControl.Selection(nullptr);  // what was chosen before would be moved and deleted along with it
+  pobjControl.Selection(nullptr);  // objects chosen before would be moved and deleted along with it
   if (pstrId == Ids::InsertPlace) pobjControl.CurrentControl(LastOf(workflow->Places).Image.get());
   if (pstrId == Ids::InsertTransition) pobjControl.CurrentControl(LastOf(workflow->Transitions).Image.get());
   if (pstrId == Ids::AddNotation) pobjControl.CurrentControl(LastOf(workflow->Notations).TextControl.get());
@@ -80,8 +80,8 @@ QAction* WindowMenus::MakeAction(const WindowCommand& pobjCommand) {
   return action;
 }
 
-// The designer's keys serve while the chart or what lies in it has the focus; letters that are held insert one object alone. A key
-// that the chart takes by itself is shown only.
+// The designer's keys work while the chart or a child of it has the focus. A letter that is held inserts one object alone. A key that
+// the chart handles itself is only shown.
 void WindowMenus::BindKeys(QAction& pobjAction, const WindowCommand& pobjCommand) {
   const auto keys = KeysOf(pobjCommand);
   const QString shown = keys.isEmpty() ? QString() : QString(" (%1)").arg(keys.front().toString(QKeySequence::NativeText));

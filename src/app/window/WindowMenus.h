@@ -21,7 +21,7 @@ class WindowMenus final : public QObject {
  public:
   explicit WindowMenus(const WindowParts& pobjParts);
 
-  /// Takes over what changed on the chart.
+  /// Adopts what changed on the chart.
   void Follow();
   /// Draws the pictures in the palette's ink.
   void Paint();
