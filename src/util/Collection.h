@@ -234,11 +234,11 @@ class Collection {
     return mOrder.OrdinalOf(static_cast<std::uint32_t>(plngIndex));
   }
 
-  void AddUnder(Pointer pobjItem, ItemKey pKey) {
+  void AddUnder(Pointer&& pobjItem, ItemKey&& pKey) {
     if (mOrder.Find(pKey)) throw Error(vntErrDuplicateKey);
     Append(std::move(pobjItem), std::move(pKey));
   }
-  KeyedOrder::Ordinal Append(Pointer pobjItem, ItemKey pKey) {
+  KeyedOrder::Ordinal Append(Pointer&& pobjItem, ItemKey&& pKey) {
     if (mOrder.IsFull()) Grow();
     const auto ordinal = mOrder.Append(std::move(pKey));
     mItems[mOrder.Slot(ordinal)] = std::move(pobjItem);

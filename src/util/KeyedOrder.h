@@ -55,7 +55,7 @@ class KeyedOrder {
   std::int32_t LargestNumber() const { return mCount == 0 ? 0 : mAscending ? KeyAt(Last()).Number() : LargestOfIndex(); }
 
   /// Takes a key at the end. Needs room and a key that is not taken.
-  Ordinal Append(ItemKey pKey) {
+  Ordinal Append(ItemKey&& pKey) {
     if (mCount == 0) {
       Restart(pKey);
     } else if (!(mDense && OrdinalIfDense(pKey) == mTail)) {

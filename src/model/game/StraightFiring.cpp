@@ -44,34 +44,42 @@ bool StraightFiring::FireNext(Workflow& pobjWorkflow) {
 bool StraightFiring::IsPlain() const {
   const OutputTypes output = mTransition.OutputType();
   if (output == vntSelect || output == vntDistribute || output == vntProgrammed || mTransition.Object()) return false;
-  if (mTransition.mFiringsUnderWay != 0 || mTransition.Visible() || !(mTransition.Workflow == &mWorkflow)) return false;
+  if (mTransition.mFiringsUnderWay != 0 || !IsPlain(mTransition) || !(mTransition.Workflow == &mWorkflow)) return false;
   if (mblnTracking && !(mTransition.TriggerType() == vntUser && mWorkflow.Designer().Host->TakesFirstCase())) return false;
-  const auto* const end = mWorkflow.EndPlace().get();
-  return !mTransition.OutArcs.IsEmpty() && mTransition.InArcs.All([&](const Arc& pobjArc) {
-    const auto* place = pobjArc.Place.get();
-    return place && IsPlain(*place, [&](const Transition& consumer) {
-             return !mblnTracking || &consumer == &mTransition || HasPlainInputs(consumer);
-           });
-  }) && mTransition.OutArcs.All([&](const Arc& pobjArc) {
-    const auto* place = pobjArc.Place.get();
-    return place && place != end &&
-           IsPlain(*place, [&](const Transition& consumer) { return IsHeldUp(consumer, *place) || HasPlainInputs(consumer); });
-  });
+  return HasPlainInputs() && HasPlainOutputs();
+}
+
+bool StraightFiring::IsPlain(const Transition& pobjTransition) {
+  return !pobjTransition.Visible() && pobjTransition.TriggerType() != vntAutomatic && Enabling::HeldUp(pobjTransition).empty();
 }
 
 template <class Ask>
-bool StraightFiring::IsPlain(const Place& pobjPlace, Ask&& pHasPlainInputs) const {
+bool StraightFiring::IsPlain(const Place& pobjPlace, Ask&& pIsPlainConsumer) const {
   if (!(pobjPlace.Workflow == &mWorkflow) || pobjPlace.Visible() || pobjPlace.Image) return false;
   return pobjPlace.OutArcs.All([&](const Arc& pobjArc) {
     const auto* consumer = pobjArc.Transition.get();
-    if (!consumer) return true;
-    const bool isPlain = !consumer->Visible() && consumer->TriggerType() != vntAutomatic && Enabling::HeldUp(*consumer).empty();
-    return isPlain && pHasPlainInputs(*consumer);
+    return !consumer || consumer == &mTransition || (IsPlain(*consumer) && pIsPlainConsumer(*consumer));
+  });
+}
+
+bool StraightFiring::HasPlainInputs() const {
+  return mTransition.InArcs.All([&](const Arc& pobjArc) {
+    const auto* place = pobjArc.Place.get();
+    return place && IsPlain(*place, [&](const Transition& consumer) { return !mblnTracking || MarksQuietly(consumer); });
+  });
+}
+
+bool StraightFiring::HasPlainOutputs() const {
+  const auto* const end = mWorkflow.EndPlace().get();
+  return !mTransition.OutArcs.IsEmpty() && mTransition.OutArcs.All([&](const Arc& pobjArc) {
+    const auto* place = pobjArc.Place.get();
+    return place && place != end &&
+           IsPlain(*place, [&](const Transition& consumer) { return IsHeldUp(consumer, *place) || MarksQuietly(consumer); });
   });
 }
 
 // Marking the inputs of a transition draws them where they are shown.
-bool StraightFiring::HasPlainInputs(const Transition& pobjConsumer) {
+bool StraightFiring::MarksQuietly(const Transition& pobjConsumer) {
   return pobjConsumer.InArcs.All([](const Arc& pobjArc) {
     const auto* place = pobjArc.Place.get();
     return place && !place->Image;
@@ -81,8 +89,8 @@ bool StraightFiring::HasPlainInputs(const Transition& pobjConsumer) {
 // What this firing produces for one place cannot complete the inputs: another place is empty and stays so.
 bool StraightFiring::IsHeldUp(const Transition& pobjConsumer, const Place& pobjOutput) const {
   if (mTransition.OutArcs.Count() != 1) return false;
-  const auto* const missing = Enabling::HeldUpBy(pobjConsumer);
-  return missing && missing != &pobjOutput && missing->Tokens().IsEmpty();
+  return !Enabling::AllInputs(
+      pobjConsumer, [&](const Place* pobjPlace) { return !pobjPlace || pobjPlace == &pobjOutput || !pobjPlace->Tokens().IsEmpty(); });
 }
 
 bool StraightFiring::Choose() {
@@ -161,9 +169,31 @@ void StraightFiring::Put(Place& pobjPlace) {
   pobjPlace.TokenCount(static_cast<float>(pobjPlace.Tokens().Count()));
   pobjPlace.OutArcs.All([&](const Arc& pobjArc) {
     auto* const consumer = pobjArc.Transition.get();
-    if (consumer && Enabling::Arrived(*consumer, mobjCase, mblnTracking)) Enabling::Switch(*consumer, true);
+    if (consumer && IsEnabledBy(*consumer, pobjPlace)) Switch(*consumer, true);
     return true;
   });
+}
+
+bool StraightFiring::NeedsOnly(const Transition& pobjConsumer, const Place& pobjPlace) {
+  const auto& inputs = pobjConsumer.InArcs;
+  return inputs.Count() == 1 && inputs.First()->Place == &pobjPlace && Enabling::HeldUp(pobjConsumer).empty();
+}
+
+// The token that has just arrived serves itself.
+bool StraightFiring::IsEnabledBy(Transition& pobjConsumer, Place& pobjPlace) const {
+  if (!NeedsOnly(pobjConsumer, pobjPlace)) return Enabling::Arrived(pobjConsumer, mobjCase, mblnTracking);
+  TokenRules::MarkEnabled(pobjPlace, mobjCase.get());
+  return true;
+}
+
+void StraightFiring::Switch(Transition& pobjTransition, bool pblnEnabled) {
+  if (&pobjTransition != &mTransition) {
+    Enabling::Switch(pobjTransition, pblnEnabled);
+  } else if (pblnEnabled || mblnWaits) {
+    Enabling::Switch(mTransition, mblnWaits = pblnEnabled);
+  } else {
+    mTransition.mblnEnabled = false;  // it was taken off the stack to be fired
+  }
 }
 
 void StraightFiring::Withdraw() {
@@ -177,8 +207,14 @@ void StraightFiring::Withdraw() {
   }
 }
 
-// What Enabling::Left tells of the transition itself. It asks each input each time that one of them has lost a token; between the
-// first time and the last, only that one can have changed, and tokens only leave.
+// As Enabling::Left tells.
+bool StraightFiring::StaysEnabled(Transition& pobjConsumer, Place& pobjPlace) {
+  if (!mblnTracking && NeedsOnly(pobjConsumer, pobjPlace) && !TokenRules::HasTaken(pobjPlace)) return TokenRules::Holds(pobjPlace);
+  return &pobjConsumer == &mTransition ? CanFireAgain(pobjPlace) : Enabling::Left(pobjConsumer, mblnTracking);
+}
+
+// With case tracking each departure asks all inputs of the transition. Between the first time and the last, only the place
+// that has lost a token can have changed, and tokens only leave.
 bool StraightFiring::CanFireAgain(Place& pobjPlace) {
   if (!mblnTracking || mlngGone == 1 || mlngGone == gcolChosen.size()) return mblnCanFireAgain = Enabling::Left(mTransition, mblnTracking);
   const bool holds = TokenRules::HoldsMarked(pobjPlace);
@@ -192,7 +228,7 @@ void StraightFiring::Leave(Place& pobjPlace, const Token& pobjToken) {
   pobjPlace.TokenCount(static_cast<float>(pobjPlace.Tokens().Count()));
   pobjPlace.OutArcs.All([&](const Arc& pobjArc) {
     auto* const consumer = pobjArc.Transition.get();
-    if (consumer) Enabling::Switch(*consumer, consumer == &mTransition ? CanFireAgain(pobjPlace) : Enabling::Left(*consumer, mblnTracking));
+    if (consumer) Switch(*consumer, StaysEnabled(*consumer, pobjPlace));
     return true;
   });
 }

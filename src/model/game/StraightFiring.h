@@ -24,8 +24,12 @@ class StraightFiring {
 
   bool IsPlain() const;
   template <class Ask>
-  bool IsPlain(const Place& pobjPlace, Ask&& pHasPlainInputs) const;
-  static bool HasPlainInputs(const Transition& pobjConsumer);
+  bool IsPlain(const Place& pobjPlace, Ask&& pIsPlainConsumer) const;
+  static bool IsPlain(const Transition& pobjTransition);
+  bool HasPlainInputs() const;
+  bool HasPlainOutputs() const;
+  static bool MarksQuietly(const Transition& pobjConsumer);
+  static bool NeedsOnly(const Transition& pobjConsumer, const Place& pobjPlace);
   bool IsHeldUp(const Transition& pobjConsumer, const Place& pobjOutput) const;
   bool Choose();
   bool ChooseCase();
@@ -34,7 +38,10 @@ class StraightFiring {
   void Put(Place& pobjPlace);
   void Withdraw();
   void Leave(Place& pobjPlace, const Token& pobjToken);
+  bool IsEnabledBy(Transition& pobjConsumer, Place& pobjPlace) const;
+  bool StaysEnabled(Transition& pobjConsumer, Place& pobjPlace);
   bool CanFireAgain(Place& pobjPlace);
+  void Switch(Transition& pobjTransition, bool pblnEnabled);
   void GiveBack();
   // After an Error, or where nothing was produced: what was chosen counts for others again.
   void Settle();
@@ -50,7 +57,8 @@ class StraightFiring {
   Date mdtmNow = Date::Now();
   bool mblnTracking;
   bool mblnOutputDone = false;
-  bool mblnCanFireAgain = false;
+  bool mblnCanFireAgain = false;  // as asked last
+  bool mblnWaits = false;         // on the firing stack again
 };
 
 }  // namespace vantrel
