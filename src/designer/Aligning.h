@@ -7,7 +7,7 @@
 
 namespace vantrel {
 
-/// By the centres of their pictures; the first one that is no bend point stays where it is.
+/// Aligns the centres of their pictures. The first one that is not a bend point stays where it is.
 class Aligning {
  public:
   explicit Aligning(Vantrel& pobjControl) : mobjControl(pobjControl) {}

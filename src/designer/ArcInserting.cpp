@@ -20,7 +20,7 @@ void RefuseLikeObjects(Vantrel& pobjControl, const ModelObject& pobjFrom) {
   if (node && node->OutArcs.IsEmpty() && node->OutConnector) node->OutConnector->Visible(false);
 }
 
-// A place's own lists hold every arc that touches it: no need to walk the workflow.
+// A place lists every arc that touches it, so the workflow need not be walked.
 bool AreJoined(const Place& pobjPlace, const Transition& pobjTransition, const Workflow& pobjWorkflow) {
   for (const auto* arcs : {&pobjPlace.InArcs, &pobjPlace.OutArcs}) {
     for (Collection<Arc>::Cursor cursor(*arcs); const Arc* arc = cursor.Next();) {

@@ -11,7 +11,7 @@ namespace {
 
 constexpr Color kGrey = 0xC0C0C0;
 
-// The hourglass, and RefreshOn off, until the chart is built or its building has failed.
+// Shows the hourglass and switches RefreshOn off until the chart is built or building it has failed.
 class Building {
  public:
   explicit Building(Vantrel& pobjControl) : mobjControl(pobjControl) {
@@ -127,7 +127,7 @@ void ChartBuilder::Show(const std::shared_ptr<Workflow>& pobjWorkflow) {
   mobjControl.FocusFrame.SelectedControl(nullptr);
   const HiddenChart hidden(mobjControl);
   LetGo();
-  const auto before = mobjControl.mWorkflow;  // ends, if this is the last share, when nothing of it is shown any more
+  const auto before = mobjControl.mWorkflow;  // if this is the last share, the workflow dies only when nothing of it is shown any more
   Take(workflow);
   if (!workflow) {
     mobjControl.ChartArea.BackColor(kGrey);

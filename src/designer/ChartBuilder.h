@@ -12,9 +12,8 @@ class ChartBuilder {
  public:
   explicit ChartBuilder(Vantrel& pobjControl) : mobjControl(pobjControl) {}
 
-  /// Takes the workflow shown off the chart, and another one off any other control's chart, and shows that one, or none. Error
-  /// 35601, with nothing changed, when the image list lacks a place's picture. What a listener shows instead while the marks are
-  /// set stays.
+  /// Takes the shown workflow off the chart and shows another one, or none; takes that one off any other control's chart. Error 35601,
+  /// with nothing changed, when the image list lacks a place's picture. If a listener shows something else meanwhile, that stays.
   void Show(const std::shared_ptr<Workflow>& pobjWorkflow);
   void Clear();
 

@@ -23,7 +23,7 @@ void Widen(ScrollBar& pobjBar, float psngMin, float psngMax) {
 
 }  // namespace
 
-// What lies right of and below the origin does not narrow it.
+// Elements right of and below the origin do not narrow it.
 Rect ChartFitting::Extent() const { return Rect().United(mobjControl.ChartArea.BoxBounds().value_or(Rect())); }
 
 // Bend points first: the arcs draw themselves when their ends move.

@@ -9,9 +9,9 @@ class ChartFitting {
  public:
   explicit ChartFitting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
 
-  /// Moves all objects to where no element has a negative coordinate, redrawing those alone, and widens the ranges to them.
+  /// Moves objects so that no element has a negative coordinate, redraws the moved ones, and widens the ranges to them.
   void Fit();
-  /// Widens the ranges, into the negative too, to where the elements are.
+  /// Widens the ranges to the elements, also below zero.
   void ExtendScrollRange();
 
  private:

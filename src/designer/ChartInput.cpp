@@ -20,7 +20,7 @@ namespace vantrel {
 
 namespace {
 
-// Does what an event asks for and shows the user what goes wrong. The control may be gone then, and its input with it.
+// Handles an event and shows its errors to the user. The control, and with it its input, may be gone afterwards.
 void Serve(Vantrel& pobjControl, const std::function<void()>& pServe) {
   ShowErrors([&] {
     const ControlScope scope(pobjControl);
@@ -35,10 +35,10 @@ void Resized(Vantrel& pobjControl, float psngHeight, float psngWidth) {
 
 bool IsHandled(const PointerInput& pobjInput) { return pobjInput.Button == vntLeftButton || pobjInput.Button == vntRightButton; }
 
-// What a position that is no number would be given could not be found or saved any more.
+// An object at a NaN position could not be found or saved any more.
 bool IsSomewhere(const PointerInput& pobjInput) { return std::isfinite(pobjInput.X) && std::isfinite(pobjInput.Y); }
 
-// Objects keep their coordinates, and nothing of what they draw depends on the part in view.
+// Objects keep their coordinates, and their drawing does not depend on the part in view.
 void Scroll(Vantrel& pobjControl) { pobjControl.ChartArea.Origin(pobjControl.HScroll.Value(), pobjControl.VScroll.Value()); }
 
 }  // namespace
@@ -55,13 +55,13 @@ ChartInput::~ChartInput() = default;
 void ChartInput::Press(const PointerInput& pobjInput) {
   if (!IsHandled(pobjInput) || !IsSomewhere(pobjInput)) return;
   if (mobjGesture) {
-    // Another button while one is held means nothing; the same one means that its release was lost.
+    // Ignores another button while one is held. The same one means that its release was lost.
     if (pobjInput.Button != vntLeftButton) return;
     Abandon();
   }
   Serve(mobjControl, [&] {
     mobjControl.FocusFrame.CancelEdit();
-    // Null also when a menu, or a host that a transition's action asked, has ended the control.
+    // Also null when a menu, or a host that ran a transition's action, has destroyed the control.
     if (const auto gesture = PressAt(mobjControl, pobjInput)) mobjGesture = gesture;
   });
 }
@@ -94,7 +94,7 @@ void ChartInput::DoubleClick(const PointerInput& pobjInput) {
   if (pobjInput.Button != vntLeftButton || !IsSomewhere(pobjInput)) return;
   if (mobjControl.Comfort.QuickPressEndsArc && mobjControl.IsInsertingArc()) return Press(pobjInput);
   bool isUsed = true;
-  // Two presses in quick succession are no double-click where that means nothing.
+  // Two presses in quick succession are two presses where a double-click does nothing.
   Serve(mobjControl, [&] { isUsed = DoubleClickAt(mobjControl, pobjInput); });
   if (!isUsed) Press(pobjInput);
 }

@@ -1,4 +1,4 @@
-// What selecting, copying and aligning do with objects of any class.
+// Functions for selecting, copying and aligning objects of any class.
 #pragma once
 
 #include <optional>
@@ -10,12 +10,12 @@
 
 namespace vantrel {
 
-/// The key in the workflow's collection; empty for what lies on no chart.
+/// The key in the workflow's collection; empty for an object that no chart shows.
 std::string KeyOf(const ModelObject& pobjObject);
 /// True when the workflow's collection has this very object.
 bool IsPartOf(const ModelObject& pobjObject, const Workflow& pobjWorkflow);
 bool IsSelected(const ModelObject& pobjObject);
-/// Marks it; nothing when the mark is there already.
+/// Marks the object. Does nothing if it is marked already.
 void Select(ModelObject& pobjObject, bool pblnOn);
 /// The picture of a place or transition, the box of a note, the handle of a bend point, twips; nothing for other objects.
 std::optional<Rect> BoundsOf(const ModelObject& pobjObject);

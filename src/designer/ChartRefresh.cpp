@@ -6,7 +6,7 @@ namespace vantrel {
 
 namespace {
 
-// Transitions, drawn after the places, draw nearly all arcs: the places need not.
+// Transitions are drawn after the places and draw nearly all arcs, so the places need not.
 void DrawPlaces(Workflow& pobjWorkflow) {
   SingleDrawing noArcs(pobjWorkflow);
   noArcs.Forget();

@@ -1,4 +1,4 @@
-// Redraws the chart, and takes a test off it.
+// Redraws the chart, and clears a test from it.
 #pragma once
 
 #include "designer/Vantrel.h"
@@ -9,9 +9,9 @@ class ChartRefresh {
  public:
   explicit ChartRefresh(Vantrel& pobjControl) : mobjControl(pobjControl) {}
 
-  /// Nothing in run mode.
+  /// Does nothing in run mode.
   void Refresh();
-  /// No tokens, no counts, nothing enabled.
+  /// Removes tokens and counts, and disables everything.
   void Reset();
 
  private:

@@ -1,10 +1,10 @@
-// Where the control may do what people expect instead of what its plain rules say.
+// Options that make the control do what people expect where its plain rules say otherwise.
 #pragma once
 
 namespace vantrel {
 
-/// A host gets the plain rules; each flag replaces one of them. With all flags on, what Delete, Copy and the arrow keys take is exactly
-/// what looks chosen.
+/// A host gets the plain rules; each flag replaces one of them. With all flags on, Delete, Copy and the arrow keys take exactly what looks
+/// chosen.
 struct Comfort {
   /// A right click. Off: the menu opens for what was chosen before; only then the object clicked is chosen as well. On: what lies under
   /// the pointer is chosen before the menu opens (an object, a label, an arc, or nothing); a click on one of several chosen objects

@@ -1,4 +1,4 @@
-// When the control's commands can be run.
+// Rules for when the control's commands can be run.
 #pragma once
 
 namespace vantrel {
@@ -14,7 +14,7 @@ bool CanCopy(const Vantrel& pobjControl);
 bool CanPaste(const Vantrel& pobjControl);
 bool CanDelete(const Vantrel& pobjControl);
 bool CanSelectAll(const Vantrel& pobjControl);
-/// There is a workflow, and it is not locked.
+/// True when there is a workflow and it is not locked.
 bool CanInsert(const Vantrel& pobjControl);
 bool CanInsertArc(const Vantrel& pobjControl);
 bool CanInsertElbow(const Vantrel& pobjControl);

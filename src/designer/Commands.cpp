@@ -14,7 +14,7 @@ namespace vantrel {
 
 namespace {
 
-// The question may end the control.
+// The control may be destroyed while the question is shown.
 void ReplaceWorkflow(Vantrel& pobjControl) {
   const Ref<Vantrel> control(&pobjControl);
   const auto ask = pobjControl.MayReplaceWorkflow;
@@ -25,7 +25,7 @@ void ReplaceWorkflow(Vantrel& pobjControl) {
   if (control) control->NewWorkflow();
 }
 
-// What was chosen before would be moved and deleted along with it.
+// Objects chosen before would be moved and deleted along with it.
 template <class T>
 void ChooseInserted(Vantrel& pobjControl, const std::shared_ptr<T>& pobjObject) {
   if (pobjControl.Comfort.ChosenIsSeen) ChooseAlone(pobjControl, ElementOf(*pobjObject));

@@ -1,4 +1,4 @@
-// What the user can ask of the control: one table behind pop-ups, menus, tool bars and keys.
+// The commands that the control offers to users: one table for pop-ups, menus, tool bars and keys.
 #pragma once
 
 #include <span>
@@ -8,7 +8,7 @@ namespace vantrel {
 
 class Vantrel;
 
-/// Ids of the commands: never shown, and the same in every version, so that hosts and tests can find menu entries and actions by them.
+/// Ids of the commands. They are never shown and never change, so that hosts and tests can find menu entries and actions by them.
 namespace CommandIds {
 inline constexpr std::string_view New = "new", Save = "save", Copy = "copy", Paste = "paste", Delete = "delete", SelectAll = "select-all",
                                   InsertArc = "insert-arc", InsertPlace = "insert-place", InsertTransition = "insert-transition",
@@ -21,11 +21,11 @@ inline constexpr std::string_view New = "new", Save = "save", Copy = "copy", Pas
 
 struct ControlCommand {
   std::string_view Id, Caption;
-  /// Proposed to windows in the form "Ctrl+Shift+S"; empty: none. The control itself binds no key but those of ChartInput::Key.
+  /// Keys proposed to windows, in the form "Ctrl+Shift+S"; empty for none. The control itself uses only the keys of ChartInput::Key.
   std::string_view Keys;
-  /// Whether it can be run as things are.
+  /// True when it can be run now.
   bool (*IsEnabled)(const Vantrel& pobjControl);
-  /// Throws Errors; the control may be gone afterwards. Null when the host does it.
+  /// Throws Errors. The control may be gone afterwards. Null for a command that the host runs.
   void (*Run)(Vantrel& pobjControl);
   /// Null for a command without a check mark.
   bool (*IsChecked)(const Vantrel& pobjControl) = nullptr;

@@ -1,4 +1,4 @@
-// What the model reaches as gobjVantrel while a control exists.
+// What gobjVantrel refers to while a control exists.
 #pragma once
 
 #include <optional>

@@ -18,12 +18,12 @@ class ControlProperties {
   void ShowWeights(bool pblnOn) { ShowOnArcs(&Workflow::ShowWeights, pblnOn); }
   void ShowGuards(bool pblnOn) { ShowOnArcs(&Workflow::ShowGuards, pblnOn); }
   void BackColor(Color plngColor);
-  /// Lets the user choose; nothing when it stays as it is.
+  /// Lets the user choose. Does nothing when they keep the value.
   void ChooseBackColor();
 
   /// Null without a workflow.
   std::shared_ptr<PropertyCollection> Records();
-  /// Throws what the value's conversion throws; Error 91 for a setting of the workflow while there is none.
+  /// Throws what the value's conversion throws, and Error 91 for a setting of the workflow without a workflow.
   void Store(const std::string& pstrPropName, const Variant& pvarValue);
 
  private:

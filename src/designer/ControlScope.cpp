@@ -5,7 +5,7 @@
 namespace vantrel {
 
 ControlScope::ControlScope(const Vantrel& pobjControl) : mobjCall(*pobjControl.mobjState) {
-  // Whoever reads a workflow makes it gobjWorkflow.
+  // Reading a workflow makes it gobjWorkflow.
   Ref<Workflow>& shown = pobjControl.mobjState->Workflow;
   if (!(shown == pobjControl.mWorkflow)) shown = pobjControl.mWorkflow;
 }

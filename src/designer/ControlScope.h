@@ -6,8 +6,8 @@
 
 namespace vantrel {
 
-/// Stands in every public operation of a control: its state is the current one until the scope ends, and what its host is to hear waits
-/// (HostEvents). The control may go meanwhile.
+/// Used in every public operation of a control: makes its state the current one until the scope ends, and holds back events for the host
+/// (HostEvents). The control may be destroyed meanwhile.
 class ControlScope {
  public:
   explicit ControlScope(const Vantrel& pobjControl);

@@ -5,8 +5,8 @@
 
 namespace vantrel {
 
-/// The clipboard becomes the selection's own collection, not a copy of it, with the arcs whose two ends are selected. With
-/// Comfort::PasteKeepsOriginals it becomes a collection of its own.
+/// Makes the selection's own collection the clipboard, not a copy of it, and adds the arcs whose two ends are selected. With
+/// Comfort::PasteKeepsOriginals the clipboard is a separate collection.
 class Copying {
  public:
   explicit Copying(Vantrel& pobjControl) : mobjControl(pobjControl) {}

@@ -23,7 +23,7 @@ void CurrentElement::DropHighlight() {
 }
 
 // A click on one object replaces a selection of one; a click on one of several keeps them. Marks and the rubber band repaint what
-// they covered, so the chart need not be drawn again: a click costs nothing on a large one.
+// they covered, so the chart is not drawn again: a click takes no longer on a large chart.
 void CurrentElement::KeepSelectionOf(const std::shared_ptr<ModelObject>& pobjObject) {
   if (mobjControl.Selection()->Count() >= 2 && mobjControl.InSelections(pobjObject)) return;
   Selecting(mobjControl).SelectOnly(pobjObject);

@@ -12,7 +12,7 @@ class CurrentElement {
  public:
   explicit CurrentElement(Vantrel& pobjControl) : mobjControl(pobjControl) {}
 
-  /// Error 91 for an element that shows no object of the workflow. What a listener to OnSelected shows instead stays.
+  /// Error 91 for an element that shows no object of the workflow. If a listener to OnSelected shows something else, that stays.
   void Set(const Ref<Element>& pobjElement);
 
  private:

@@ -1,4 +1,4 @@
-// Where the next object goes.
+// The position of the next object.
 #pragma once
 
 #include <cmath>
@@ -7,7 +7,7 @@
 
 namespace vantrel {
 
-/// Error 6 when the host has set the control's current position to what no object can lie at.
+/// Error 6 when the host has set the control's current position to one that no object can have.
 inline void RequirePosition(const Vantrel& pobjControl) {
   if (!std::isfinite(pobjControl.CurrentX) || !std::isfinite(pobjControl.CurrentY)) throw Error(vntErrOverflow);
 }

@@ -1,4 +1,4 @@
-// What "New" shows.
+// The workflow that "New" shows.
 #pragma once
 
 #include <memory>
@@ -7,7 +7,7 @@
 
 namespace vantrel {
 
-/// A start place, a transition behind it, and an end place that no arc leads to yet. `psngTop` is where they lie, twips.
+/// A start place, a transition after it, and an end place that no arc leads to yet. `psngTop` is their position, twips.
 std::shared_ptr<Workflow> MakeDefaultWorkflow(float psngTop);
 
 }  // namespace vantrel

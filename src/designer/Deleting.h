@@ -1,4 +1,4 @@
-// Takes objects off the chart, with everything that hangs on them.
+// Deletes objects with everything that depends on them.
 #pragma once
 
 #include <memory>
@@ -8,8 +8,7 @@
 
 namespace vantrel {
 
-/// Nothing of what is deleted stays in the workflow, on the chart, in the selection or waiting to fire. Copies on the clipboard
-/// can still be pasted.
+/// Removes the objects from the workflow, the chart, the selection and the firing stack. Copies on the clipboard can still be pasted.
 class Deleting {
  public:
   explicit Deleting(Vantrel& pobjControl) : mobjControl(pobjControl) {}

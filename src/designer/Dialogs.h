@@ -12,7 +12,7 @@ namespace vantrel {
 class ModelObject;
 class Vantrel;
 
-/// What stands here opens nothing: every question is answered with "cancel".
+/// This class itself opens nothing and answers every question with "cancel".
 class Dialogs {
  public:
   Dialogs() = default;
@@ -29,10 +29,10 @@ class Dialogs {
     return std::nullopt;
   }
   virtual void SelectTokens(Workflow& /*pobjWorkflow*/, Transition& /*pobjTransition*/) {}
-  /// The picture at a transition that its roles unfold from.
+  /// The picture at a transition that opens the list of its roles.
   virtual void LoadRolesImage(Vantrel& /*pobjControl*/, Transition& /*pobjTransition*/) {}
   virtual void DeleteRole(Vantrel& /*pobjControl*/) {}
-  /// The control goes: so do its windows.
+  /// The control is being destroyed: closes its windows.
   virtual void CloseAll() {}
 };
 

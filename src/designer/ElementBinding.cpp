@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::int16_t kCentred = 2;
 
-// A label that was never fitted, as of a net that was made without a chart, takes the size of its text.
+// A label that was never fitted, as in a net made without a chart, gets the size of its text.
 void SizeLabel(Label& pobjLabel, float& psngWidth, float& psngHeight) {
   if (psngWidth <= 0 || psngHeight <= 0) {
     FitLabel(pobjLabel);

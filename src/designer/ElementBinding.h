@@ -9,14 +9,14 @@
 
 namespace vantrel {
 
-/// Costs in proportion to the object alone. Elements that the object already has on this chart go.
+/// Takes time in proportion to the object alone. Removes elements that the object already has on this chart.
 class ElementBinding {
  public:
   explicit ElementBinding(Vantrel& pobjControl) : mobjControl(pobjControl), mobjSurface(pobjControl.ChartArea) {}
 
-  /// Error 35601 when the image list lacks the place's picture: to be asked before something else is changed for the place's sake.
+  /// Error 35601 when the image list lacks the place's picture. Call it before you change anything else for the place.
   void RequirePicture(const Place& pobjPlace) const;
-  /// A transition can do with the usual picture, so this throws only when the list lacks that, too.
+  /// Throws only when the list lacks the usual picture as well, which a transition can show instead of its own.
   void RequirePicture(const Transition& pobjTransition) const;
   /// Throws as RequirePicture does, with nothing bound.
   void Bind(Place& pobjPlace);

@@ -33,7 +33,7 @@ const Grip& GripOf(std::int32_t plngHandle) { return kGrips.at(static_cast<std::
 
 constexpr float kSmallest = FocusFrame::kSmallestLabel;
 
-// One direction of a drag: where the side at the top or left goes, and how long the label is then.
+// One direction of a drag: the new position of the top or left side, and the label's new length.
 struct Span {
   float From, Length;
 };

@@ -16,24 +16,24 @@ namespace vantrel {
 class Label;
 class Vantrel;
 
-/// Lies before all elements of the chart. Round a label it shows eight handles that resize it, and a text box to edit its text
-/// in place; round anything else an outline. Twips on the chart.
+/// Drawn in front of all elements of the chart. Round a label it shows eight handles that resize it, and a text box to edit its text in
+/// place; round anything else an outline. Twips on the chart.
 class FocusFrame {
  public:
   static constexpr std::int32_t kHandles = 8;
   static constexpr float kHandleSize = 6 * kTwipsPerPixel;
-  static constexpr float kSmallestLabel = 200;  ///< no side of a label becomes smaller through the handles
+  static constexpr float kSmallestLabel = 200;  ///< the handles make no side of a label smaller
 
   explicit FocusFrame(Vantrel& pobjControl);
   FocusFrame(const FocusFrame&) = delete;
   FocusFrame& operator=(const FocusFrame&) = delete;
 
   const Ref<Element>& SelectedControl() const { return mobjSelected; }
-  /// Frames the element and shows the frame, or hides it. The text box goes.
+  /// Frames the element and shows the frame, or hides it for null. Closes the text box.
   void SelectedControl(const Ref<Element>& pobjElement);
   /// Fits the frame round its element again, if there is one.
   void FrameControl();
-  /// False also while its element is gone.
+  /// Also false when its element is gone.
   bool Visible() const;
   void Visible(bool pblnOn);
 
@@ -55,22 +55,21 @@ class FocusFrame {
   /// The handle under a point, or -1.
   std::int32_t HandleAt(float psngX, float psngY) const;
 
-  /// The left button is held on a handle and the mouse moved by so much relative to the handle. Nothing when the label's width or
-  /// height, the movement added, would be too small, or become too small; a side that is too small already and that the handle
-  /// does not move is no hindrance.
+  /// Moves a handle by so much while the left button holds it. Does nothing when a side of the label that the handle moves is or would
+  /// become too small.
   void DragHandle(std::int32_t plngIndex, float psngX, float psngY);
-  /// The button was let go: raises OnResized.
+  /// The button was released: raises OnResized.
   void ReleaseHandle();
 
   /// Shows the text box over a framed label with the text that it edits: a caption; a guard without its brackets; a weight.
   void Edit();
   bool IsEditing() const { return mblnEditing; }
   const std::string& EditedText() const { return mstrText; }  ///< what the text box starts with
-  /// The text box is left: its text goes to the label's object, and the box away. An unchanged text changes nothing.
+  /// Stores the text of the text box in the label's object and closes the box. An unchanged text changes nothing.
   void EndEdit(const std::string& pstrText);
-  /// The text box goes without effect.
+  /// Closes the text box without effect.
   void CancelEdit();
-  /// From a press on a handle on, until a press elsewhere.
+  /// True from a press on a handle until a press elsewhere.
   bool HasFocus() const { return mblnFocus && Visible(); }
   /// Whether keys go to the frame rather than to the chart: while it has the focus, unless Comfort::ChosenIsSeen is on.
   bool TakesKeys() const;
@@ -79,7 +78,7 @@ class FocusFrame {
   bool Key(std::int16_t pintCode);
 
   Event<float, float> OnResized;  ///< pHeight, pWidth
-  Event<const Rect&> OnDamaged;   ///< has to be painted again
+  Event<const Rect&> OnDamaged;   ///< to be painted again
   Event<> OnEditing;              ///< the text box appeared, moved or went
 
  private:

@@ -9,10 +9,10 @@
 
 namespace vantrel {
 
-/// Answers like IsNameFree and NextName for the collection as it was, with the names taken since. Looks through it once.
+/// Answers as IsNameFree and NextName do, for the collection as it was and the names taken since. Looks through it once.
 class FreeNames {
  public:
-  /// Items for which the predicate is true do not count.
+  /// Ignores items for which the predicate is true.
   template <class T, class Skip>
   FreeNames(const Collection<T>& pcolItems, Skip&& pSkip) : mPrefix(pcolItems.KeyWord()) {
     for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) {
@@ -20,7 +20,7 @@ class FreeNames {
     }
   }
 
-  /// The name itself when it is free, else the class word with the next number. Throws Error 6 when there is none.
+  /// The name itself if it is free, else the class word with the next number. Throws Error 6 when the numbers are used up.
   std::string Take(const std::string& pstrName) {
     if (!mTaken.contains(pstrName)) return Note(pstrName);
     if (mLargest == 0x7FFFFFFF) throw Error(vntErrOverflow);

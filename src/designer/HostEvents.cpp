@@ -22,7 +22,7 @@ std::deque<Waiting>& Queue() {
   return queue;
 }
 
-// The first thing that a listener threw, or null.
+// The first exception of a listener, or null.
 std::exception_ptr TellAll() {
   std::exception_ptr first;
   while (!Queue().empty()) {
@@ -55,7 +55,7 @@ void SayLater(Vantrel& pobjControl, const char* pstrText) {
 
 HostEvents::HostEvents() : mintExceptions(std::uncaught_exceptions()) { ++gintCallsUnderWay; }
 
-// NOLINTNEXTLINE(bugprone-exception-escape): what a listener throws is for who made the call; declared so
+// NOLINTNEXTLINE(bugprone-exception-escape): the caller gets what a listener throws; declared so
 HostEvents::~HostEvents() noexcept(false) {
   if (--gintCallsUnderWay > 0) return;
   const auto thrown = TellAll();

@@ -1,4 +1,4 @@
-// The events of controls on their way to the hosts.
+// Delivers the events of controls to their hosts.
 #pragma once
 
 #include <functional>
@@ -8,11 +8,11 @@
 
 namespace vantrel {
 
-/// Tells the control's host as soon as no call of a control is under way: when the outermost one ends, after what was told before. Outside
-/// of calls that is at once. A control that has gone tells nothing more.
+/// Delivers an event to the control's host when the outermost call of a control ends, in order; outside of calls at once. A control that is
+/// gone delivers nothing.
 void TellHost(Vantrel& pobjControl, std::function<void(Vantrel&)> pTell);
 
-/// Raises an event of the control in that way. The values are kept until then.
+/// Raises an event of the control in this way. Keeps the values until then.
 template <class... Args, class... Values>
 void RaiseLater(Vantrel& pobjControl, Event<Args...> Vantrel::*pEvent, const Values&... pValues) {
   if (!(pobjControl.*pEvent).HasListeners()) return;
@@ -22,12 +22,12 @@ void RaiseLater(Vantrel& pobjControl, Event<Args...> Vantrel::*pEvent, const Val
 /// The same for an object; null stands for the control itself.
 void RaiseForObject(Vantrel& pobjControl, Event<ModelObject&> Vantrel::*pEvent, const std::shared_ptr<ModelObject>& pobjObject);
 
-/// Shows a message box in that way: nothing of the window system runs in the middle of an operation.
+/// Shows a message box in this way, so that no event loop runs in the middle of an operation.
 void SayLater(Vantrel& pobjControl, const char* pstrText);
 
-/// Counts as a call while it lives. At the end of the outermost one, tells what waits. A listener's call is an outermost one again: it
-/// tells what still waits before it returns, so nothing is late because a listener runs an event loop. What a listener throws keeps no
-/// other listener from being told; the first such thing is then thrown to who made the call, unless the call itself failed.
+/// Counts as a call while it lives. The end of the outermost one delivers the waiting events. A call by a listener is an outermost one
+/// again and delivers what still waits before it returns, so that nothing is delayed by a listener's event loop. An exception of a
+/// listener does not stop the delivery; the first one is then thrown to the caller, unless the call itself failed.
 class HostEvents {
  public:
   HostEvents();
@@ -39,8 +39,8 @@ class HostEvents {
   int mintExceptions;
 };
 
-/// Stands round a menu or dialog that an operation opens: while it runs an event loop, no call counts as being under way. Tells first what
-/// waits. The control may be gone afterwards.
+/// Used round a menu or dialog that an operation opens: no call counts as being in progress while that runs an event loop. Delivers the
+/// waiting events first. The control may be gone afterwards.
 class HostTurn {
  public:
   HostTurn();

@@ -12,7 +12,7 @@ namespace {
 constexpr std::int32_t kNoteWidth = 1200, kNoteHeight = 600;
 constexpr std::int16_t kFlat = 0, kFixedSingle = 1;
 
-// The one before the segment; behind it where the path begins.
+// The bend point before the segment; for the first segment the one after it.
 std::shared_ptr<Elbow> BendPointGoingWith(const Vector& pobjSegment) {
   for (Elbow* bendPoint : pobjSegment.Elbows()) {
     const auto& joined = pobjSegment.InVector ? bendPoint->OutVector() : bendPoint->InVector();

@@ -8,7 +8,7 @@
 
 namespace vantrel {
 
-/// All at the control's current position; Error 91 without a workflow.
+/// Inserts at the control's current position. Error 91 without a workflow.
 class Inserting {
  public:
   explicit Inserting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
@@ -16,9 +16,9 @@ class Inserting {
   std::shared_ptr<Place> InsertPlace(const std::string& pstrCaption);
   std::shared_ptr<Transition> InsertTransition(const std::string& pstrCaption);
   std::shared_ptr<Notation> AddNotation();
-  /// Splits the segment that is the current element; nothing when none is.
+  /// Splits the segment that is the current element, if one is.
   void InsertElbow();
-  /// Removes it; nothing when it is the arc's only one.
+  /// Removes that segment, unless it is the arc's only one.
   void RemoveElbow();
 
  private:

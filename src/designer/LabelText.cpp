@@ -12,7 +12,7 @@ std::string TextOf(const Vantrel& pobjControl, const Label& pobjLabel) {
 }
 
 void StoreText(Vantrel& pobjControl, const Label& pobjLabel, const std::string& pstrText) {
-  // The control may let go of it on the way. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+  // The control may release it meanwhile. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
   const auto workflow = pobjControl.Workflow();
   const auto object = ObjectOf(pobjControl, pobjLabel);
   if (!object) return;
@@ -26,7 +26,7 @@ void StoreText(Vantrel& pobjControl, const Label& pobjLabel, const std::string& 
   } else if (const auto arc = std::dynamic_pointer_cast<Arc>(object)) {
     if (arc->CaptionLabel == &pobjLabel) {
       arc->Guard(pstrText);
-      if (pstrText.empty()) pobjControl.CurrentControl(nullptr);  // its label shows no more
+      if (pstrText.empty()) pobjControl.CurrentControl(nullptr);  // its label is hidden now
     } else {
       arc->Weight(pstrText);
       arc->Dirty = true;

@@ -1,4 +1,4 @@
-// Where the parts of the control lie in it.
+// Lays out the parts of the control.
 #include <algorithm>
 
 #include "designer/ControlScope.h"

@@ -1,4 +1,4 @@
-// Where the next paste goes.
+// The position of the next paste.
 #pragma once
 
 #include <memory>
@@ -10,7 +10,7 @@ namespace vantrel {
 
 class Vantrel;
 
-/// With Comfort::PasteKeepsOriginals: beside what was copied, or pasted last, until the control's current position changes; then there.
+/// With Comfort::PasteKeepsOriginals: beside the objects copied or pasted last, until the control's current position changes; then there.
 class PastePlace {
  public:
   struct Corner {
@@ -21,7 +21,7 @@ class PastePlace {
 
   /// The top-left corner of a group.
   static Corner CornerOf(const Objects& pcolObjects);
-  /// Takes note of what was put on the clipboard.
+  /// Notes what was put on the clipboard.
   void Copied(const Vantrel& pobjControl, const Objects& pcolObjects) { Remember(pobjControl, CornerOf(pcolObjects)); }
   /// The top-left corner of the next copies.
   Corner Take(const Vantrel& pobjControl);
@@ -29,7 +29,7 @@ class PastePlace {
  private:
   void Remember(const Vantrel& pobjControl, const Corner& pobjCorner);
 
-  Corner mobjPosition{}, mobjLast{};  // the control's position then, and where the objects lie
+  Corner mobjPosition{}, mobjLast{};  // the control's position then, and the objects' corner
   bool mblnKnown = false;
 };
 

@@ -34,7 +34,7 @@ void Pasting::RequirePictures(const Objects& pcolObjects) const {
   }
 }
 
-// More than is needed when what is deleted has the largest keys.
+// More than needed if the objects to be deleted have the largest keys.
 void Pasting::RequireKeys(const Objects& pcolObjects) const {
   std::size_t segments = 0;
   for (const auto& object : pcolObjects) {
@@ -49,7 +49,7 @@ void Pasting::RequireKeys(const Objects& pcolObjects) const {
   RequireKeysFor(segments, mobjWorkflow->Elbows);
 }
 
-// The names of what will be deleted are free.
+// The names of objects to be deleted count as free.
 void Pasting::ChooseNames(const Objects& pcolObjects) {
   std::unordered_set<const ModelObject*> leaving;
   if (!mobjControl.Comfort.PasteKeepsOriginals) {
@@ -145,7 +145,7 @@ void Pasting::Paste() {
   const auto clipboard = mobjControl.Clipboard;
   if (!clipboard || clipboard->IsEmpty()) return;
   RequirePosition(mobjControl);
-  Objects objects;  // as they are now: deleting changes selection and clipboard
+  Objects objects;  // a copy, as deleting changes selection and clipboard
   for (const auto& object : *clipboard) objects.push_back(object);
   mobjWorkflow = mobjControl.Workflow() ? mobjControl.Workflow() : std::make_shared<Workflow>();
   RequirePictures(objects);

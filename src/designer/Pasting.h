@@ -10,8 +10,8 @@
 
 namespace vantrel {
 
-/// The group keeps its layout; its top-left corner comes to the control's current position. What is selected is deleted first, and the
-/// copies of places, transitions and notes become the selection. An arc is pasted only between copies of both its ends. See also
+/// Moves the group's top-left corner to the control's current position and keeps its layout. Deletes the selection first and then selects
+/// the copies of places, transitions and notes. Pastes an arc only between copies of both its ends. See also
 /// Comfort::PasteKeepsOriginals.
 /// Everything that can fail is done before anything is deleted.
 class Pasting {

@@ -6,12 +6,12 @@
 
 namespace vantrel {
 
-/// Twips on the chart: the origin of what is in view. Views show it; whoever sets Value scrolls.
+/// The origin of the part in view, twips on the chart. Views show it; setting Value scrolls.
 class ScrollBar {
  public:
   static constexpr float kThickness = 17 * kTwipsPerPixel;
 
-  /// Where Vantrel::Resize put it in the control, twips.
+  /// Its rectangle in the control, set by Vantrel::Resize, twips.
   const Rect& Area() const { return mArea; }
   void Area(const Rect& pobjArea) { mArea = pobjArea; }
 
@@ -20,7 +20,7 @@ class ScrollBar {
   float Max() const { return mMax; }
   void Max(float psngMax) { Set(mMax, psngMax, OnRange); }
   float Value() const { return mValue; }
-  /// Any value: views let the user scroll beyond the range by as much as is in view.
+  /// Any value: views let the user scroll beyond the range by the size of the view.
   void Value(float psngValue) { Set(mValue, psngValue, OnChange); }
 
   Event<> OnRange;   ///< Min or Max changed

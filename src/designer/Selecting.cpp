@@ -31,7 +31,7 @@ const BoxElement* Shape(const T& pobjObject) {
   if constexpr (std::is_same_v<Notation, T>) return pobjObject.TextControl.get();
 }
 
-// Adds what is wanted of the collections, in the order in which they are named.
+// Adds the wanted objects of the collections, in the order of the parameters.
 template <class Keep, class... T>
 void Gather(ObjectCollection& pcolResult, Keep&& pKeep, const Collection<T>&... pcolObjects) {
   const auto gather = [&](const auto& objects) {

@@ -8,15 +8,15 @@
 
 namespace vantrel {
 
-/// Keeps the marks of the objects in step with the collection. A selection that is the clipboard, too, is left alone when
-/// objects leave the selection: another collection takes its place.
+/// Keeps the marks of the objects in step with the collection. When objects leave a selection that is also the clipboard, a new collection
+/// replaces it as the selection.
 class Selecting {
  public:
   explicit Selecting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
 
-  /// Null clears every mark of the workflow. Nothing without a workflow.
+  /// Null clears every mark of the workflow. Does nothing without a workflow.
   void Set(const std::shared_ptr<ObjectCollection>& pcolObjects);
-  /// The same; with Comfort::ChosenIsSeen an element whose object is not selected then is current no more.
+  /// The same; with Comfort::ChosenIsSeen an element whose object is then not selected is no longer current.
   void Replace(const std::shared_ptr<ObjectCollection>& pcolObjects);
   void Add(const std::shared_ptr<ModelObject>& pobjObject);
   void SelectOnly(const std::shared_ptr<ModelObject>& pobjObject);
@@ -29,7 +29,7 @@ class Selecting {
   /// Both empty without a workflow, and without bend points when they are not wanted.
   static std::shared_ptr<ObjectCollection> All(const Workflow* pobjWorkflow, bool pblnBendPoints);
   static std::shared_ptr<ObjectCollection> InRectangle(const Workflow* pobjWorkflow, const Rect& pobjArea, bool pblnBendPoints);
-  /// Adds under the object's key, or under none when that is taken.
+  /// Adds under the object's key, or without a key if that is taken.
   static void AddTo(ObjectCollection& pcolObjects, const std::shared_ptr<ModelObject>& pobjObject);
 
  private:

@@ -6,7 +6,7 @@
 
 namespace vantrel {
 
-/// Twips on the chart; lies before all elements.
+/// Twips on the chart; drawn in front of all elements.
 class SelectionRectangle {
  public:
   const Rect& Area() const { return mArea; }
@@ -14,7 +14,7 @@ class SelectionRectangle {
   void Area(const Rect& pobjArea) { Change(pobjArea, mVisible); }
   void Visible(bool pblnOn) { Change(mArea, pblnOn); }
 
-  /// Raised with what has to be painted again.
+  /// Raised with the rectangle to paint again.
   Event<const Rect&> OnDamaged;
 
  private:

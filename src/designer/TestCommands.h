@@ -7,7 +7,7 @@ namespace vantrel {
 
 class Vantrel;
 
-/// The commands of the test pop-up, and the running of actions. What stands here does nothing.
+/// The commands of the test pop-up, and the running of actions. This class itself does nothing.
 class TestCommands {
  public:
   TestCommands() = default;
@@ -21,7 +21,7 @@ class TestCommands {
   virtual void AddToken(Vantrel& /*pobjControl*/) {}
   virtual void RemoveToken(Vantrel& /*pobjControl*/) {}
   virtual void RunAction(Vantrel& /*pobjControl*/, Transition& /*pobjTransition*/) {}
-  /// A test ended: its cases go.
+  /// Ends a test and removes its cases.
   virtual void ForgetCases() {}
 };
 

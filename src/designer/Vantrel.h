@@ -29,10 +29,10 @@ class PopupMenus;
 using ObjectCollection = Collection<ModelObject>;
 
 /// A control is a plain object; a view (the Qt widget, or a test) shows its parts and feeds Input. Several may live in one
-/// process: each has a state of its own, which the objects of its workflow use. For one thread.
+/// process: each has its own state, which the objects of its workflow use. For one thread.
 ///
-/// Fields may be read and written by the host without side effects. Operations throw Error as they say; what users do by mouse
-/// and keyboard never throws: its errors are shown in message boxes.
+/// Hosts may read and write fields without side effects. Operations throw Error as documented. Input by mouse and keyboard never throws:
+/// its errors are shown in message boxes.
 class Vantrel final : public ModelObject {
   std::unique_ptr<DesignerState> mobjState;  // shared with the model
 
@@ -49,18 +49,18 @@ class Vantrel final : public ModelObject {
   ScrollBar HScroll, VScroll;
   ChartInput Input;
   bool MultiSelectOn = false;               ///< a selection made with the rubber band is still current
-  float CurrentX = 200, CurrentY = 200;     ///< where the next object goes, twips
+  float CurrentX = 200, CurrentY = 200;     ///< position of the next object, twips
   bool RefreshOn = true;                    ///< false while the chart is being built
   bool mblnDirty = false;                   ///< what Dirty reads; writing it raises no event
   std::shared_ptr<vantrel::VNTRDB> VNTRDB;  ///< offered to the host; reads embedded workflows
-  bool CaseTestingEnabled = false;          ///< GetProperties offers KeepHistory and CaseTracking, too
+  bool CaseTestingEnabled = false;          ///< GetProperties also offers KeepHistory and CaseTracking
   bool EnablePopups = false, PropertyPopupEnabled = false;
   vantrel::Comfort Comfort;                             ///< all off at first
   std::shared_ptr<vantrel::Object> DragObject;          ///< what the host drags over the chart
-  std::shared_ptr<ObjectCollection> Clipboard;          ///< never null unless a host makes it so; outlives workflow changes
+  std::shared_ptr<ObjectCollection> Clipboard;          ///< null only if a host sets it to null; outlives workflow changes
   std::shared_ptr<vantrel::Dialogs> Dialogs;            ///< never null; does nothing at first
   std::shared_ptr<vantrel::TestCommands> TestCommands;  ///< never null; does nothing at first
-  /// Asked by "New" of the design menu before it replaces what is shown; false keeps it. Without one, nothing is asked.
+  /// Called by "New" of the design menu before it replaces what is shown; false keeps it. Empty: "New" always replaces.
   std::function<bool()> MayReplaceWorkflow;
 
   std::string Class() const override { return "VNTR.Vantrel.1"; }
@@ -74,9 +74,9 @@ class Vantrel final : public ModelObject {
   void UseMode(UseModeConstant pintMode);
   static std::string UseModeName(std::int32_t plngMode);
   bool Dirty() const { return mblnDirty; }
-  /// Raises OnDirtyChange, also when unchanged.
+  /// Raises OnDirtyChange, even if unchanged.
   void Dirty(bool pblnDirty);
-  /// The workflow's; false without one. Setting needs a workflow (Error 91).
+  /// The workflow's value; false without one. Setting needs a workflow (Error 91).
   bool ShowWeights() const;
   void ShowWeights(bool pblnOn);
   bool ShowGuards() const;
@@ -87,29 +87,29 @@ class Vantrel final : public ModelObject {
   void RunStyle(RunStyleConstant pStyle);
   bool LockControls() const { return mblnLockControls; }
   void LockControls(bool pblnOn);
-  /// Whether object images that are made from now on take what the host drags.
+  /// True lets object images made from now on take what the host drags.
   bool ContentsEnabled() const { return ChartArea.ctlImage.Template().AcceptsDrops(); }
   void ContentsEnabled(bool pblnOn) { ChartArea.ctlImage.Template().AcceptsDrops(pblnOn); }
   bool RestrictTesting() const { return mblnRestrictTesting; }
   void RestrictTesting(bool pblnOn) { mblnRestrictTesting = pblnOn; }
   const std::shared_ptr<vantrel::Object>& CurrentObject() const { return mobjCurrentObject; }
   void CurrentObject(const std::shared_ptr<vantrel::Object>& pobjObject) { mobjCurrentObject = pobjObject; }
-  /// The element that the user clicked last: making it current selects its object and frames it.
+  /// The element that the user clicked last. Setting it selects its object and frames it.
   const Ref<Element>& CurrentControl() const { return mobjCurrentControl; }
   void CurrentControl(const Ref<Element>& pobjElement);
   /// Never null. Setting null clears every mark.
   const std::shared_ptr<ObjectCollection>& Selection() const { return mcolSelection; }
   void Selection(const std::shared_ptr<ObjectCollection>& pcolObjects);
 
-  /// The model object that a key leads to, or null for an unknown class word. Error 5 for a key that is not there.
+  /// The model object of a key, or null for an unknown class word. Error 5 for an unknown key.
   std::shared_ptr<ModelObject> GetVNTRObject(const std::string& pstrKey) const;
   std::shared_ptr<PropertyCollection> GetProperties() override;
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
-  /// Makes and shows the default workflow: a start place, a transition behind it, an end place.
+  /// Makes and shows the default workflow: a start place, a transition after it, and an end place.
   std::shared_ptr<vantrel::Workflow> NewWorkflow();
   void Clear();
-  /// Redraws everything; nothing in run mode. Errors end it quietly.
+  /// Redraws everything, except in run mode. Errors end it silently.
   void Refresh();
   void Reset();
   /// Lets the user choose the background colour.
@@ -155,25 +155,25 @@ class Vantrel final : public ModelObject {
   void ShowTestMenu();
   /// Opens the properties dialog, when PropertyPopupEnabled.
   void ShowObjectProperties();
-  /// The control was given this size, twips: lays out chart and scroll bars.
+  /// Sets the control's size, twips, and lays out chart and scroll bars.
   void Resize(float psngWidth, float psngHeight);
   Toolkit& Tools() const { return mobjToolkit; }
 
-  // Events wait until the outermost call of a control is over, and come in the order in which they were raised: listeners find the
-  // operation done, and may do anything, closing the control included, which then tells nothing more. What the host does to the model
-  // itself is told at once. What a listener throws reaches whoever made the call, after everybody was told; users see it in a message box.
-  // While a listener runs an event loop, calls made from there tell what waits when they end.
-  // These two come in the middle of a firing, which needs their effect:
+  // Events wait until the outermost call of a control is over and are then delivered in the order in which they were raised. Listeners
+  // find the operation done and may do anything, even close the control, which then delivers no more. Events of changes that the host
+  // makes to the model itself are delivered at once. What a listener throws reaches the caller after all listeners were called; users
+  // see it in a message box. While a listener runs an event loop, calls made from there deliver the waiting events when they end.
+  // These two are delivered during a firing, which needs their effect:
   Event<const std::string&, const std::shared_ptr<Transition>&> OnRunCommand;  ///< an action for the host to run
   Event<const std::shared_ptr<Place>&, const std::shared_ptr<Token>&> OnTokenAdded;
 
   Event<const std::shared_ptr<vantrel::Object>&, std::int16_t, std::int16_t, float, float>
-      OnObjectDragDrop;                 ///< pobjDragObject, Button, Shift, X, y: let go over the background
+      OnObjectDragDrop;                 ///< pobjDragObject, Button, Shift, X, y: dropped on the background
   Event<const std::string&> OnMessage;  ///< never raised
   Event<const std::shared_ptr<Transition>&> OnTransitionDblClick;
   Event<const std::shared_ptr<vantrel::Object>&, const std::shared_ptr<vantrel::Object>&> OnObjectDropped;  ///< target, source
   Event<const std::shared_ptr<Transition>&, const std::string&> OnContentsClick;
-  /// The object selected or right-clicked; the control itself for the background. It lives as long as listeners are told of it.
+  /// The object selected or right-clicked; the control itself for the background. It lives until all listeners were called.
   Event<ModelObject&> OnSelected, OnRightClick;
   Event<const std::shared_ptr<ObjectCollection>&> OnPasted;
   Event<const std::shared_ptr<Arc>&> OnArcInserted;
@@ -193,7 +193,7 @@ class Vantrel final : public ModelObject {
 
   Toolkit& mobjToolkit;
   std::unique_ptr<ControlHost> mobjHost;  // what the model reaches as gobjVantrel
-  std::shared_ptr<PopupMenus> mobjMenus;  // shared: an entry of a menu that is open may end the control
+  std::shared_ptr<PopupMenus> mobjMenus;  // shared: an entry of an open menu may destroy the control
   std::unique_ptr<PastePlace> mobjPastePlace;
   std::shared_ptr<vantrel::Workflow> mWorkflow;
   Subscription mTokenAdded;

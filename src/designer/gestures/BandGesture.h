@@ -7,7 +7,7 @@ namespace vantrel {
 
 class Vantrel;
 
-/// From a left press on the background. Does nothing while something is selected, such as the arc that the press took.
+/// Begins with a left press on the background. Does nothing while something is selected, such as the arc that the press hit.
 class BandGesture final : public Gesture {
  public:
   BandGesture(Vantrel& pobjControl, const PointerInput& pobjPress);

@@ -1,4 +1,4 @@
-// What is chosen by hand.
+// Chooses objects by mouse.
 #pragma once
 
 #include "chart/Element.h"

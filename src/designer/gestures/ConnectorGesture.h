@@ -12,11 +12,11 @@ namespace vantrel {
 
 class Vantrel;
 
-/// The side of an image (ConnectorPosition) that a point is near enough to for a connector to be dropped there; 0 for none.
+/// The side of an image (ConnectorPosition) near enough to a point for dropping a connector there; 0 for none.
 std::int16_t SideAt(const Image& pobjImage, float psngX, float psngY);
 
-/// From a left press on a connector. The connector follows the mouse, whose pointer is a hand where it can be dropped; then it
-/// snaps to its side, the new one or the old one.
+/// Begins with a left press on a connector. The connector follows the mouse; the pointer is a hand where it can be dropped. Released, it
+/// snaps to the new side or back to the old one.
 class ConnectorGesture final : public Gesture {
  public:
   ConnectorGesture(Vantrel& pobjControl, const std::shared_ptr<Node>& pobjNode, Image& pobjConnector, const PointerInput& pobjPress);

@@ -7,8 +7,8 @@ namespace vantrel {
 
 class Vantrel;
 
-/// Tells the host of a transition, shows the tokens of a place while testing, edits a label's text while designing. False where a
-/// double-click means nothing.
+/// Raises the host's event for a transition, shows the tokens of a place while testing, edits a label's text while designing. False where a
+/// double-click does nothing.
 bool DoubleClickAt(Vantrel& pobjControl, const PointerInput& pobjInput);
 
 }  // namespace vantrel

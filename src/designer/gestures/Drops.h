@@ -1,4 +1,4 @@
-// What the host drags is let go over the chart.
+// Drops what the host drags on the chart.
 #pragma once
 
 #include "designer/PointerInput.h"
@@ -7,7 +7,7 @@ namespace vantrel {
 
 class Vantrel;
 
-/// On the background ObjectDragDrop is raised; on a transition, on an image that takes objects, ObjectDropped.
+/// Raises ObjectDragDrop for the background, and ObjectDropped for a transition whose image takes objects.
 /// False when nothing takes the control's DragObject.
 bool DropAt(Vantrel& pobjControl, const PointerInput& pobjInput);
 

@@ -11,18 +11,18 @@ namespace vantrel {
 
 class Vantrel;
 
-/// From a left press on one of the frame's handles. The label's object learns the new size when the button is let go.
+/// Begins with a left press on one of the frame's handles. The label's object gets the new size when the button is released.
 class FrameGesture final : public Gesture {
  public:
   FrameGesture(Vantrel& pobjControl, std::int32_t plngHandle, const PointerInput& pobjPress);
 
   void Move(const PointerInput& pobjInput) override;
   void Release(const PointerInput& pobjInput) override;
-  /// Back to what the label was.
+  /// Restores the label.
   void Cancel() override;
 
  private:
-  // False also when the frame has gone to another element meanwhile.
+  // Also false when the frame is round another element now.
   bool CanResize() const;
 
   Vantrel& mobjControl;

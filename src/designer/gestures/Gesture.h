@@ -5,8 +5,8 @@
 
 namespace vantrel {
 
-/// One kind of drag. Belongs to the control's input. Between two calls anything may have happened to the chart: each call looks first
-/// whether what is dragged is still there.
+/// One kind of drag. Belongs to the control's input. The chart may have changed in any way between two calls, so each call first checks
+/// that the dragged object is still there.
 class Gesture {
  public:
   Gesture() = default;
@@ -15,9 +15,9 @@ class Gesture {
   virtual ~Gesture() = default;
 
   virtual void Move(const PointerInput& pobjInput) = 0;
-  /// The button was let go: the last call.
+  /// The button was released: the last call.
   virtual void Release(const PointerInput& pobjInput) = 0;
-  /// The last call instead of Release: what objects took over stays, what only shows on the way goes.
+  /// The last call instead of Release: objects keep what they have stored, and what was only shown disappears.
   virtual void Cancel() {}
 };
 

@@ -9,7 +9,7 @@ namespace vantrel {
 
 class Vantrel;
 
-/// From a left press on the handle of an arc's bend point.
+/// Begins with a left press on the handle of an arc's bend point.
 class HandleGesture final : public Gesture {
  public:
   HandleGesture(Vantrel& pobjControl, Image& pobjHandle, const PointerInput& pobjPress);

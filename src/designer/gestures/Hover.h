@@ -1,4 +1,4 @@
-// The mouse moves over the chart and holds nothing.
+// The mouse moves over the chart without a button.
 #pragma once
 
 #include "chart/Element.h"

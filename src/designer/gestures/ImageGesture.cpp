@@ -56,7 +56,7 @@ void ImageGesture::Release(const PointerInput& pobjInput) {
   }
   if (!mblnGathered && IsShown()) ChooseClicked(pobjInput);
   mobjControl.FocusFrame.Visible(false);
-  if (mblnGathered) mobjControl.ExtendScrollRange();  // a look at every element, too dear for a click
+  if (mblnGathered) mobjControl.ExtendScrollRange();  // looks at every element, which is too slow for a click
 }
 
 }  // namespace vantrel

@@ -11,7 +11,7 @@ namespace vantrel {
 
 class Vantrel;
 
-/// From a left press on an object image. Moves the selection and the image's object; nothing outside design mode, on a locked
+/// Begins with a left press on an object image. Moves the selection and the image's object. Does nothing outside design mode, on a locked
 /// chart, or when the image is not its object's own.
 class ImageGesture final : public Gesture {
  public:

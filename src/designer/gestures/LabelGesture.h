@@ -9,14 +9,14 @@ namespace vantrel {
 
 class Vantrel;
 
-/// From a left press on a label. Its object learns the new place when the button is let go.
+/// Begins with a left press on a label. Its object gets the new position when the button is released.
 class LabelGesture final : public Gesture {
  public:
   LabelGesture(Vantrel& pobjControl, Label& pobjLabel, const PointerInput& pobjPress);
 
   void Move(const PointerInput& pobjInput) override;
   void Release(const PointerInput& pobjInput) override;
-  /// Back to where the label was.
+  /// Moves the label back.
   void Cancel() override;
 
  private:

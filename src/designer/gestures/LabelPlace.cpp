@@ -16,7 +16,7 @@ void StorePlace(Arc& pobjArc, const Label& pobjLabel) {
   const auto segments = pobjArc.Segments();
   if (segments.empty()) return;
   const Vector& first = *segments.front();
-  // Both before either is stored: a setter redraws, which moves the label.
+  // Read both before storing either: a setter redraws, which moves the label.
   const float x = pobjLabel.Left() + pobjLabel.Width() / 2 - (first.X1() + first.X2()) / 2;
   const float y = pobjLabel.Top() + pobjLabel.Height() / 2 - (first.Y1() + first.Y2()) / 2;
   if (pobjArc.CaptionLabel == &pobjLabel) {

@@ -1,4 +1,4 @@
-// Bringing home to the model where the user put a label, and how large.
+// Stores a label's position and size in its model object.
 #pragma once
 
 #include "chart/Label.h"
@@ -7,10 +7,10 @@ namespace vantrel {
 
 class Vantrel;
 
-/// Stores where the label lies in the object that it belongs to, and redraws what follows from it. Marks the workflow dirty.
+/// Stores the label's position in its object and redraws what depends on it. Marks the workflow dirty.
 void StoreLabelPlace(Vantrel& pobjControl, Label& pobjLabel);
 
-/// Stores the label's size, twips, and with it its place. Marks the workflow dirty.
+/// Stores the label's size, twips, and its position. Marks the workflow dirty.
 void StoreLabelSize(Vantrel& pobjControl, Label& pobjLabel, float psngHeight, float psngWidth);
 
 }  // namespace vantrel

@@ -10,15 +10,15 @@ namespace vantrel {
 
 class Workflow;
 
-/// Objects that are dragged together. Each is placed from where it was when it joined, so that positions in whole twips lose
-/// nothing on the way. Objects that leave the workflow meanwhile are skipped.
+/// Objects that are dragged together. Each is moved from where it was when it joined, so that rounding to whole twips does not add up.
+/// Skips objects that leave the workflow meanwhile.
 class MovingGroup {
  public:
-  /// Skips an object without a position of its own, such as an arc.
+  /// Skips an object without its own position, such as an arc.
   void Add(const std::shared_ptr<ModelObject>& pobjObject);
   /// Adds the bend points of the arcs whose two ends are in the group.
   void AddBendPoints();
-  /// Moves each object so far from where it was, twips. False when there is nothing to move.
+  /// Moves each object by so much from where it was, twips. False when there is nothing to move.
   bool MoveTo(Workflow& pobjWorkflow, float psngX, float psngY) const;
 
  private:

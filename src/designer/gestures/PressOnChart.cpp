@@ -31,7 +31,7 @@ std::shared_ptr<Gesture> LeftPress(Vantrel& pobjControl, const PointerInput& pob
 }
 
 void RightPress(Vantrel& pobjControl) {
-  const Ref<Vantrel> control(&pobjControl);  // the menu may end it
+  const Ref<Vantrel> control(&pobjControl);  // the menu may destroy it
   if (pobjControl.EnablePopups && pobjControl.UseMode() == vntDesign) {
     pobjControl.ShowDesignMenu();
   } else if (pobjControl.EnablePopups && pobjControl.UseMode() == vntTest) {

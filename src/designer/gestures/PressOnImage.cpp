@@ -38,7 +38,7 @@ std::shared_ptr<Gesture> Take(const Target& pobjTarget, const PointerInput& pobj
   return BeginDrag(pobjTarget, pobjInput);
 }
 
-// The pop-up's command may have closed the control, deleted what was clicked, or inserted what is chosen now.
+// The pop-up's command may have closed the control, deleted the clicked object, or inserted the object that is chosen now.
 void AskForMenu(const Target& pobjTarget) {
   const auto& [control, image, node] = pobjTarget;
   const Ref<Vantrel> alive(&control);
@@ -52,7 +52,7 @@ void AskForMenu(const Target& pobjTarget) {
   RaiseForObject(control, &Vantrel::OnRightClick, node);
 }
 
-// A firing may close the control, as what it runs is the host's. Nothing follows it.
+// A firing runs the host's code, which may close the control. Nothing may follow it.
 void PlayWith(const Target& pobjTarget, const PointerInput& pobjInput) {
   const auto& [control, image, node] = pobjTarget;
   control.Selection(nullptr);

@@ -13,10 +13,10 @@ bool Between(float psngValue, float psngA, float psngB) {
   return psngValue >= std::min(psngA, psngB) && psngValue <= std::max(psngA, psngB);
 }
 
-// Below 0 the two bounds change places: nothing is near a negative coordinate.
+// Below 0 the two bounds are swapped, so that nothing is near a negative coordinate.
 bool IsNear(double psngLine, double psngPress) { return kLower * psngLine <= psngPress && psngPress <= kUpper * psngLine; }
 
-// Coordinates of lines that a press at this one may be near to.
+// The coordinates of lines that a press at this coordinate may hit.
 struct Reach {
   explicit Reach(float psngPress)
       : From(psngPress > 0 ? static_cast<float>(psngPress / kUpper) - kRounding : psngPress),
