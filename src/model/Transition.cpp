@@ -22,8 +22,27 @@ Transition::Transition() : Node(kEnabledPicture, kDisabledPicture) {}
 
 Transition::Transition(vantrel::Workflow& pobjWorkflow) : Node(kEnabledPicture, kDisabledPicture, pobjWorkflow) {}
 
+namespace {
+
+// Lets go of embedded workflows one after the other: nested thousands deep, they would end inside one another.
+void LetGo(std::shared_ptr<Object> pobjEmbedded) {
+  static std::vector<std::shared_ptr<Object>>* outermost = nullptr;
+  if (outermost) return outermost->push_back(std::move(pobjEmbedded));
+  std::vector<std::shared_ptr<Object>> waiting = {std::move(pobjEmbedded)};
+  outermost = &waiting;
+  while (!waiting.empty()) {
+    const auto last = std::move(waiting.back());
+    waiting.pop_back();
+  }
+  outermost = nullptr;
+}
+
+}  // namespace
+
 Transition::~Transition() {
+  LetGo(mobjSubflow);
   Subflow(nullptr);
+  LetGo(std::move(mobjObject));
   for (auto* element : {Image.get(), InConnector.get(), OutConnector.get(), RolesImage.get()}) {
     if (element) element->Unload();
   }

@@ -134,8 +134,8 @@ class Transition final : public Node {
   Reservation* mobjReservations = nullptr;  // the newest of its firings' and runs' tokens
   std::int64_t mHeldUpAt = 0;               // rank of the input arc that failed the last question of AllInputs
   std::int64_t mlngStackRank = -1;          // where it lay on the firing stack last
-  std::int32_t mFiringsUnderWay = 0;
-  std::int32_t mOutputsUnderWay = 0;  // firings, one inside the other, that are producing output now
+  Firing* mobjUnderWay = nullptr;           // the innermost of its firings that have chosen
+  std::int32_t mFiringsUnderWay = 0;        // that have not delivered
   OutputTypes mOutputType = vntBroadcast;
   TriggerTypes mTriggerType = vntUser;
   bool mblnEnabled = false;

@@ -138,6 +138,109 @@ TEST_F(Loop, RingOfEmbeddingUserTransitionsEndsInAMessage) {
   EXPECT_GT(Host.Net->Tokens.Count(), 1000);
 }
 
+TEST_F(Loop, RingOfTenOverSubflowsOfTwoStepsEndsInAnError) {
+  const auto ring = MakeRing(*Host.Net, 10);
+  for (const auto& transition : ring.Transitions) {
+    const auto subflow = MakeSubflow(false);
+    const auto more = AddTransition(*subflow);
+    Connect(subflow->Places.Last(), more);
+    subflow->EndPlace(AddPlace(*subflow));
+    Connect(more, subflow->Places.Last());
+    more->TriggerType(vntAutomatic);
+    transition->Object(subflow);
+  }
+  EXPECT_EQ(ErrorOf(*ring.First), vntErrOutOfStack);
+  ExpectConsistent(*Host.Net);
+}
+
+TEST_F(Loop, TokensWorkedOffInsideOneAnotherAreNoLoop) {
+  const auto chain = MakeRing(*Host.Net, 2, false);
+  for (const auto& transition : chain.Transitions) {
+    transition->TriggerType(vntUser);
+    transition->Object(MakeSubflow(true));
+  }
+  for (int i = 0; i < 12'000; ++i) PutToken(*chain.First);
+
+  Host.Net->FireNext();
+
+  EXPECT_TRUE(Messages.Texts.empty());
+  EXPECT_EQ(Host.Net->Places.Last()->Tokens().Count(), 12'000);
+}
+
+TEST_F(Loop, ManyOpenRunsDeliverEachOnce) {
+  constexpr int kRuns = 4'000;
+  for (const auto selection : {vntSelectionTypeFIFO, vntSelectionTypeLIFO}) {
+    const auto chain = MakeRing(*Host.Net, 1, false);
+    const auto done = Host.Net->Places.Last();
+    const auto subflow = MakeSubflow(false);
+    const auto gate = AddPlace(*subflow);
+    Connect(gate, subflow->Transitions.First());
+    chain.Transitions[0]->Object(subflow);
+    chain.Transitions[0]->TriggerType(vntMessage);
+    chain.First->SelectionType = selection;
+    for (int i = 0; i < kRuns; ++i) PutToken(*chain.First);
+
+    for (int i = 0; i < kRuns; ++i) chain.Transitions[0]->Fire();
+    EXPECT_THROW(chain.Transitions[0]->Fire(), Error);
+    EXPECT_FALSE(chain.Transitions[0]->Enabled());
+    for (int i = 0; i < kRuns; ++i) PutToken(*gate);
+
+    EXPECT_EQ(done->Tokens().Count(), kRuns);
+    EXPECT_TRUE(chain.First->Tokens().IsEmpty());
+  }
+}
+
+/// Its actions put a token into the place that they are to feed.
+class ActingHost final : public TestHost {
+ public:
+  void RunAction(Transition& pobjTransition) override {
+    const auto place = Net->Places.Item(std::stoi(pobjTransition.Action));
+    place->AddToken(Net->CreateToken(place));
+  }
+};
+
+std::string MessageOf(Place& pobjPlace) {
+  try {
+    PutToken(pobjPlace);
+  } catch (const Error& error) {
+    return error.Description;
+  }
+  return {};
+}
+
+TEST(LoopOfActions, NamesItsTransitionAndALongChainIsNone) {
+  ActingHost host;
+  constexpr int kLength = 700;
+  for (int i = 0; i <= kLength; ++i) AddPlace(*host.Net);
+  for (int i = 1; i <= kLength; ++i) {
+    const auto transition = AddTransition(*host.Net, "T" + std::to_string(i));
+    transition->OutputType(vntProgrammed);
+    transition->TriggerType(vntAutomatic);
+    transition->Action = std::to_string(i + 1);
+    Connect(host.Net->Places.Item(i), transition);
+  }
+  EXPECT_EQ(MessageOf(*host.Net->Places.First()), "");
+  EXPECT_EQ(host.Net->Places.Last()->Tokens().Count(), 1);
+
+  host.Net->Transitions.Last()->Action = "699";
+  EXPECT_THAT(MessageOf(*host.Net->Places.Item(699)), testing::StartsWith("Transition \"T"));
+}
+
+TEST(DeepNesting, IsReleasedWithoutDepth) {
+  auto innermost = std::make_shared<Workflow>();
+  const Ref<Workflow> dead = innermost;
+  auto outer = std::move(innermost);
+  for (int depth = 0; depth < 30'000; ++depth) {
+    auto around = std::make_shared<Workflow>();
+    auto transition = std::make_shared<Transition>();
+    transition->Object(std::exchange(outer, nullptr));
+    around->Transitions.Add(transition);
+    outer = std::move(around);
+  }
+  outer.reset();
+  EXPECT_FALSE(dead);
+}
+
 TEST_F(Loop, FireNextIntoALoopShowsOneMessageAndKeepsWhatWasMade) {
   const auto ring = MakeRing(*Host.Net, 2);
   const auto gate = AddPlace(*Host.Net);

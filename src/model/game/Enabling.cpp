@@ -43,16 +43,19 @@ bool Enabling::Arrived(Transition& pobjTransition, const std::shared_ptr<WorkCas
 }
 
 bool Enabling::Left(Transition& pobjTransition, bool pblnTracking) {
-  if (pblnTracking) {
-    for (Collection<Arc>::Cursor inputs(pobjTransition.InArcs); const Arc* arc = inputs.Next();) {
-      Place& place = *arc->Place;
-      const bool holds = TokenRules::HoldsMarked(place);
-      if (place.Image || place.CaseEnabled() != holds) place.CaseEnabled(holds);
-    }
-  }
-  return Ask(pobjTransition, {nullptr, true}, [&](const Place& pobjPlace, TokenRules::Which pWhich) {
+  const auto passes = [&](const Place& pobjPlace, TokenRules::Which pWhich) {
     return pblnTracking ? TokenRules::HoldsMarked(pobjPlace, pWhich) : TokenRules::Holds(pobjPlace, pWhich);
-  });
+  };
+  if (!pblnTracking) return Ask(pobjTransition, {nullptr, true}, passes);
+  bool all = true, settled = HeldUp(pobjTransition).empty();
+  for (Collection<Arc>::Cursor inputs(pobjTransition.InArcs); const Arc* arc = inputs.Next();) {
+    Place& place = *arc->Place;
+    const bool holds = TokenRules::HoldsMarked(place);
+    all = all && holds;
+    settled = settled && (holds || !TokenRules::HasTaken(place)) && !place.Image;
+    if (place.Image || place.CaseEnabled() != holds) place.CaseEnabled(holds);
+  }
+  return settled ? all : Ask(pobjTransition, {nullptr, true}, passes);
 }
 
 bool Enabling::AskAgain(Transition& pobjTransition, const Question& pQuestion, bool pblnTracking) {

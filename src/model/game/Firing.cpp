@@ -1,5 +1,6 @@
 #include "model/game/Firing.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "model/DesignerState.h"
@@ -26,12 +27,13 @@ Firing::Firing(std::shared_ptr<Transition> pobjTransition, std::shared_ptr<WorkC
       mobjCase(std::move(pobjCase)),
       mChosen(*mobjTransition),
       mOutputs(mobjTransition->OutArcs),
+      mobjEarlier(mobjTransition->mobjUnderWay),
       mblnTracking(TokenRules::CaseTracking(*mobjTransition)) {
   ++mobjTransition->mFiringsUnderWay;
 }
 
 Firing::~Firing() {
-  EndOutput();
+  if (mobjTransition->mobjUnderWay == this) mobjTransition->mobjUnderWay = mobjEarlier;
   Delivered();
   if (const auto run = mobjRun.lock()) run->Starter(nullptr);
 }
@@ -40,15 +42,21 @@ void Firing::Delivered() {
   if (!std::exchange(mblnDelivered, true)) --mobjTransition->mFiringsUnderWay;
 }
 
-void Firing::EndOutput() {
-  if (!mobjGame) return;
-  mobjGame->LeaveOutput(*mobjTransition);
-  mobjGame = nullptr;
+// A loop of transitions lets the tokens of a firing descend from an earlier firing of the same transition. Tokens that merely
+// wait side by side, however many are worked off inside one another, do not.
+void Firing::FollowTokens() {
+  for (const auto& token : mChosen.Tokens()) {
+    const auto* maker = token->CreateTransition.get();
+    const auto* made = maker ? maker->mobjUnderWay : nullptr;
+    if (made) mlngDepth = std::max(mlngDepth, made->mlngDepth + 1);
+  }
+  if (mobjEarlier) mlngRounds = mobjEarlier->mlngRounds + (mlngDepth > mobjEarlier->mlngDepth);
+  mobjTransition->mobjUnderWay = this;
+  if (mlngRounds > 0) TokenGame::CheckRounds(*mobjTransition, mlngRounds, mlngDepth);
 }
 
 bool Firing::Absorb(const Error& pobjError) {
   if (mblnIgnoreErrors && pobjError.Number != vntErrOutOfStack) return true;
-  EndOutput();
   mChosen.GiveBack();
   Enabling::Settle(*mobjTransition);
   for (const auto& token : mChosen.Tokens()) {
@@ -86,7 +94,7 @@ void Firing::DoStage(TokenGame& pobjGame) {
       break;
     case kPrepareOutput:
       mStage = kGiveBack;
-      mStage = PrepareOutput(pobjGame);
+      mStage = PrepareOutput();
       break;
     case kProduce:
       mStage = Produce(pobjGame);
@@ -113,6 +121,7 @@ Firing::Stage Firing::Choose() {
   } else {
     TakeWithoutCases();
   }
+  FollowTokens();
   if (const auto* workflow = mobjTransition->Workflow.get()) workflow->OnFiring.Raise(mobjTransition);
   const auto& object = mobjTransition->Object();
   const bool isWorkflow = object && StripQualifier(object->Class()) == "Workflow";
@@ -230,7 +239,7 @@ bool Firing::ChooseOutputs() {
   return true;
 }
 
-Firing::Stage Firing::PrepareOutput(TokenGame& pobjGame) {
+Firing::Stage Firing::PrepareOutput() {
   switch (mobjTransition->OutputType()) {
     case vntSelect:
       if (!ChooseOutputs()) return kGiveBack;
@@ -252,8 +261,6 @@ Firing::Stage Firing::PrepareOutput(TokenGame& pobjGame) {
       break;
   }
   mobjOuter = RunOf(mChosen.Tokens());
-  pobjGame.EnterOutput(*mobjTransition);
-  mobjGame = &pobjGame;
   return kProduce;
 }
 
@@ -272,7 +279,6 @@ Firing::Stage Firing::Produce(TokenGame& pobjGame) {
     pobjGame.Call<Arrival>(std::move(place), std::move(token));
     return kProduce;
   }
-  EndOutput();
   return mblnOutputDone ? kWithdraw : kGiveBack;
 }
 

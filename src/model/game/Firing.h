@@ -21,6 +21,7 @@ class Firing final : public GameStep {
   /// With case tracking on, ignores errors after the choice of the case, except that of a loop.
   bool Absorb(const Error& pobjError) override;
 
+  const Transition* Refired() const override { return mobjEarlier ? mobjTransition.get() : nullptr; }
   /// The subflow that this firing started has delivered: the transition may fire again while the rest of this firing waits.
   void Delivered();
 
@@ -44,7 +45,7 @@ class Firing final : public GameStep {
   Stage StartSubflow(TokenGame& pobjGame);
   Stage FireSubflow(TokenGame& pobjGame);
   Stage Reevaluate(TokenGame& pobjGame);
-  Stage PrepareOutput(TokenGame& pobjGame);
+  Stage PrepareOutput();
   Stage Produce(TokenGame& pobjGame);
   Stage Withdraw(TokenGame& pobjGame);
   Stage GiveBack(TokenGame& pobjGame);
@@ -55,7 +56,7 @@ class Firing final : public GameStep {
   void TakeOfCase();
   bool ChooseOutputs();
   bool Accepts(const Arc& pobjArc) const;
-  void EndOutput();
+  void FollowTokens();
 
   std::shared_ptr<Transition> mobjTransition;
   std::shared_ptr<WorkCase> mobjCase;
@@ -65,7 +66,9 @@ class Firing final : public GameStep {
   Ref<SubflowRun> mobjOuter;  // the run that the chosen tokens take part in
   Collection<Arc>::Cursor mOutputs;
   std::unique_ptr<std::string> mstrGuard;  // chosen by the user; null when every output gets a token
-  TokenGame* mobjGame = nullptr;           // while output is under way
+  Firing* mobjEarlier;                     // the transition's firing before this one, still under way
+  std::int32_t mlngDepth = 0;              // firings under way from which the chosen tokens descend, one after the other
+  std::int32_t mlngRounds = 0;             // how often the transition itself was one of them
   std::uint32_t mlngNext = 0;              // of the chosen tokens
   Stage mStage = kChoose;
   bool mblnTracking;

@@ -8,6 +8,7 @@
 namespace vantrel {
 
 class TokenGame;
+class Transition;
 
 /// Adding a token may fire a transition, which adds tokens, and so on: instead of calling one another, the operations are
 /// steps on TokenGame's own stack. A step that needs another operation calls it through TokenGame::Call, returns, and is
@@ -25,6 +26,9 @@ class GameStep {
   /// Gets an Error of the step itself or of an operation that it called. True when the step handles it and goes on (it is then advanced
   /// again); false to pass it to the step below.
   virtual bool Absorb(const Error& /*pobjError*/) { return false; }
+
+  /// The transition that fires here and in a firing further down, or null.
+  virtual const Transition* Refired() const { return nullptr; }
 
  protected:
   GameStep() = default;

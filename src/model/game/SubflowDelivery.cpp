@@ -18,8 +18,6 @@ SubflowDelivery::SubflowDelivery(std::shared_ptr<Transition> pobjTransition, std
 bool SubflowDelivery::Advance(TokenGame& pobjGame) {
   if (mStage == kStart) {
     EndRun();
-    pobjGame.EnterOutput(*mobjTransition);
-    mobjGame = &pobjGame;
     if (mManner == kAllAtOnce) MakeAll();
     mStage = mManner == kAllAtOnce ? kAdd : kProduce;
   }
@@ -48,8 +46,6 @@ bool SubflowDelivery::Advance(TokenGame& pobjGame) {
   return true;
 }
 
-SubflowDelivery::~SubflowDelivery() { EndOutput(); }
-
 // The run is over: others may use the tokens that stay.
 bool SubflowDelivery::Absorb(const Error& /*pobjError*/) {
   if (!mChosen) return false;
@@ -59,12 +55,6 @@ bool SubflowDelivery::Absorb(const Error& /*pobjError*/) {
     if (token) Enabling::SettleAround(*token);
   }
   return false;
-}
-
-void SubflowDelivery::EndOutput() {
-  if (!mobjGame) return;
-  mobjGame->LeaveOutput(*mobjTransition);
-  mobjGame = nullptr;
 }
 
 // From here on this run delivers nothing more.
@@ -93,7 +83,6 @@ void SubflowDelivery::MakeAll() {
 SubflowDelivery::Stage SubflowDelivery::Produce(TokenGame& pobjGame) {
   const Arc* arc = mOutputs.Next();
   if (!arc) {
-    EndOutput();
     return kWithdraw;
   }
   const auto token = MakeToken(*arc, *mobjTransition->Workflow);
@@ -104,7 +93,6 @@ SubflowDelivery::Stage SubflowDelivery::Produce(TokenGame& pobjGame) {
 SubflowDelivery::Stage SubflowDelivery::Add(TokenGame& pobjGame) {
   if (mlngNext >= mcolMade.size()) {
     mlngNext = 0;
-    EndOutput();
     return kWithdraw;
   }
   const auto& token = mcolMade[mlngNext++];

@@ -20,14 +20,12 @@ class SubflowDelivery final : public GameStep {
     kAllAtOnce  ///< the subflow was told whom it runs for: all outputs are made, by the shown workflow, before the first is added
   };
   SubflowDelivery(std::shared_ptr<Transition> pobjTransition, std::shared_ptr<Token> pobjFinished, Manner pManner);
-  ~SubflowDelivery() override;
   bool Advance(TokenGame& pobjGame) override;
   bool Absorb(const Error& pobjError) override;
 
  private:
   enum Stage : std::uint8_t { kStart, kProduce, kAdd, kWithdraw, kDated, kGoOn, kEnd };
   void EndRun();
-  void EndOutput();
   std::shared_ptr<Token> MakeToken(const Arc& pobjArc, Workflow& pobjWorkflow) const;
   void MakeAll();
   Stage Produce(TokenGame& pobjGame);
@@ -41,7 +39,6 @@ class SubflowDelivery final : public GameStep {
   Firing* mobjStarter = nullptr;       // the firing that started the subflow, while it is under way
   std::vector<std::shared_ptr<Token>> mcolMade;
   Collection<Arc>::Cursor mOutputs;
-  TokenGame* mobjGame = nullptr;  // while output is under way
   std::uint32_t mlngNext = 0;
   Manner mManner;
   Stage mStage = kStart;

@@ -1,16 +1,36 @@
 #include "model/game/TokenGame.h"
 
+#include <algorithm>
+
 #include "model/Transition.h"
 
 namespace vantrel {
 
 constinit TokenGame TokenGame::sGame;
 
-TokenGame::Nesting::Nesting(TokenGame& pobjGame) : mGame(pobjGame) {
-  if (mGame.mNestedRuns >= kDeepestNesting) {
-    throw Error(vntErrOutOfStack, "Listeners of token events move tokens inside one another without end.");
+namespace {
+
+[[noreturn]] void ThrowEndless(const Transition& pobjTransition) {
+  const std::string key = pobjTransition.Key == pobjTransition.Name() ? "" : " (" + pobjTransition.Key + ")";
+  throw Error(vntErrOutOfStack, "Transition \"" + pobjTransition.Name() + "\"" + key + " fires without end.");
+}
+
+}  // namespace
+
+TokenGame::Nesting::Nesting(TokenGame& pobjGame) : mGame(pobjGame), mBefore(pobjGame.mOutermost) {
+  const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+  if (mBefore == 0) {
+    mGame.mOutermost = here;
+  } else if (std::max(here, mBefore) - std::min(here, mBefore) > kMostThreadStack) {
+    mGame.ThrowTooDeep();
   }
-  ++mGame.mNestedRuns;
+}
+
+void TokenGame::ThrowTooDeep() const {
+  for (const GameStep* step = mTop; step; step = step->mBelow) {
+    if (const auto* transition = step->Refired()) ThrowEndless(*transition);
+  }
+  throw Error(vntErrOutOfStack, "Listeners of token events move tokens inside one another without end.");
 }
 
 void TokenGame::NextChunk() {
@@ -78,26 +98,14 @@ void TokenGame::GiveBackList(std::vector<std::shared_ptr<Token>>&& pcolTokens) {
   if (mSpareLists.size() < kMostSpare) mSpareLists.push_back(std::move(pcolTokens));
 }
 
-namespace {
-
-[[noreturn]] void ThrowEndless(const Transition& pobjTransition) {
-  const std::string key = pobjTransition.Key == pobjTransition.Name() ? "" : " (" + pobjTransition.Key + ")";
-  throw Error(vntErrOutOfStack, "Transition \"" + pobjTransition.Name() + "\"" + key + " fires without end.");
-}
-
-}  // namespace
-
 void TokenGame::CheckDepth(const Transition& pobjTransition) const {
   if (mChunk >= kMostChunks) ThrowEndless(pobjTransition);
 }
 
-void TokenGame::EnterOutput(Transition& pobjTransition) {
-  const std::int64_t rounds = pobjTransition.mOutputsUnderWay;
-  const std::int64_t tokens = rounds * pobjTransition.OutArcs.Count();
-  if (rounds >= kMostRounds || tokens > kMostLoopTokens) ThrowEndless(pobjTransition);
-  ++pobjTransition.mOutputsUnderWay;
+void TokenGame::CheckRounds(const Transition& pobjTransition, std::int64_t plngRounds, std::int64_t plngDepth) {
+  const bool manyTokens = plngRounds * pobjTransition.OutArcs.Count() > kMostLoopTokens;
+  const bool longLoop = plngRounds >= kMostRounds / 10 && plngDepth >= kMostLoopFirings;
+  if (plngRounds >= kMostRounds || manyTokens || longLoop) ThrowEndless(pobjTransition);
 }
-
-void TokenGame::LeaveOutput(Transition& pobjTransition) { --pobjTransition.mOutputsUnderWay; }
 
 }  // namespace vantrel

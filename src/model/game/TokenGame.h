@@ -16,8 +16,8 @@ namespace vantrel {
 /// Runs operations (GameStep) depth first, in the order in which plain calls would run, without the depth of plain calls.
 /// One per process, for the one thread that the model lives in.
 ///
-/// Automatic transitions that feed themselves would run for ever. Two bounds stop them with Error 28, which names the
-/// transition; what was produced until then stays, and no token is half moved.
+/// Transitions that feed themselves would run for ever. Three bounds stop them with Error 28, which names the transition:
+/// rounds, memory, and the thread's stack. What was produced until then stays, and no token is half moved.
 class TokenGame {
  public:
   /// Runs an operation with all that it calls. May be called while one is running, from a listener of an event.
@@ -64,22 +64,22 @@ class TokenGame {
   std::vector<std::shared_ptr<Token>> BorrowList();
   void GiveBackList(std::vector<std::shared_ptr<Token>>&& pcolTokens);
 
-  /// A transition starts to produce output, or has ended it. Throws Error 28 instead when this can only be a loop.
-  void EnterOutput(Transition& pobjTransition);
-  void LeaveOutput(Transition& pobjTransition);
+  /// Throws Error 28 for a firing whose tokens descend from so many earlier firings of its transition that only a loop can
+  /// be the reason. `plngDepth` counts the firings of other transitions, too.
+  static void CheckRounds(const Transition& pobjTransition, std::int64_t plngRounds, std::int64_t plngDepth);
 
  private:
   static constexpr std::size_t kChunkSize = 64 * 1024;
   // Room for the steps of a chain of a million automatic transitions, or of a place from which an automatic transition takes a million
   // tokens, each inside the removal of the one before. With the tokens it stays under a gigabyte.
   static constexpr std::size_t kMostChunks = 256 * 1024 * 1024 / kChunkSize;
-  // Only a loop lets a transition produce while an output of its own is under way. Users may leave a loop by a choice, but
-  // not after so many rounds.
-  static constexpr std::int32_t kMostRounds = 10'000;
+  // Users may leave a loop by a choice, but not after so many rounds; nor after a tenth of them when they are long.
+  static constexpr std::int64_t kMostRounds = 10'000;
+  static constexpr std::int64_t kMostLoopFirings = 50'000;
   // Each round leaves a token in every output place, so with many outputs fewer rounds fill the memory.
   static constexpr std::int64_t kMostLoopTokens = 1'000'000;
-  // Listeners that move tokens use the thread's stack.
-  static constexpr std::int32_t kDeepestNesting = 500;
+  // Listeners and actions that move tokens use the thread's stack, which usually has eight megabytes.
+  static constexpr std::size_t kMostThreadStack = 3 * 1024 * 1024;
 
   struct Room {
     void* At;
@@ -88,14 +88,16 @@ class TokenGame {
   class Nesting {
    public:
     explicit Nesting(TokenGame& pobjGame);
-    ~Nesting() { --mGame.mNestedRuns; }
+    ~Nesting() { mGame.mOutermost = mBefore; }
     Nesting(const Nesting&) = delete;
     Nesting& operator=(const Nesting&) = delete;
 
    private:
     TokenGame& mGame;
+    std::uintptr_t mBefore;
   };
 
+  [[noreturn]] void ThrowTooDeep() const;
   void RunDownTo(GameStep* pobjBelow);
   void Pop();
   void Abandon(const GameStep* pobjBelow);
@@ -122,7 +124,7 @@ class TokenGame {
   std::vector<std::unique_ptr<std::byte[]>> mChunks;
   std::uint32_t mChunk = 0, mOffset = 0;
   std::vector<std::vector<std::shared_ptr<Token>>> mSpareLists;
-  std::int32_t mNestedRuns = 0;
+  std::uintptr_t mOutermost = 0;  // where the outermost Run stands on the thread's stack; 0 while none runs
 };
 
 }  // namespace vantrel
