@@ -24,8 +24,8 @@ struct KeyWordOf {
 };
 
 /// Holds shared items in order of insertion; positions count from 1; keys are optional, case-sensitive and unique. The key
-/// is the one that the item was added under: whoever changes an item's own `Key` field takes the item out before and adds
-/// it again after.
+/// is the one that the item was added under: to change an item's own `Key` field, take the item out first and add it again
+/// afterwards.
 ///
 /// Adding, finding and removing by key, the first and the last item cost the same whatever the size; a position among
 /// others costs its logarithm.
@@ -52,7 +52,7 @@ class Collection {
 
   std::int32_t Count() const { return static_cast<std::int32_t>(mOrder.Count()); }
   bool IsEmpty() const { return mOrder.Count() == 0; }
-  /// Additions and removals so far: tells whether what somebody learnt of the collection still holds.
+  /// The number of additions and removals so far, which tells whether facts about the collection still hold.
   std::uint64_t Changes() const { return mOrder.Changes(); }
 
   /// Adds at the end. Throws Error 457 when the key is taken, Error 5 for a null item.
@@ -88,8 +88,8 @@ class Collection {
     return At(mOrder.Last());
   }
 
-  /// True when `pPasses(item)` does for all items. Asks in order until one fails. Faster than a walk, but nobody may change
-  /// the collection meanwhile.
+  /// True when `pPasses(item)` is true for all items. Asks in order until one fails. Faster than a walk, but the collection must not
+  /// change meanwhile.
   template <class Passes>
   bool All(Passes&& pPasses) const {
     return FirstThatFails(std::forward<Passes>(pPasses)) < 0;
@@ -117,8 +117,8 @@ class Collection {
   }
   /// The key of the item at a position; empty when it has none.
   std::string KeyOf(std::int32_t plngIndex) const { return mOrder.KeyAt(OrdinalOf(plngIndex)).ToText(kWord); }
-  /// A number that grows with each item's position; -1 when the key leads to another item or to none. Holds until the
-  /// collection is changed.
+  /// A number that grows with each item's position; -1 when the key leads to another item or to none. Valid until the collection
+  /// changes.
   template <class Key>
   std::int64_t RankOf(const Key& pstrKey, const T* pobjItem) const {
     const auto ordinal = OrdinalUnder(pstrKey);
@@ -143,7 +143,7 @@ class Collection {
     if (IsEmpty()) return;
     if (const auto ordinal = OrdinalUnder(pstrKey)) RemoveAt(*ordinal);
   }
-  /// Removes an item and hands it out. Throws Error 5 when there is none under the key.
+  /// Removes an item and returns it. Throws Error 5 for an unknown key.
   template <class Key>
   Pointer Take(const Key& pstrKey) {
     return TakeAt(Require(pstrKey));

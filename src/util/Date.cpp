@@ -16,7 +16,7 @@ constexpr std::int64_t kDaysToUnixEpoch = 25'569;  // from 1899-12-30 to 1970-01
 
 std::int64_t UnixMilliseconds() {
 #ifdef CLOCK_REALTIME_COARSE
-  // A third of the price of the exact clock. A firing dates every token that it makes and takes.
+  // Takes a third of the exact clock's time. A firing dates every token that it makes and consumes.
   std::timespec time{};
   if (clock_gettime(CLOCK_REALTIME_COARSE, &time) == 0) {
     return std::int64_t{time.tv_sec} * 1000 + time.tv_nsec / 1'000'000;

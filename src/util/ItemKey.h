@@ -51,7 +51,7 @@ class ItemKey {
 
   std::int32_t Number() const { return static_cast<std::int32_t>(mBits >> 2); }
   const std::string& TextRef() const { return *Text(); }
-  /// The key as its user knows it; empty for an item without key.
+  /// The key as text; empty for an item without key.
   std::string ToText(std::string_view pstrWord) const;
 
   friend bool operator==(const ItemKey& a, const ItemKey& b) {
@@ -64,7 +64,7 @@ class ItemKey {
   static constexpr std::uintptr_t kUnkeyed = 2;
 
   static_assert(sizeof(std::uintptr_t) == 8, "a 31-bit number and its tag share one word");
-  // The largest number that goes without text: any number of so many digits fits 31 bits.
+  // The largest number kept without text: every number of so many digits fits 31 bits.
   static constexpr std::size_t kMostDigits = 9;
   static constexpr std::int32_t kLargestShort = 999'999'999;
 
@@ -88,7 +88,7 @@ class ItemKey {
     return number;
   }
 
-  void DeleteText();  // rare, and too much to be inlined wherever keys move
+  void DeleteText();  // rare, and too long to be inlined wherever keys move
   explicit ItemKey(std::uintptr_t pBits) : mBits(pBits) {}
   std::string* Text() const { return reinterpret_cast<std::string*>(mBits); }
 

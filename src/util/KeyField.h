@@ -1,4 +1,4 @@
-// Keys and names of objects that come in millions, in the space of one pointer.
+// Keys and names, in one pointer, of objects of which there are millions.
 #pragma once
 
 #include <ostream>

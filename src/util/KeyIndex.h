@@ -12,8 +12,8 @@
 
 namespace vantrel {
 
-/// Finds the ordinal of a key: one hash table for numbers (open addressing, eight bytes an entry), one for texts. Also tells
-/// the largest number after the class word when keys have been removed.
+/// Finds the ordinal of a key: one hash table for numbers (open addressing, eight bytes an entry), one for texts. Also knows the largest
+/// number after the class word when keys have been removed.
 class KeyIndex {
  public:
   using Ordinal = std::uint64_t;

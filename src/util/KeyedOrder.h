@@ -13,10 +13,10 @@ namespace vantrel {
 class KeyIndex;
 class RankIndex;
 
-/// Numbers the items in the order of their addition. An item keeps its ordinal until the ring of keys is rebuilt without
-/// holes, which happens only when the ring is full and nobody walks. The ring's size is a power of two, so a queue of any
-/// age takes the room of what it holds. Finding a key costs the same whatever the size. An index of the keys is made only
-/// when a key is asked for that neither counting nor a short scan finds. For one thread.
+/// Numbers the items in the order of their addition. An item keeps its ordinal until the ring of keys is rebuilt without holes, which
+/// happens only when the ring is full and there is no walk. The ring's size is a power of two, so a long-lived queue takes only the
+/// memory of its items. Finding a key takes the same time at every size. An index of the keys is made only for a key that neither
+/// counting nor a short scan finds. For one thread.
 class KeyedOrder {
  public:
   using Ordinal = std::uint64_t;
@@ -41,7 +41,7 @@ class KeyedOrder {
   /// The last item's ordinal; there must be one.
   Ordinal Last() const {
     Ordinal ordinal = mTail - 1;
-    while (KeyAt(ordinal).IsHole()) --ordinal;  // holes at the end stay only while somebody walks
+    while (KeyAt(ordinal).IsHole()) --ordinal;  // holes at the end stay only during a walk
     return ordinal;
   }
   /// The ordinal of the item at a position from 1 to Count.
@@ -54,7 +54,7 @@ class KeyedOrder {
   /// The largest number after the class word; 0 for none.
   std::int32_t LargestNumber() const { return mCount == 0 ? 0 : mAscending ? KeyAt(Last()).Number() : LargestOfIndex(); }
 
-  /// Takes a key at the end. Needs room and a key that is not taken.
+  /// Adds a key at the end. Needs room and a key that is not taken.
   Ordinal Append(ItemKey&& pKey) {
     if (mCount == 0) {
       Restart(pKey);
@@ -83,13 +83,13 @@ class KeyedOrder {
   void EndWalk() const { --mWalkers; }
   bool IsWalked() const { return mWalkers != 0; }
 
-  /// Moves all keys into a ring of another size and, unless somebody walks, closes the holes. Calls `pMoved(from, to)` with
-  /// the old and the new ordinal of each item, in order; Slot still counts in the old ring then.
+  /// Moves all keys into a ring of another size and, unless there is a walk, closes the holes. Calls `pMoved(from, to)` with the old and
+  /// the new ordinal of each item, in order; Slot still refers to the old ring then.
   template <class Moved>
   void Rebuild(std::uint32_t plngCapacity, Moved&& pMoved);
 
  private:
-  // Where a key lies if it lies anywhere; beyond the tail for a text. Unsigned arithmetic wraps round as intended.
+  // Where a key is if it is there; beyond the tail for a text. Unsigned arithmetic wraps round as intended.
   Ordinal OrdinalIfDense(const ItemKey& pKey) const {
     return pKey.IsNumber() ? mDenseOffset + static_cast<Ordinal>(pKey.Number()) : ~Ordinal{0};
   }

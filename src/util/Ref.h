@@ -1,4 +1,4 @@
-// References that point back or across and never own: they know whether what they point to still lives.
+// References back or across. They own nothing and know whether their object still exists.
 #pragma once
 
 #include <cstdint>
@@ -8,12 +8,12 @@
 
 namespace vantrel {
 
-/// What a Ref can point to. It carries one counted mark, made when the first Ref asks for it, that outlives the object
-/// as long as a Ref looks at it. For one thread only: nothing here is atomic.
+/// What a Ref can point to. Has one counted mark, made for the first Ref, which outlives the object as long as a Ref uses it. For one
+/// thread only: nothing here is atomic.
 class Referable {
  public:
   Referable() = default;
-  Referable(const Referable&) {}  // a copy is another object: it has no references yet
+  Referable(const Referable&) {}  // a copy is a new object without references
   // It copies nothing. NOLINTNEXTLINE(bugprone-unhandled-self-assignment)
   Referable& operator=(const Referable&) { return *this; }
 
@@ -86,7 +86,7 @@ class Ref {
   T* operator->() const { return &Follow(); }
   T& operator*() const { return Follow(); }
 
-  /// A share in the object, or null when there is none. Needs a T that is held by shared_ptr.
+  /// A shared_ptr to the object, or null. Needs a T that is held by shared_ptr.
   std::shared_ptr<T> Lock() const {
     T* const target = get();
     return target ? std::static_pointer_cast<T>(target->weak_from_this().lock()) : nullptr;
