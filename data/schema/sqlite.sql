@@ -1,4 +1,4 @@
--- The tables of Vantrel for SQLite. postgres.sql says the same for PostgreSQL.
+-- The tables of Vantrel for SQLite. postgres.sql has the same ones for PostgreSQL.
 --
 -- The kinds of columns are read from these words: SMALLINT a 16-bit and INTEGER a 32-bit integer, REAL a single, DOUBLE a double,
 -- BOOLEAN 0 or 1, DATETIME universal time as text 'YYYY-MM-DD HH:MM:SS', TEXT text in UTF-8.
@@ -6,7 +6,7 @@
 -- AUTOINCREMENT where the database gives the ids: an id must never come again, because rows of TokenProperty, Token and
 -- PropertyValue outlive what they belong to. Workflow, Workcase and Token get their ids from the program, the largest plus one.
 --
--- NOT NULL stands only where a row without the value could not be read. Foreign keys are checked when the transaction ends: a save
+-- NOT NULL is given only where a row without the value could not be read. Foreign keys are checked when the transaction ends: a save
 -- deletes places and transitions before it rewrites the arcs that lead to them. Definitions, cases and tokens stay when their chart
 -- is deleted, so no key leads from them to it.
 --
@@ -36,7 +36,7 @@ CREATE TRIGGER WorkflowDeleted AFTER DELETE ON Workflow BEGIN
   UPDATE Transition SET SubflowId = 0 WHERE SubflowId = OLD.Id;
 END;
 
--- What the program keeps of a workflow beside the tables that hosts know.
+-- Values of a workflow that only this program uses; hosts need not have the table.
 CREATE TABLE vantrel_workflow (
   WorkflowId INTEGER PRIMARY KEY REFERENCES Workflow (Id) ON DELETE CASCADE DEFERRABLE INITIALLY DEFERRED,
   BackColor  INTEGER NOT NULL  -- of the chart, BGR
@@ -90,7 +90,7 @@ CREATE TABLE Transition (
 CREATE INDEX TransitionOfWorkflow ON Transition (WorkflowId);
 CREATE INDEX TransitionOfSubflow ON Transition (SubflowId);
 
--- What an arc lacks is passed over when it is read.
+-- Reading an arc skips what it lacks.
 CREATE TABLE Arc (
   Id             INTEGER PRIMARY KEY AUTOINCREMENT,
   WorkflowId     INTEGER REFERENCES Workflow (Id) DEFERRABLE INITIALLY DEFERRED,
@@ -160,7 +160,7 @@ CREATE TABLE Notation (
 );
 CREATE INDEX NotationOfWorkflow ON Notation (WorkflowId);
 
--- What a token in a place carries.
+-- The properties of the tokens in a place.
 CREATE TABLE TokenProperty (
   Id          INTEGER PRIMARY KEY AUTOINCREMENT,
   PlaceId     INTEGER NOT NULL,
@@ -210,7 +210,7 @@ CREATE TABLE Token (
 CREATE INDEX TokenOfPlace ON Token (PlaceId);
 CREATE INDEX TokenOfWorkcase ON Token (WorkcaseId);
 
--- A token's value of a property, where it is not the default.
+-- A token's value of a property, if it is not the default.
 CREATE TABLE PropertyValue (
   Id         INTEGER PRIMARY KEY AUTOINCREMENT,
   PropertyId INTEGER NOT NULL,
@@ -221,7 +221,7 @@ CREATE INDEX PropertyValueOfToken ON PropertyValue (TokenId);
 CREATE UNIQUE INDEX PropertyValueOfProperty ON PropertyValue (PropertyId, TokenId);
 
 -- Saving the properties of a place deletes them all and inserts them with new ids. The values follow the property of the same
--- place and name; those of one that is missing for a while wait here.
+-- place and name; those of a property that is missing for a while stay here.
 CREATE TABLE FormerTokenProperty (
   Id      INTEGER PRIMARY KEY,
   PlaceId INTEGER NOT NULL,

@@ -1,6 +1,6 @@
--- From version 1 of the tables, which had no number, to version 2. Runs in one transaction. What no key allows is put right first:
--- rows of a workflow that is not there go, ends of arcs and embedded workflows that are not there become none, of the values of a
--- token for one property the last one stays, of definitions with one name the later ones get their ids behind the name.
+-- From version 1 of the tables, which had no number, to version 2. Runs in one transaction. Rows that a key would refuse
+-- are mended first: rows of a missing workflow are deleted, ends of arcs and embedded workflows that are missing become NULL, of several
+-- values of a token for one property the last one stays, and of definitions with the same name the later ones get their ids after it.
 
 CREATE TABLE vantrel_schema (version integer NOT NULL);
 INSERT INTO vantrel_schema (version) VALUES (2);

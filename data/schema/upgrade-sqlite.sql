@@ -1,7 +1,8 @@
 -- From version 1 of the tables, which had no number, to version 2. Runs in one transaction and without the checks of foreign keys,
--- which sqlite.sql adds: the rows step aside, sqlite.sql makes the tables anew, the rows come back. What no key allows is put right on the way:
--- rows of a workflow that is not there go, ends of arcs and embedded workflows that are not there become none, of the values of a
--- token for one property the last one stays, of definitions with one name the later ones get their ids behind the name.
+-- which sqlite.sql adds: the rows are moved aside, sqlite.sql makes new tables, the rows are moved back. Rows that a key would
+-- refuse are mended on the way: rows of a missing workflow are deleted, ends of arcs and embedded workflows that are missing become NULL,
+-- of several values of a token for one property the last one stays, and of definitions with the same name the later ones get their ids
+-- after it.
 
 CREATE TEMP TABLE was_Workflow AS SELECT * FROM main.Workflow;
 CREATE TEMP TABLE was_Place AS SELECT * FROM main.Place;

@@ -34,7 +34,7 @@ std::string RandomTrace(std::uint64_t plngSeed) {
   return TraceOf(PlayNet(NetOf(kTwoBranches), options));
 }
 
-/// A net whose transition tSub, played as a sub-process, has two branches of its own.
+/// A net whose transition tSub is a sub-process with two branches.
 PnmlNet WithSubprocess() {
   PnmlNet net = NetOf("in>tSub tSub>mid mid>tLast tLast>out");
   test::NodeOf(net, "tSub").Subnet = std::make_unique<PnmlNet>(NetOf(kTwoBranches));

@@ -22,7 +22,7 @@ class ContractDatabase {
   ContractDatabase& operator=(const ContractDatabase&) = delete;
   virtual ~ContractDatabase() = default;
 
-  /// A session of its own each time.
+  /// A new session each time.
   virtual std::shared_ptr<Connection> Connect() = 0;
 };
 

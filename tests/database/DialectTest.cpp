@@ -8,7 +8,7 @@
 namespace vantrel::test {
 namespace {
 
-// The translated text, and behind it the parameters with their kinds.
+// The translated text, followed by the parameters with their kinds.
 std::string Shown(const EngineStatement& pobjStatement) {
   std::string text = pobjStatement.Text;
   for (const Variant& value : pobjStatement.Parameters) {

@@ -12,7 +12,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// Writes down what it is asked, and goes wrong when told.
+// Records what it is asked, and fails when told to.
 class FakeSession final : public Session {
  public:
   struct Script {

@@ -1,4 +1,4 @@
-// A server that goes away and comes back. It is a server of the test's own: others use the common one.
+// A server that goes away and comes back. The test has its own server, as others use the common one.
 #include <array>
 #include <cstdio>
 #include <filesystem>

@@ -18,7 +18,7 @@
 
 namespace vantrel::test {
 
-/// An empty database, which goes together with the object, whoever is connected to it still.
+/// An empty database. Dropped with this object, even if something is still connected to it.
 class PostgresDatabase {
  public:
   static std::string ServerAddress() {

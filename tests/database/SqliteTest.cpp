@@ -28,7 +28,7 @@ std::string Schema() {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// A folder of its own, open to every user.
+// A new folder, open to every user.
 class Folder {
  public:
   Folder() {
@@ -69,7 +69,7 @@ INSTANTIATE_TEST_SUITE_P(Sqlite, ConnectionContract,
                          testing::Values(ContractEngine{"Sqlite", [] { return std::make_unique<SqliteContractDatabase>(); }, ""}),
                          testing::PrintToStringParamName());
 
-// Permissions do not bind the superuser: for its life the process is somebody else.
+// Permissions do not bind the superuser, so the process is another user while this lives.
 class OrdinaryUser {
  public:
   OrdinaryUser() : mblnChanged(geteuid() == 0 && seteuid(65534) == 0) {}

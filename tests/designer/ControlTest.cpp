@@ -18,7 +18,7 @@ std::string OptionsOf(const PropertyRecord& pobjRecord) {
   return options;
 }
 
-/// Captions of a menu; what cannot be chosen stands in brackets, sub-menus behind their entry.
+/// Captions of a menu: disabled ones in brackets, sub-menus after their entry.
 std::string Picture(const MenuItem& pobjMenu) {
   std::string text;
   for (const auto& item : pobjMenu.Items) {

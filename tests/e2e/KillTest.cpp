@@ -48,7 +48,7 @@ std::shared_ptr<Workflow> Build(const Version& pVersion, std::int32_t plngId) {
   return workflow;
 }
 
-/// In the child: saves one version over the other until somebody ends it. Says that the first save is done.
+/// In the child: saves one version over the other until it is killed. Reports that the first save is done.
 [[noreturn]] void SaveForEver(const DatabaseAddress& pobjAddress, std::int32_t plngId, int plngFirst, int plngPipe) {
   VNTRDB database;
   database.Connection = OpenConnection(pobjAddress);

@@ -10,7 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// From -T-> To1, To2, in a workflow that nobody else holds.
+// From -T-> To1, To2, in a workflow with no other owner.
 class Listener : public testing::Test {
  protected:
   Listener() {

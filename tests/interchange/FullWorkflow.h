@@ -7,7 +7,7 @@
 
 namespace vantrel::test {
 
-/// SmallWorkflow with something of its own in every field that is stored, and a note.
+/// SmallWorkflow with a different value in every stored field, and a note.
 std::shared_ptr<Workflow> FullWorkflow();
 
 /// A record with something in every field, and two options.

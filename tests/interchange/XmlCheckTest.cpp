@@ -10,7 +10,7 @@ namespace vantrel {
 
 namespace {
 
-/// The fault as `offset: what`, empty when there is none.
+/// The fault as `offset: what`; empty when there is no fault.
 std::string FaultOf(const std::string& pstrText, std::size_t plngDepth = 256) {
   try {
     CheckXml(pstrText, plngDepth);

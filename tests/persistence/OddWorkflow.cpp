@@ -184,7 +184,7 @@ void Describe(Description& pText, const Notation& pobjNote) {
              pobjNote.Top(), pobjNote.Left(), pobjNote.Height(), pobjNote.Width());
 }
 
-// The order of rows that nobody asked for is the database's affair.
+// The database decides the order of rows that no statement orders.
 template <class T>
 std::string Sorted(const Collection<T>& pcolItems) {
   std::multiset<std::string> blocks;

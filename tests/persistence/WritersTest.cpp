@@ -14,7 +14,7 @@ namespace {
 
 class Writers : public EveryEngine {
  protected:
-  /// Runs the work in processes of their own at the same time, each with its number and a connection of its own.
+  /// Runs the work in several processes at the same time, each with its number and its own connection.
   void Together(int pProcesses, const std::function<void(int, VNTRDB&)>& pWork) {
     Database.Connection = nullptr;  // no process may inherit an open connection
     std::vector<pid_t> children;

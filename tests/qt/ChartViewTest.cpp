@@ -212,7 +212,7 @@ TEST_F(ChartViewTest, TakesTheChartAlongWhenDraggedBeyondTheEdge) {
   SendMouse(Canvas(), QEvent::MouseButtonRelease, outside);
   EXPECT_NEAR(CentreOf(*transition.Image).x(), outside.x(), 2);
 
-  // A gesture that ends without a release ends the scrolling, too.
+  // A gesture that ends without a release ends the scrolling as well.
   SendMouse(Canvas(), QEvent::MouseButtonPress, {300, 300});
   SendMouse(Canvas(), QEvent::MouseMove, outside);
   mobjControl.NewWorkflow();
