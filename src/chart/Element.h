@@ -41,7 +41,7 @@ class Element : public Object, public std::enable_shared_from_this<Element> {
   /// Larger is nearer to the front.
   std::int64_t ZOrder() const { return mZOrder; }
 
-  /// Takes the element off its surface and frees its index. References to it then test false once nobody else shares it.
+  /// Takes the element off its surface and frees its index. References to it test false once its last share is gone.
   void Unload();
 
  protected:

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # What the scripts that draw nets share.
 
-# draws ARGUMENT...: status 0, and nobody is told anything.
+# draws ARGUMENT...: status 0 and no output.
 draws() {
   run 0 draw "$@"
   if [[ -s $scratch/out || -s $scratch/err ]]; then fail "draw $*: $(cat "$scratch/out" "$scratch/err")"; fi

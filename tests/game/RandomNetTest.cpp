@@ -61,7 +61,7 @@ class ScriptedHost : public TestHost {
   Asks mAsk;
 };
 
-// What somebody does while a question stands; given something to draw from.
+// What a listener does while a question is open; draws from the generator.
 using Meddles = std::function<void(Random& random)>;
 
 // The same answers to the same questions in the same order; the questions themselves go into the log.

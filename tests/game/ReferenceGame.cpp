@@ -73,7 +73,7 @@ void ReferenceGame::Add(std::size_t pPlace, int pToken) {
   mLog += "end:" + std::to_string(pToken + 1) + " ";
 }
 
-// A chosen token counts for nobody, unless the question is what would be without that.
+// A chosen token counts for no firing, unless the question is what would be without that.
 bool ReferenceGame::Passes(const Question& pQuestion, std::size_t pPlace, bool pblnTakenToo) const {
   const auto& held = mPlaces[pPlace].Tokens;
   return std::any_of(held.begin(), held.end(), [&](int index) {

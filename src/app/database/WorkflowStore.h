@@ -1,4 +1,4 @@
-// The stored workflows, for somebody who works on them for hours.
+// The stored workflows, for a program that is open for hours.
 #pragma once
 
 #include <cstdint>
@@ -24,7 +24,7 @@ class WorkflowStore {
   std::vector<WorkflowListing> List() const;
   std::shared_ptr<Workflow> Read(std::int32_t plngId) const;
   /// Saves the workflow with those embedded in it, all or nothing; when it throws, ids and marks of change are what they were.
-  /// One whose row somebody deleted meanwhile gets a new id. Cases and tokens are not saved.
+  /// A workflow whose row was deleted meanwhile gets a new id. Cases and tokens are not saved.
   void Save(const std::shared_ptr<Workflow>& pobjWorkflow) const;
   /// Saves it under a new id, which it keeps; what was stored before stays. Embedded workflows are shared by both.
   void SaveAsNew(const std::shared_ptr<Workflow>& pobjWorkflow) const;

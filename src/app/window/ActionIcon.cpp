@@ -21,7 +21,7 @@ namespace vantrel {
 
 namespace {
 
-// Renders a size when somebody asks for it: most icons are shown in one size, many never.
+// Renders a size when it is asked for: most icons are shown in one size, many never.
 class DrawnIcon final : public QIconEngine {
  public:
   using Drawing = std::function<void(QPainter& pobjPainter, const QRectF& pobjBox)>;

@@ -13,7 +13,7 @@
 
 namespace vantrel {
 
-/// Makes an action of every command of the window and puts it into its menu; those with a picture are in the tool bar, too. The
+/// Makes an action of every command of the window and puts it into its menu; those with a picture are also in the tool bar. The
 /// name of an action is its command's id. What the designer's pop-ups offer is here as well, enabled, checked and visible as there.
 class WindowMenus final : public QObject {
   Q_OBJECT

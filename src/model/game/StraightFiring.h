@@ -1,4 +1,4 @@
-// A firing that nobody looks at.
+// A firing without listeners, in one go.
 #pragma once
 
 #include <memory>
@@ -8,12 +8,12 @@
 
 namespace vantrel {
 
-/// Does what FiringNext, Firing, Arrival and Departure do, in one go, where nobody can get the word in between: nothing near
-/// the transition is drawn, listened to, asked, automatic or a workflow. So nothing has to be kept alive, and no step has to
-/// be stopped and gone on with. Whatever is not as plain as that is left to the steps, from the beginning.
+/// Does in one go what FiringNext, Firing, Arrival and Departure do, when no other code can run in between: nothing near the transition
+/// is drawn, has listeners, asks a question, is automatic or is a workflow. So nothing has to be kept alive and no step is interrupted.
+/// Every other firing is left to the steps.
 class StraightFiring {
  public:
-  /// Fires the first transition that waits. False, and nothing has changed, when that is not a plain firing.
+  /// Fires the first waiting transition. False, with nothing changed, when that is not such a firing.
   static bool FireNext(Workflow& pobjWorkflow);
 
  private:
@@ -52,7 +52,7 @@ class StraightFiring {
   Workflow& mWorkflow;
   Transition& mTransition;
   std::shared_ptr<WorkCase> mobjCase;
-  std::vector<std::shared_ptr<Token>> mcolOrphans;  // consumed, and nobody else's: they end when all is done
+  std::vector<std::shared_ptr<Token>> mcolOrphans;  // consumed and owned here alone; destroyed at the end
   std::size_t mlngGone = 0;                         // of the chosen tokens
   Date mdtmNow = Date::Now();
   bool mblnTracking;

@@ -26,7 +26,7 @@ class SubflowRun final : public Referable {
   SubflowRun& operator=(const SubflowRun&) = delete;
 
   const Ref<Transition>& Owner() const { return mobjTransition; }
-  /// The run that the chosen tokens themselves take part in, when the transition's workflow is a subflow, too.
+  /// The run that the chosen tokens themselves take part in, when the transition's workflow is a subflow itself.
   const Ref<SubflowRun>& Outer() const { return mobjOuter; }
   const std::vector<std::shared_ptr<Token>>& Tokens() const { return mChosen.Tokens(); }
   /// The firing that started it, while that is still under way.
