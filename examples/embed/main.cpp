@@ -10,6 +10,7 @@
 #include <cstdio>
 
 #include <vantrel/database/sqlite/Sqlite.h>
+#include <vantrel/designer/Commands.h>
 #include <vantrel/persistence/WorkflowList.h>
 #include <vantrel/qt/VantrelWidget.h>
 #include <vantrel/util/MsgBox.h>
@@ -69,7 +70,7 @@ class HostWindow final : public QMainWindow {
     connect(mobjDesigner, &VantrelWidget::Selected, this, [this](ModelObject& object) { Say("Selected " + object.NameText()); });
     connect(mobjDesigner, &VantrelWidget::ArcInserted, this, [this](const auto& arc) { Say("New arc " + arc->Name()); });
     connect(mobjDesigner, &VantrelWidget::TransitionDblClick, this, [this](const auto& node) { Say("Double click: " + node->Name()); });
-    mobjSaveChosen = mobjControl.DesignMenu().Find("Save")->OnClick.Connect([this] { Save(); });
+    mobjSaveChosen = mobjControl.DesignMenu().Find(CommandIds::Save)->OnClick.Connect([this] { Save(); });
   }
 
   void Say(const std::string& pstrText) { statusBar()->showMessage(QString::fromStdString(pstrText)); }
