@@ -35,7 +35,7 @@ class NotedStore final : public PlayStore {
   std::shared_ptr<Workflow> mobjWorkflow;
 };
 
-/// A run over a chain of transitions, in which one token moves: any state with none or two is one inside a firing.
+/// A run over a chain of transitions along which one token moves: a state with none or two is one inside a firing.
 struct ChainRun {
   explicit ChainRun(const std::string& pstrArcs) : Net(BuildWorkflow(NetOf(pstrArcs))), Store(Net.Workflow) { Options.KeepHistory = true; }
   Account Play(Player::Watch pWatch = {}) { return Player(Net, Options, std::move(pWatch), &Store).Play(); }

@@ -17,7 +17,7 @@ inline void AddNode(PnmlNet& pobjNet, const std::string& pstrId) {
   node.Id = node.Name = pstrId;
 }
 
-/// A net from its arcs, "in>t1 t1>out": what begins with a t is a transition. Nodes come in the order of their first arcs.
+/// A net from its arcs, "in>t1 t1>out": names that begin with t are transitions. Nodes are in the order of their first arcs.
 inline PnmlNet NetOf(const std::string& pstrArcs) {
   PnmlNet net;
   std::istringstream arcs(pstrArcs);

@@ -10,7 +10,7 @@ namespace vantrel {
 
 namespace {
 
-/// Moves elements at random, and compares the answers of the surface with a look at every element.
+/// Moves elements at random and compares the answers of the surface with those of a loop over all elements.
 class RandomChart {
  public:
   RandomChart() {

@@ -1,4 +1,4 @@
-// What every engine must do, whichever it is. An engine's own test file instantiates ConnectionContract with a ContractEngine.
+// What every engine must do. An engine's own test file instantiates ConnectionContract with a ContractEngine.
 #pragma once
 
 #include <functional>
@@ -14,7 +14,7 @@
 
 namespace vantrel::test {
 
-/// A new database with the tables, which is gone with this object.
+/// A new database with the tables, deleted with this object.
 class ContractDatabase {
  public:
   ContractDatabase() = default;
@@ -28,7 +28,7 @@ class ContractDatabase {
 
 struct ContractEngine {
   std::string Name;
-  /// Null where the engine is not there: the tests are skipped then, with the reason below.
+  /// Null when the engine is not there: then the tests are skipped, with the reason below.
   std::function<std::unique_ptr<ContractDatabase>()> Make;
   std::string WhyMissing;
 
@@ -47,7 +47,7 @@ class ConnectionContract : public testing::TestWithParam<ContractEngine> {
 std::unique_ptr<Recordset> Opened(Connection& pobjConnection, const std::string& pstrSource);
 /// The column of all rows as text; a Null as "NULL".
 std::vector<std::string> Column(Connection& pobjConnection, const std::string& pstrSql, const std::string& pstrName);
-/// A row added through a row set; gives its id.
+/// Adds a row through a row set and returns its id.
 using Assignments = std::vector<std::pair<std::string, Variant>>;
 std::int32_t Add(Connection& pobjConnection, const std::string& pstrTable, const Assignments& pcolValues);
 /// A workflow row.

@@ -40,7 +40,7 @@ TEST_P(ConnectionContract, PathsKeepTheirOrderAndGoWithTheirArc) {
   EXPECT_THAT(Column(*mobjConnection, "SELECT * FROM Vector", "ArcId"), IsEmpty());
 }
 
-// What a save does in its middle is allowed: keys are checked at its end.
+// A save may break keys in its middle: they are checked at its end.
 TEST_P(ConnectionContract, KeysHoldWhenTheTransactionEnds) {
   const std::int32_t place = Add(*mobjConnection, "Place", PlaceOf(1)), arc = AddArc(*mobjConnection, "");
   const std::string ofArc = " WHERE Id = " + std::to_string(arc), ofPlace = " WHERE Id = " + std::to_string(place);

@@ -1,4 +1,4 @@
-// Databases of a test's own on the PostgreSQL server that the environment variable VANTREL_POSTGRES gives the address of.
+// Databases for tests on the PostgreSQL server whose address is in the environment variable VANTREL_POSTGRES.
 #pragma once
 
 #ifdef VANTREL_HAS_POSTGRES
@@ -12,7 +12,7 @@
 #include "database/postgres/PostgresSession.h"
 #include "util/Error.h"
 
-/// For the beginning of a test or of its SetUp: skips where there is no server.
+/// For the beginning of a test or of its SetUp: skips the test when there is no server.
 #define VANTREL_NEEDS_POSTGRES() \
   if (vantrel::test::PostgresDatabase::ServerAddress().empty()) GTEST_SKIP() << "needs a PostgreSQL server: VANTREL_POSTGRES is not set"
 
@@ -43,7 +43,7 @@ class PostgresDatabase {
 
   const std::string& Address() const { return mAddress; }
 
-  /// Ends all sessions in the database as a server that is shut down does, and waits until they are gone.
+  /// Ends all sessions in the database, as a shutdown of the server does, and waits until they are gone.
   void EndSessions() const { OnServer("SELECT pg_terminate_backend(pid, 10000) FROM pg_stat_activity WHERE datname = '" + mName + "'"); }
 
  private:

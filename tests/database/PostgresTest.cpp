@@ -1,4 +1,4 @@
-// The contract on a PostgreSQL server, and what such a server does beyond it.
+// The contract on a PostgreSQL server, and tests of such a server alone.
 #include "database/postgres/Postgres.h"
 
 #include <atomic>

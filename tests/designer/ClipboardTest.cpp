@@ -26,7 +26,7 @@ class ClipboardTest : public DesignerTest {
     Select({start.Lock(), Net().Transitions.First()});
     Control->Copy();
   }
-  /// The bend points of the workflow's last arc lie where they lay before copying, seen from its place.
+  /// Checks that the bend points of the workflow's last arc are where they were before copying, relative to its place.
   void ExpectBent() {
     const auto arc = Net().Arcs.Last();
     const auto bends = arc->BendPoints();

@@ -3,7 +3,7 @@
 namespace vantrel::test {
 namespace {
 
-/// Each test plays the same with all flags off and with the flag that it is about on.
+/// Each test does the same with all flags off and with its flag on.
 class ComfortTest : public GestureTest {
  protected:
   ComfortTest() { Control->EnablePopups = true; }

@@ -16,7 +16,7 @@
 
 namespace vantrel::test {
 
-/// A control without a window; what it says in message boxes is noted. Every test ends with the invariants.
+/// A control without a window whose message boxes are recorded. Every test ends with the invariants.
 class DesignerTest : public ::testing::Test {
  protected:
   DesignerTest() : Control(std::make_unique<Vantrel>(Tools)) {}

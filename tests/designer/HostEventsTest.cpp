@@ -5,7 +5,7 @@ namespace vantrel::test {
 
 namespace {
 
-/// Notes what the host hears, in order.
+/// Records the events of the host in order.
 class HostEventsTest : public GestureTest {
  protected:
   HostEventsTest() {
@@ -136,7 +136,7 @@ TEST_F(HostEventsTest, OfAControlThatAListenerClosesAreToldNoMore) {
   EXPECT_EQ(Heard.size(), 1U);
 }
 
-// A listener's own call tells first what still waits, even of objects that the listener has taken away.
+// A listener's own call first delivers the events that still wait, even of objects that the listener has removed.
 TEST_F(HostEventsTest, StayInOrderWhereAListenerShowsAnotherWorkflow) {
   Do = [&] {
     if (Heard.size() > 1) return;

@@ -10,8 +10,8 @@
 
 namespace vantrel::test {
 
-/// What holds of every control between two calls, whatever was done to it: the elements on the chart are exactly those of the
-/// workflow, every chain of segments is whole and ends at its connectors, and nothing refers to an object that is gone.
+/// What is true of every control between two calls: the elements on the chart are exactly those of the workflow, every chain of segments
+/// is whole and ends at its connectors, and nothing refers to an object that is gone.
 class Invariants {
  public:
   explicit Invariants(const Vantrel& pobjControl) : mControl(pobjControl), mWorkflow(pobjControl.Workflow().get()) {
@@ -21,7 +21,7 @@ class Invariants {
     if (mWorkflow && mControl.Comfort.ChosenIsSeen) CheckLooks();
   }
 
-  /// One line a fault; empty when all holds.
+  /// A line for each fault; empty when there is none.
   const std::string& Faults() const { return mFaults; }
 
  private:
@@ -78,7 +78,7 @@ class Invariants {
     Expect(source.OutArcs.Find(pobjArc.Key).get() == &pobjArc && target.InArcs.Find(pobjArc.Key).get() == &pobjArc,
            pobjArc.Key + " is not listed at its ends");
     const auto chain = CheckChain(pobjArc);
-    // In run mode places do not follow.
+    // In run mode places do not redraw.
     if (!mFaults.empty() || mControl.UseMode() == vntRun) return;
     const Vector& first = *chain.front();
     const Vector& last = *chain.back();
@@ -142,7 +142,7 @@ class Invariants {
     Expect(mControl.FocusFrame.Visible() == (framed != nullptr), "the focus frame shows without an element");
   }
 
-  /// With all comfort: what Delete, Copy and the arrow keys would take is exactly what looks chosen.
+  /// With Comfort::All: Delete, Copy and the arrow keys would take exactly what looks chosen.
   void CheckLooks() {
     std::set<const ModelObject*> taken;
     for (const auto& object : *mControl.Selection()) {

@@ -6,7 +6,7 @@ namespace vantrel::test {
 
 namespace {
 
-/// A listener that does its worst, once, in the middle of every operation that tells it something.
+/// A listener that does the worst it can, once, during every operation that raises an event.
 class ListenersTest : public DesignerTest {
  protected:
   using Deed = std::function<void(Vantrel&)>;
@@ -20,7 +20,7 @@ class ListenersTest : public DesignerTest {
     Control->Copy();
   }
 
-  /// Runs the operation with the deed done at the n-th event, from the first to the last one.
+  /// Runs the operation again and again, and does the deed at the first event, the second, and so on to the last.
   void RunAll(const Deed& pOperation, const Deed& pDeed) {
     for (int nth = 1;; ++nth) {
       Prepare();

@@ -10,7 +10,7 @@
 namespace vantrel::test {
 namespace {
 
-/// A user, and a host that gets in his way, as a seed has it.
+/// A user and a host that interferes, both random from a seed.
 class RandomUser {
  public:
   RandomUser(Vantrel& pobjControl, HeadlessToolkit& pobjTools, std::uint32_t plngSeed) : mControl(pobjControl), mRandom(plngSeed) {
@@ -45,7 +45,7 @@ class RandomUser {
   int Below(int plngEnd) { return std::uniform_int_distribution<int>(0, plngEnd - 1)(mRandom); }
   bool Chance(int plngOneIn) { return Below(plngOneIn) == 0; }
 
-  // Mostly on something, for a chart is mostly empty.
+  // Mostly on an element, as most of a chart is empty.
   PointerInput Somewhere(MouseButton pButton) {
     if (Chance(200)) return {std::numeric_limits<float>::quiet_NaN(), Chance(2) ? 0 : std::numeric_limits<float>::infinity(), pButton};
     const auto elements = mControl.ChartArea.ElementsIn({-1e6F, -1e6F, 1e6F, 1e6F});
@@ -77,7 +77,7 @@ class RandomUser {
     HeadlessToolkit::Choose(pobjMenu, item.Id);
   }
 
-  // Another control takes what is shown away, or nothing.
+  // Another control shows the workflow, or nothing.
   void ShowElsewhere() {
     if (!mOther || Chance(3)) mOther = std::make_unique<Vantrel>(mControl.Tools());
     mOther->Workflow(mControl.Workflow());
@@ -131,12 +131,12 @@ class RandomUser {
     if (place) place->AddToken(net->CreateToken(place));
   }
 
-  // Operations say what is wrong with the moment that they are called in.
+  // Operations throw when they cannot run at this moment.
   void Command() {
     try {
       Operate();
     } catch (const Error&) {
-      // It did nothing then, or not everything; the invariants hold all the same.
+      // Then it did nothing or only a part; the invariants hold all the same.
     }
     const auto net = mControl.Workflow();
     if (net && net->Places.Count() + net->Transitions.Count() > 40) mControl.NewWorkflow();
@@ -221,7 +221,7 @@ TEST_P(RandomInput, LeavesAWholeChart) {
     RandomUser user(*Control, Tools, seed);
     for (int event = 1; event <= kEvents; ++event) {
       user.Act();
-      if (Control->Input.IsCaptured()) continue;  // a connector on its way is not where its arcs end
+      if (Control->Input.IsCaptured()) continue;  // a connector that is being dragged is not where its arcs end
       ASSERT_EQ(Invariants(*Control).Faults(), "") << "event " << event << " of seed " << seed;
     }
     Control->Input.Abandon();

@@ -11,7 +11,7 @@ namespace {
 
 class StoredChart : public DesignerTest {
  protected:
-  /// A chart whose every object was moved from where it would lie by itself.
+  /// A chart on which every object was moved from its default position.
   std::shared_ptr<Workflow> Build() {
     const auto net = Control->NewWorkflow();
     Control->InsertArc(net->Transitions.First(), net->Places.Last());
@@ -37,7 +37,7 @@ class StoredChart : public DesignerTest {
     Control->Refresh();
     return net;
   }
-  /// Where everything that shows lies, and what it says.
+  /// The position and text of every visible element.
   std::string Picture() const {
     std::multiset<std::string> lines;
     for (const Element* element : Control->ChartArea.ElementsIn({-1e6F, -1e6F, 1e6F, 1e6F})) {

@@ -120,7 +120,7 @@ TEST_F(TwoControls, MarkAndAskTheirOwnHosts) {
   EXPECT_FALSE(Second->Dirty());
 }
 
-// What is embedded is shown nowhere: it goes by the workflow whose firing runs it.
+// An embedded workflow is not shown: the settings of the workflow whose firing runs it count.
 TEST_F(TwoControls, RunWhatTheirWorkflowsEmbed) {
   const auto inner = std::make_shared<Workflow>();
   const auto outer = Control->Workflow();

@@ -20,7 +20,7 @@ namespace vantrel {
 
 namespace {
 
-/// The same workflow in two versions that have no name and no count in common. Two segments at least: a straight arc has no rows.
+/// The same workflow in two versions without a common name or count. Arcs have at least two segments, as a straight arc has no rows.
 struct Version {
   char Letter;
   int Places, Segments;
@@ -92,7 +92,7 @@ void ExpectNamedAfter(char pstrLetter, const Collection<T>& pcolItems) {
   for (const auto& item : pcolItems) EXPECT_EQ(item->Name().front(), pstrLetter);
 }
 
-/// One version whole, no row of the other. Returns its letter.
+/// Checks that one version is whole and the other has no row. Returns its letter.
 char ExpectOneVersion(Connection& pobjConnection, const Workflow& pobjWorkflow) {
   const char letter = pobjWorkflow.StartPlace ? pobjWorkflow.StartPlace->Name().front() : '?';
   const Version& version = kVersions[letter == 'A' ? 0 : 1];

@@ -4,7 +4,7 @@
 
 #include "interchange/PnmlImport.h"
 
-/// Whatever the bytes are, they are a net that makes a workflow, or a PnmlError.
+/// Any bytes are either a net that becomes a workflow, or a PnmlError.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pobjData, std::size_t plngSize) {
   vantrel::PnmlOptions options;
   options.SkipUnsupported = plngSize % 2 == 0;

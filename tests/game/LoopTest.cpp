@@ -15,7 +15,7 @@ struct Ring {
   std::vector<std::shared_ptr<Transition>> Transitions;
 };
 
-// Unless closed, the last transition leads to a last place of its own instead of the first one.
+// Unless closed, the last transition leads to another place instead of the first one.
 Ring MakeRing(Workflow& pobjNet, int plngLength, bool pblnClosed = true) {
   Ring ring{AddPlace(pobjNet, "P1"), {}};
   auto place = ring.First;
@@ -63,7 +63,7 @@ constexpr int kMany = 100'000;
 
 class Loop : public testing::Test {
  protected:
-  // A loop that nothing stops must not eat the machine.
+  // A loop that is not stopped must not use up the machine's memory.
   void LimitTokensOf(Workflow& pobjNet) {
     mLimits.push_back(pobjNet.OnTokenAdded.Connect([this](const auto&, const auto&) {
       if (++mAdded > 30'000) throw std::runtime_error("nothing stops this loop");

@@ -13,7 +13,7 @@ namespace vantrel::test {
 /// Asked for one of the options; nothing stands for "cancel".
 using Asks = std::function<std::optional<std::string>(const std::string& prompt, const std::vector<std::string>& options)>;
 
-/// A net as numbers: what both games are built from. Places and transitions count from 0.
+/// A net as numbers, from which both games are made. Places and transitions count from 0.
 struct NetPlan {
   struct PlannedPlace {
     SelectionTypes Selection = vntSelectionTypeFIFO;
@@ -38,8 +38,8 @@ struct PlannedCase {
   std::string Key, Name;
 };
 
-/// The rules of the token game once more, as plainly as possible: it looks at everything again each time, everything calls
-/// everything, and an endless loop never ends.
+/// The rules of the token game again, as simple as possible: it looks at everything each time, calls recursively, and an endless loop
+/// never ends.
 class ReferenceGame {
  public:
   static constexpr int kNone = -1;

@@ -210,7 +210,7 @@ INSTANTIATE_TEST_SUITE_P(, EndsEarly,
                                          EarlyEnd{"MissingActionOfACase", vntProgrammed, true, "A"}),
                          [](const auto& end) { return std::string(end.param.Name); });
 
-/// As many tokens of other cases lie beside those that count.
+/// The place has as many tokens of other cases.
 class ChangedByHand : public TokenUse, public testing::WithParamInterface<int> {
  protected:
   ChangedByHand() {
@@ -263,7 +263,7 @@ TEST_P(ChangedByHand, CopyOfACaseLinkIsAValue) {
 
 INSTANTIATE_TEST_SUITE_P(, ChangedByHand, testing::Values(9, 63, 200), testing::PrintToStringParamName());
 
-/// A picture whose painting is answered by a host.
+/// A picture whose painting calls a host.
 class Repaint : public TokenUse {
  protected:
   Repaint() {

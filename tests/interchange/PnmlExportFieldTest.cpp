@@ -1,4 +1,4 @@
-// Nets of the field, taken in, written out and taken in again.
+// Nets that other tools drew, read, written and read again.
 #include <cstdlib>
 #include <filesystem>
 #include <set>

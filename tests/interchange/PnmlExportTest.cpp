@@ -146,7 +146,7 @@ TEST(PnmlExport, EmbeddedWorkflowsStaySharedAndAreWrittenOnce) {
   ExpectComesBack(*outer);
 }
 
-// Thirty levels, each embedding the next one twice: written out one within the other they would be a thousand million nets.
+// Thirty levels, each embedding the next one twice: written inside each other they would be a thousand million nets.
 TEST(PnmlExport, WorkflowsEmbeddedTwiceOnEveryLevelDoNotMultiply) {
   const auto outermost = SmallWorkflow();
   auto level = outermost;
@@ -195,7 +195,7 @@ TEST(PnmlExport, SegmentsThatDoNotMeetStayInTheirOrder) {
   ExpectComesBack(*workflow);
 }
 
-// Positions that an import from another tool would take for no drawing, and bend points that it would drop.
+// Positions that an import from another tool would replace by a layout, and bend points that it would drop.
 TEST(PnmlExport, OwnFileIsNeitherLaidOutAnewNorStraightened) {
   const auto workflow = SmallWorkflow();
   for (const auto& place : workflow->Places) place->Left(0);

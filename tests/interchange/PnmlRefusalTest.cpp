@@ -21,7 +21,7 @@ struct Fault {
 
 void PrintTo(const Fault& pobjFault, std::ostream* pobjStream) { *pobjStream << pobjFault.Said; }
 
-/// What is wrong within a net. The content begins on line 2.
+/// A fault inside a net. The content begins on line 2.
 class NetFault : public testing::TestWithParam<Fault> {};
 
 TEST_P(NetFault, IsOneLineWithThePlace) {

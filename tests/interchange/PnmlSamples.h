@@ -16,7 +16,7 @@ inline PnmlNet Read(const std::string& pstrBytes, const PnmlOptions& pobjOptions
   return PnmlReader(pobjOptions).ReadBytes(pstrBytes, "net.pnml");
 }
 
-/// What the reader says of bytes that it refuses; empty when it takes them.
+/// The reader's error for bytes that it refuses; empty when it accepts them.
 inline std::string RefusalOf(const std::string& pstrBytes, const PnmlOptions& pobjOptions = {}) {
   try {
     Read(pstrBytes, pobjOptions);
@@ -36,7 +36,7 @@ inline std::string Outline(const PnmlNet& pobjNet) {
   return outline;
 }
 
-/// A net of the field, or nothing where they are not at hand.
+/// A net that another tool drew; empty if it is missing.
 inline std::optional<std::string> FieldNet(const std::string& pstrFile) {
   const char* folder = std::getenv("VANTREL_NETS");
   if (folder == nullptr) return std::nullopt;

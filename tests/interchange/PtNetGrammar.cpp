@@ -11,7 +11,7 @@
 namespace vantrel::test {
 namespace {
 
-/// How often a child may be there; the grammar interleaves, so any order will do.
+/// How often a child may occur. The grammar interleaves children, so they may be in any order.
 struct Child {
   std::string Name;
   char Often;  // '1', '?', '*', '+'

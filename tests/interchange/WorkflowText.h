@@ -6,7 +6,7 @@
 
 namespace vantrel::test {
 
-/// Everything of a workflow that is stored, a line an object, numbers exactly: two workflows are the same when their texts are. Objects go
+/// Everything of a workflow that is stored, a line for each object, with exact numbers: equal workflows have equal texts. Objects are named
 /// by position instead of key, and embedded workflows are written where they are first met.
 std::string TextOf(const Workflow& pobjWorkflow);
 

@@ -24,7 +24,7 @@ std::string Declared(const std::string& pstrEncoding, const std::string& pstrRes
   return "<?xml version=\"1.0\" encoding='" + pstrEncoding + "' ?>" + pstrRest;
 }
 
-/// `<é€😀>` would be no element, but the decoder does not mind.
+/// `<é€😀>` is not a valid element, but the decoder does not check that.
 std::string Utf16(bool pblnBigEndian) {
   std::string bytes;
   for (const unsigned unit : {0x3CU, 0xE9U, 0x20ACU, 0xD83DU, 0xDE00U, 0x3EU}) {

@@ -13,8 +13,8 @@
 
 namespace vantrel::test {
 
-/// A control without a window: gives real elements of Surface, shows Net, notes what it is told and answers from a script.
-/// It is gobjVantrel as long as it lives; the designer state is then what it was before.
+/// A control without a window: gives real elements of Surface, shows Net, records calls and answers from a script. It is gobjVantrel while
+/// it lives; afterwards the previous designer state is restored.
 class TestHost : public DesignerHost {
  public:
   TestHost() : Net(std::make_shared<vantrel::Workflow>()) {

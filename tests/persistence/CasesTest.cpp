@@ -58,7 +58,7 @@ std::shared_ptr<Workflow> PlayableNet(std::mt19937& pRandom) {
     const auto border = 1 + static_cast<std::int32_t>(pRandom() % static_cast<unsigned>(places - 1));
     const auto input = any(1, border), other = any(1, border);
     Connect(input, transition);
-    // Automatic joins may take a token that a firing around them has yet to withdraw; that is an error, and no matter here.
+    // Automatic joins may take a token that an outer firing has yet to withdraw; that is an error, and does not matter here.
     if (other != input && transition->TriggerType() == vntUser) Connect(other, transition);
     for (unsigned i = 0; i < 1 + pRandom() % 2; ++i) Connect(transition, any(border + 1, places));
   }
@@ -72,8 +72,8 @@ class FirstCaseHost : public TestHost {
   }
 };
 
-// Where every token lies and what can fire. Without case tracking also what waits to be fired: with it, a transition that found no
-// case at its turn has left the firing stack, which the marking does not show.
+// The place of every token and the transitions that can fire. Without case tracking also the firing stack: with it, a transition that
+// found no case has left the stack, which the marking does not show.
 std::string Marking(const Workflow& pobjNet) {
   std::string text;
   const auto add = [&](std::vector<std::string> pcolParts) {
@@ -179,7 +179,7 @@ TEST_P(Cases, KeepEveryStoredFieldAndValue) {
   EXPECT_EQ(ErrorOf([&] { Database.ReadCases(stored); }), vntErrInvalidCall) << "it has tokens already";
 }
 
-// What a subflow delivers to two places has its values in common.
+// Tokens that a subflow delivers to two places share their values.
 TEST_P(Cases, ValuesThatTokensShareAreStoredForEach) {
   const auto net = std::make_shared<Workflow>();
   for (const char* name : {"A", "B"}) AddPlace(*net, name)->TokenProperties->Add(Definition("v", ""));

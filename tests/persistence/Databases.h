@@ -1,4 +1,4 @@
-// Real databases, one engine a time.
+// Real databases of each engine.
 #pragma once
 
 #include <filesystem>
@@ -42,7 +42,7 @@ class StoredDatabase {
   StoredDatabase& operator=(const StoredDatabase&) = delete;
   virtual ~StoredDatabase() = default;
   virtual std::shared_ptr<Connection> Connect() const = 0;
-  /// Brings tables of the version before to the newest one.
+  /// Upgrades tables of the previous version to the newest one.
   virtual void Upgrade() const = 0;
 };
 
@@ -72,7 +72,7 @@ class PostgresStore final : public StoredDatabase {
 };
 #endif
 
-/// Runs on every engine: on PostgreSQL where there is a server.
+/// Runs on every engine; on PostgreSQL when there is a server.
 class EveryEngine : public testing::TestWithParam<std::string> {
  protected:
   void SetUp() override {

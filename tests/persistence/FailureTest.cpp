@@ -67,7 +67,7 @@ TEST_F(SaveFailure, OfAnArcPassesAndKeepsWhatWasWritten) {
   EXPECT_TRUE(mobjNet->Dirty());
 }
 
-// Every place where the connection can go: nothing was saved, so the objects must look as before.
+// Every point at which the connection can be lost: nothing was saved, so the objects must look as before.
 TEST_F(SaveFailure, LostTransactionPutsIdsAndMarksBack) {
   const char* const pieces[] = {"SELECT MAX", "INSERT INTO Workflow", "SELECT GUID", "DELETE * FROM Place",
                                 "Name='P'",   "TransitionId=",        "Vector",      "FROM Notation"};

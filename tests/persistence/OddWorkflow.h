@@ -11,7 +11,7 @@ namespace vantrel::test {
 /// of each kind.
 std::shared_ptr<Workflow> OddWorkflow(unsigned plngSeed);
 
-/// Everything that the database keeps, ids and keys left out, line by line.
+/// Everything that the database keeps, without ids and keys, line by line.
 std::string Described(const Workflow& pobjWorkflow);
 
 }  // namespace vantrel::test

@@ -10,7 +10,7 @@
 
 namespace vantrel::test {
 
-/// No database: notes what it is told, one line each, gives rows from a script and fails where it is told to.
+/// Not a database: records each call as a line, gives rows from a script and fails where it is told to.
 ///
 ///     [2] UPDATE ...            a statement, with the cursor location of that moment
 ///     [3] SELECT ... -> 1 row   a row set; " -> new" where a row is added
@@ -20,7 +20,7 @@ class RecordingConnection final : public Connection {
   using Row = std::map<std::string, Variant>;
 
   std::string Log;
-  /// Rows for the statements that begin with a text, blanks at both ends aside; the first that fits. Others are empty, but a
+  /// Rows for the statements that begin with a text, without blanks at both ends; the first that fits. Other statements give no rows, but a
   /// selection by an Id other than 0 gives that row.
   std::vector<std::pair<std::string, std::vector<Row>>> Rows;
   struct Failure {

@@ -52,7 +52,7 @@ int Readable(const QImage& pobjImage, const QRect& pobjPart, const QColor& pobjG
   return readable;
 }
 
-// The largest of any pixel, of 255. Qt clips slanted thin lines before it smooths them, which moves their edges by a hair.
+// The largest difference of a pixel, of 255. Qt clips slanted thin lines before it smooths them, which moves their edges slightly.
 int Difference(const QImage& pobjA, const QImage& pobjB) {
   int largest = 0;
   for (int y = 0; y < pobjA.height(); ++y) {

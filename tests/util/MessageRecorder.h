@@ -8,7 +8,7 @@
 
 namespace vantrel::test {
 
-/// Keeps every message box to itself while it lives: notes the text, answers from Answers in turn, then OK or Yes.
+/// Shows no message box while it lives: records the text, and answers from Answers in turn, then OK or Yes.
 class MessageRecorder {
  public:
   MessageRecorder()

@@ -16,7 +16,7 @@ class Linked final : public Object {
   std::string Class() const override { return "Test.Linked"; }
 };
 
-/// What a conversion gives, or "!" and the number of its Error.
+/// The result of a conversion, or "!" and the number of its Error.
 template <class Convert>
 std::string Outcome(Convert&& pConvert) {
   try {

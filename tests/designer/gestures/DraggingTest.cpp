@@ -43,7 +43,7 @@ TEST_F(Dragging, MovesTheWholeSelectionByTheSame) {
   Select({Net->Places.Item("Place1"), Net->Transitions.Item("Transition1"), elbow, note});
   const float start = Start().Left(), begin = Begin().Left(), bend = elbow->Left(), end = End().Left();
   const auto text = note->Left();
-  // Steps of less than a twip must not wear the note down.
+  // Steps of less than a twip must not make the note smaller.
   const float x = MiddleX(*Start().Image), y = MiddleY(*Start().Image);
   Press(x, y);
   for (int step = 1; step <= 100; ++step) Move(x + static_cast<float>(step) * 3.4F, y);

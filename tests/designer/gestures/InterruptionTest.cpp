@@ -12,7 +12,7 @@ struct Grip {
   float X, Y;
 };
 
-// Every drag there is, for everything that may happen in the middle of it.
+// Every kind of drag, interrupted in every way.
 class EveryDrag : public GestureTest {
  protected:
   void BuildChart() {
@@ -115,7 +115,7 @@ TEST_F(EveryDrag, SurvivesWhateverHappensMeanwhile) {
   }
 }
 
-// The same out of the events that a press and a move raise.
+// The same, interrupted by listeners to the events of a press and a move.
 TEST_F(EveryDrag, SurvivesWhateverListenersDo) {
   for (int gesture = 0; gesture < kGestures; ++gesture) {
     for (const auto& interrupter : Interrupters()) {
