@@ -125,9 +125,11 @@ void OpenDatabase::Do(const std::function<void()>& pWork) {
 std::shared_ptr<Workflow> OpenDatabase::ReadWorkflow(std::int32_t plngId) {
   std::shared_ptr<Workflow> workflow;
   Do([&] {
-    const TransactionScope moment(Connection(), Transaction::Read);
+    TransactionScope moment(Connection(), Transaction::Read);
     workflow = mAccess.ReadWorkflow(plngId);
-    if (workflow) ReadColors(Connection(), workflow);
+    if (!workflow) return;
+    ReadColors(Connection(), workflow);
+    moment.Commit();  // a rollback would end the transaction around this one
   });
   if (workflow) return workflow;
   CheckTables();  // a lost connection would look the same
