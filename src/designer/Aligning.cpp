@@ -14,24 +14,25 @@ float CentreY(const Rect& pobjBox) { return (pobjBox.Top + pobjBox.Bottom) / 2; 
 
 }  // namespace
 
-void Aligning::Align(const std::string& pstrDirection) {
-  std::vector<std::shared_ptr<ModelObject>> objects;
-  const auto selection = mobjControl.Selection();
-  for (const auto& object : *selection) {
-    if (BoundsOf(*object) && !std::dynamic_pointer_cast<Elbow>(object)) objects.push_back(object);
+void AlignSelection(Vantrel& pobjControl, const std::string& pstrDirection) {
+  std::vector<std::shared_ptr<ChartObject>> objects;
+  const auto selection = pobjControl.Selection();
+  for (const auto& selected : *selection) {
+    auto object = std::dynamic_pointer_cast<ChartObject>(selected);
+    if (object && object->Bounds() && object->Kind() != ChartKind::Elbow) objects.push_back(std::move(object));
   }
   if (objects.empty()) return;
-  const Rect reference = *BoundsOf(*objects.front());
+  const Rect reference = *objects.front()->Bounds();
   for (const auto& object : objects) {
-    const Rect box = *BoundsOf(*object);
+    const Rect box = *object->Bounds();
     if (pstrDirection == "Vertical") {
       MoveTo(*object, CentreX(reference) - (box.Right - box.Left) / 2, box.Top);
     } else if (pstrDirection == "Horizontal") {
       MoveTo(*object, box.Left, CentreY(reference) - (box.Bottom - box.Top) / 2);
     }
   }
-  mobjControl.FocusFrame.FrameControl();
-  mobjControl.Dirty(true);
+  pobjControl.FocusFrame.FrameControl();
+  pobjControl.Dirty(true);
 }
 
 }  // namespace vantrel

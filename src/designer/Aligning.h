@@ -7,16 +7,8 @@
 
 namespace vantrel {
 
-/// Aligns the centres of their pictures. The first one that is not a bend point stays where it is.
-class Aligning {
- public:
-  explicit Aligning(Vantrel& pobjControl) : mobjControl(pobjControl) {}
-
-  /// "Vertical" or "Horizontal": the direction of the line.
-  void Align(const std::string& pstrDirection);
-
- private:
-  Vantrel& mobjControl;
-};
+/// By the centres of their pictures; the first one that is no bend point stays where it is. "Vertical" or "Horizontal" is the direction
+/// of the line; any other text moves nothing.
+void AlignSelection(Vantrel& pobjControl, const std::string& pstrDirection);
 
 }  // namespace vantrel

@@ -1,6 +1,7 @@
 #include "designer/ArcInserting.h"
 
 #include "designer/ChartObjects.h"
+#include "designer/ControlParts.h"
 #include "designer/ElementBinding.h"
 #include "designer/HostEvents.h"
 
@@ -32,49 +33,50 @@ bool AreJoined(const Place& pobjPlace, const Transition& pobjTransition, const W
 
 }  // namespace
 
-std::shared_ptr<Arc> ArcInserting::Insert(const std::shared_ptr<ModelObject>& pobjFrom, const std::shared_ptr<ModelObject>& pobjTo) {
-  const auto workflow = mobjControl.Workflow();
+std::shared_ptr<Arc> InsertArc(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjFrom,
+                               const std::shared_ptr<ModelObject>& pobjTo) {
+  const auto workflow = pobjControl.Workflow();
   if (!workflow || !pobjFrom || !pobjTo) throw Error(vntErrObjectNotSet);
   const auto source = std::dynamic_pointer_cast<Transition>(pobjFrom);
   const auto transition = source ? source : std::dynamic_pointer_cast<Transition>(pobjTo);
   const auto place = std::dynamic_pointer_cast<Place>(source ? pobjTo : pobjFrom);
   if (!place || !transition) {
-    RefuseLikeObjects(mobjControl, *pobjFrom);
+    RefuseLikeObjects(pobjControl, *pobjFrom);
     return nullptr;
   }
   if (!IsPartOf(*place, *workflow) || !IsPartOf(*transition, *workflow)) throw Error(vntErrInvalidCall);
   if (AreJoined(*place, *transition, *workflow)) {
-    SayLater(mobjControl, kSecondArc);
+    SayLater(pobjControl, kSecondArc);
     return nullptr;
   }
   auto arc = workflow->CreateArc(place, transition, source ? vntOutArc : vntInArc);
-  ElementBinding(mobjControl).Bind(*arc);
+  Bind(pobjControl, *arc);
   arc->Visible(true);
   arc->Draw();
   workflow->Dirty(true);
   return arc;
 }
 
-void ArcInserting::Start() {
-  const auto* element = mobjControl.CurrentControl().get();
+void StartArcInsert(Vantrel& pobjControl) {
+  const auto* element = pobjControl.CurrentControl().get();
   if (!element) {
-    SayLater(mobjControl, kNoSource);
+    SayLater(pobjControl, kNoSource);
     return;
   }
-  const auto object = mobjControl.GetVNTRObject(element->Tag());
-  const auto& end = mobjControl.Workflow()->EndPlace();
+  const auto object = pobjControl.GetVNTRObject(element->Tag());
+  const auto& end = pobjControl.Workflow()->EndPlace();
   if (object && end && end.get() == object.get()) {
-    SayLater(mobjControl, kFromEndPlace);
+    SayLater(pobjControl, kFromEndPlace);
     return;
   }
-  mobjControl.mblnInsertingArc = true;
-  mobjControl.Tools().Pointer(vntPointerCross);
+  PartsOf(pobjControl).InsertingArc = true;
+  pobjControl.Tools().Pointer(vntPointerCross);
 }
 
-void ArcInserting::End() {
-  mobjControl.mblnInsertingArc = false;
-  mobjControl.ChartArea.ctlLine.Template().Visible(false);
-  mobjControl.Tools().Pointer(vntPointerDefault);
+void EndArcInsert(Vantrel& pobjControl) {
+  PartsOf(pobjControl).InsertingArc = false;
+  pobjControl.ChartArea.ctlLine.Template().Visible(false);
+  pobjControl.Tools().Pointer(vntPointerDefault);
 }
 
 }  // namespace vantrel

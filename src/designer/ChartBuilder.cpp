@@ -1,9 +1,8 @@
 #include "designer/ChartBuilder.h"
 
 #include "designer/ChartFitting.h"
-#include "designer/ControlScope.h"
+#include "designer/ControlParts.h"
 #include "designer/ElementBinding.h"
-#include "model/DesignerState.h"
 
 namespace vantrel {
 
@@ -50,16 +49,67 @@ void UnloadAll(ElementFamily<E>& pobjFamily) {
 
 template <class T>
 void BindEach(Vantrel& pobjControl, const Collection<T>& pcolObjects) {
-  ElementBinding binding(pobjControl);
-  for (typename Collection<T>::Cursor cursor(pcolObjects); T* object = cursor.Next();) binding.Bind(*object);
+  for (typename Collection<T>::Cursor cursor(pcolObjects); T* object = cursor.Next();) Bind(pobjControl, *object);
+}
+
+// Before anything is taken off the chart.
+void RequirePictures(const Vantrel& pobjControl, const Workflow& pobjWorkflow) {
+  for (Collection<Place>::Cursor cursor(pobjWorkflow.Places); const Place* place = cursor.Next();) RequirePicture(pobjControl, *place);
+}
+
+void LetGo(Vantrel& pobjControl) {
+  if (pobjControl.IsInsertingArc()) pobjControl.EndArcInsert();
+  pobjControl.MultiSelect.Visible(false);
+  pobjControl.MultiSelectOn = false;
+  pobjControl.CurrentObject(nullptr);
+  if (pobjControl.Workflow()) ClearChart(pobjControl);
+}
+
+void Take(Vantrel& pobjControl, const std::shared_ptr<Workflow>& pobjWorkflow) {
+  ControlParts& parts = PartsOf(pobjControl);
+  if (parts.Workflow) parts.Workflow->ShownBy(nullptr);
+  parts.Workflow = pobjWorkflow;
+  parts.State.Workflow = pobjWorkflow;
+  parts.TokenAdded = Subscription();
+  if (!pobjWorkflow) return;
+  pobjWorkflow->ShownBy(&parts.State);
+  parts.TokenAdded =
+      pobjWorkflow->OnTokenAdded.Connect([&pobjControl](const std::shared_ptr<Place>& place, const std::shared_ptr<Token>& token) {
+        pobjControl.OnTokenAdded.Raise(place, token);
+      });
+}
+
+void BindAll(Vantrel& pobjControl) {
+  const Workflow& workflow = *pobjControl.Workflow();
+  BindEach(pobjControl, workflow.Transitions);
+  BindEach(pobjControl, workflow.Places);
+  BindEach(pobjControl, workflow.Arcs);
+  BindEach(pobjControl, workflow.Notations);
+}
+
+void Build(Vantrel& pobjControl) {
+  Workflow& workflow = *pobjControl.Workflow();
+  {
+    const Building building(pobjControl);
+    BindAll(pobjControl);
+    for (auto* bar : {&pobjControl.HScroll, &pobjControl.VScroll}) {
+      bar->Min(0);
+      bar->Max(0);
+      bar->Value(0);
+    }
+    workflow.Visible(true);
+  }
+  PartsOf(pobjControl).RunStyle = workflow.RunStyle;
+  pobjControl.LockControls(workflow.LockControls);
+  FitChart(pobjControl);  // what it does not move is drawn already
 }
 
 }  // namespace
 
-void ChartBuilder::Clear() {
-  mobjControl.CurrentControl(nullptr);
-  mobjControl.Selection(nullptr);
-  auto& surface = mobjControl.ChartArea;
+void ClearChart(Vantrel& pobjControl) {
+  pobjControl.CurrentControl(nullptr);
+  pobjControl.Selection(nullptr);
+  auto& surface = pobjControl.ChartArea;
   UnloadAll(surface.ctlImage);
   UnloadAll(surface.ctlLabel);
   UnloadAll(surface.lblCount);
@@ -67,77 +117,26 @@ void ChartBuilder::Clear() {
   UnloadAll(surface.ctlHandle);
 }
 
-// Before anything is taken off the chart.
-void ChartBuilder::RequirePictures(const Workflow& pobjWorkflow) const {
-  const ElementBinding binding(mobjControl);
-  for (Collection<Place>::Cursor cursor(pobjWorkflow.Places); const Place* place = cursor.Next();) binding.RequirePicture(*place);
-}
-
-void ChartBuilder::LetGo() {
-  if (mobjControl.IsInsertingArc()) mobjControl.EndArcInsert();
-  mobjControl.MultiSelect.Visible(false);
-  mobjControl.MultiSelectOn = false;
-  mobjControl.CurrentObject(nullptr);
-  if (mobjControl.mWorkflow) Clear();
-}
-
-void ChartBuilder::Take(const std::shared_ptr<Workflow>& pobjWorkflow) {
-  if (mobjControl.mWorkflow) mobjControl.mWorkflow->ShownBy(nullptr);
-  mobjControl.mWorkflow = pobjWorkflow;
-  mobjControl.mobjState->Workflow = pobjWorkflow;
-  mobjControl.mTokenAdded = Subscription();
-  if (!pobjWorkflow) return;
-  pobjWorkflow->ShownBy(mobjControl.mobjState.get());
-  Vantrel& control = mobjControl;
-  mobjControl.mTokenAdded = pobjWorkflow->OnTokenAdded.Connect(
-      [&control](const std::shared_ptr<Place>& place, const std::shared_ptr<Token>& token) { control.OnTokenAdded.Raise(place, token); });
-}
-
-void ChartBuilder::BindAll() {
-  const Workflow& workflow = *mobjControl.mWorkflow;
-  BindEach(mobjControl, workflow.Transitions);
-  BindEach(mobjControl, workflow.Places);
-  BindEach(mobjControl, workflow.Arcs);
-  BindEach(mobjControl, workflow.Notations);
-}
-
-void ChartBuilder::Build() {
-  Workflow& workflow = *mobjControl.mWorkflow;
-  {
-    const Building building(mobjControl);
-    BindAll();
-    for (auto* bar : {&mobjControl.HScroll, &mobjControl.VScroll}) {
-      bar->Min(0);
-      bar->Max(0);
-      bar->Value(0);
-    }
-    workflow.Visible(true);
-  }
-  mobjControl.mRunStyle = workflow.RunStyle;
-  mobjControl.LockControls(workflow.LockControls);
-  ChartFitting(mobjControl).Fit();  // what it does not move is drawn already
-}
-
-void ChartBuilder::Show(const std::shared_ptr<Workflow>& pobjWorkflow) {
+void ShowWorkflow(Vantrel& pobjControl, const std::shared_ptr<Workflow>& pobjWorkflow) {
   const auto workflow = pobjWorkflow;  // NOLINT(performance-unnecessary-copy-initialization): the caller's may be the control's own share
   if (workflow) {
-    RequirePictures(*workflow);
-    if (workflow->IsShown() && workflow != mobjControl.mWorkflow) workflow->Designer().Host->LetGo();
+    RequirePictures(pobjControl, *workflow);
+    if (workflow->IsShown() && workflow != pobjControl.Workflow()) workflow->Designer().Host->LetGo();
   }
-  mobjControl.FocusFrame.SelectedControl(nullptr);
-  const HiddenChart hidden(mobjControl);
-  LetGo();
-  const auto before = mobjControl.mWorkflow;  // if this is the last share, the workflow dies only when nothing of it is shown any more
-  Take(workflow);
+  pobjControl.FocusFrame.SelectedControl(nullptr);
+  const HiddenChart hidden(pobjControl);
+  LetGo(pobjControl);
+  const auto before = pobjControl.Workflow();  // if this is the last share, the workflow dies only when nothing of it is shown any more
+  Take(pobjControl, workflow);
   if (!workflow) {
-    mobjControl.ChartArea.BackColor(kGrey);
+    pobjControl.ChartArea.BackColor(kGrey);
     return;
   }
-  mobjControl.ChartArea.BackColor(mobjControl.BackColor());
-  Build();
-  const auto dialogs = mobjControl.Dialogs;
+  pobjControl.ChartArea.BackColor(pobjControl.BackColor());
+  Build(pobjControl);
+  const auto dialogs = pobjControl.Dialogs;
   for (Collection<Transition>::Cursor cursor(workflow->Transitions); Transition* transition = cursor.Next();) {
-    if (transition->Roles) dialogs->LoadRolesImage(mobjControl, *transition);
+    if (transition->Roles) dialogs->LoadRolesImage(pobjControl, *transition);
   }
   workflow->Loaded = true;
   workflow->Dirty(false);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "designer/ChartObjects.h"
 #include "model/SingleDrawing.h"
 
 namespace vantrel {
@@ -12,7 +11,7 @@ namespace {
 template <class T>
 void MoveEach(const Collection<T>& pcolObjects, float psngX, float psngY) {
   for (typename Collection<T>::Cursor cursor(pcolObjects); T* object = cursor.Next();) {
-    MoveTo(*object, static_cast<float>(object->Left()) + psngX, static_cast<float>(object->Top()) + psngY);
+    if (const auto box = object->Bounds()) object->MoveTo(box->Left + psngX, box->Top + psngY);
   }
 }
 
@@ -21,34 +20,33 @@ void Widen(ScrollBar& pobjBar, float psngMin, float psngMax) {
   if (psngMax > pobjBar.Max()) pobjBar.Max(psngMax);
 }
 
-}  // namespace
-
-// Elements right of and below the origin do not narrow it.
-Rect ChartFitting::Extent() const { return Rect().United(mobjControl.ChartArea.BoxBounds().value_or(Rect())); }
+// Elements right of and below the origin does not narrow it.
+Rect Extent(const Vantrel& pobjControl) { return Rect().United(pobjControl.ChartArea.BoxBounds().value_or(Rect())); }
 
 // Bend points first: the arcs draw themselves when their ends move.
-void ChartFitting::MoveAll(float psngX, float psngY) {
-  Workflow& workflow = *mobjControl.Workflow();
-  SingleDrawing arcsOnce(workflow);
-  MoveEach(workflow.Elbows, psngX, psngY);
-  MoveEach(workflow.Transitions, psngX, psngY);
-  MoveEach(workflow.Places, psngX, psngY);
-  MoveEach(workflow.Notations, psngX, psngY);
+void MoveAll(Workflow& pobjWorkflow, float psngX, float psngY) {
+  SingleDrawing arcsOnce(pobjWorkflow);
+  MoveEach(pobjWorkflow.Elbows, psngX, psngY);
+  MoveEach(pobjWorkflow.Transitions, psngX, psngY);
+  MoveEach(pobjWorkflow.Places, psngX, psngY);
+  MoveEach(pobjWorkflow.Notations, psngX, psngY);
   arcsOnce.Finish();
 }
 
-void ChartFitting::Fit() {
-  const Rect extent = Extent();
+}  // namespace
+
+void FitChart(Vantrel& pobjControl) {
+  const Rect extent = Extent(pobjControl);
   const float x = -extent.Left, y = -extent.Top;
-  if (mobjControl.Workflow() && (x > 0 || y > 0)) MoveAll(x, y);
-  Widen(mobjControl.HScroll, mobjControl.HScroll.Min(), extent.Right + x);
-  Widen(mobjControl.VScroll, mobjControl.VScroll.Min(), extent.Bottom + y);
+  if (pobjControl.Workflow() && (x > 0 || y > 0)) MoveAll(*pobjControl.Workflow(), x, y);
+  Widen(pobjControl.HScroll, pobjControl.HScroll.Min(), extent.Right + x);
+  Widen(pobjControl.VScroll, pobjControl.VScroll.Min(), extent.Bottom + y);
 }
 
-void ChartFitting::ExtendScrollRange() {
-  const Rect extent = Extent();
-  Widen(mobjControl.HScroll, extent.Left, extent.Right);
-  Widen(mobjControl.VScroll, extent.Top, extent.Bottom);
+void ExtendScrollRange(Vantrel& pobjControl) {
+  const Rect extent = Extent(pobjControl);
+  Widen(pobjControl.HScroll, extent.Left, extent.Right);
+  Widen(pobjControl.VScroll, extent.Top, extent.Bottom);
 }
 
 }  // namespace vantrel

@@ -5,20 +5,11 @@
 
 namespace vantrel {
 
-class ChartFitting {
- public:
-  explicit ChartFitting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
+// Each is one pass over the elements, hidden ones included: they show up later where they are now.
 
-  /// Moves objects so that no element has a negative coordinate, redraws the moved ones, and widens the ranges to them.
-  void Fit();
-  /// Widens the ranges to the elements, also below zero.
-  void ExtendScrollRange();
-
- private:
-  Rect Extent() const;
-  void MoveAll(float psngX, float psngY);
-
-  Vantrel& mobjControl;
-};
+/// Moves all objects to where no element has a negative coordinate, redrawing those alone, and widens the ranges to them.
+void FitChart(Vantrel& pobjControl);
+/// Widens the ranges, into the negative too, to where the elements are.
+void ExtendScrollRange(Vantrel& pobjControl);
 
 }  // namespace vantrel

@@ -27,51 +27,51 @@ void DrawAll(Workflow& pobjWorkflow) {
   for (Collection<Notation>::Cursor notes(pobjWorkflow.Notations); Notation* note = notes.Next();) note->Draw();
 }
 
-}  // namespace
-
-void ChartRefresh::Refresh() {
-  const auto workflow = mobjControl.Workflow();
-  if (workflow && mobjControl.UseMode() == vntRun) return;
-  try {
-    if (workflow) DrawAll(*workflow);
-  } catch (const Error&) {
-    return;
-  }
-  mobjControl.ChartArea.Visible(true);
-  mobjControl.FocusFrame.FrameControl();
+void ShowIdle(const Vantrel& pobjControl, Node& pobjNode) {
+  if (auto* image = pobjNode.Image.get()) image->Picture(pobjControl.ImageList->Find(pobjNode.DisabledImageKey));
 }
 
-void ChartRefresh::Show(Node& pobjNode) const {
-  if (auto* image = pobjNode.Image.get()) image->Picture(mobjControl.ImageList->Find(pobjNode.DisabledImageKey));
-}
-
-void ChartRefresh::ResetPlace(Place& pobjPlace) const {
+void ResetPlace(const Vantrel& pobjControl, Place& pobjPlace) {
   pobjPlace.Tokens().Clear();
   pobjPlace.TokenCount(0);
   if (auto* label = pobjPlace.CountLabel.get()) {
     label->Visible(false);
     label->Caption("");
   }
-  Show(pobjPlace);
+  ShowIdle(pobjControl, pobjPlace);
   if (auto* image = pobjPlace.Image.get()) image->BringToFront();
 }
 
-void ChartRefresh::ResetTransition(Transition& pobjTransition) const {
+void ResetTransition(const Vantrel& pobjControl, Transition& pobjTransition) {
   pobjTransition.CancelRuns();
   pobjTransition.Enabled(false);
-  Show(pobjTransition);
+  ShowIdle(pobjControl, pobjTransition);
 }
 
-void ChartRefresh::Reset() {
-  if (const auto workflow = mobjControl.Workflow()) {
-    for (Collection<Place>::Cursor cursor(workflow->Places); Place* place = cursor.Next();) ResetPlace(*place);
+}  // namespace
+
+void RefreshChart(Vantrel& pobjControl) {
+  const auto& workflow = pobjControl.Workflow();
+  if (workflow && pobjControl.UseMode() == vntRun) return;
+  try {
+    if (workflow) DrawAll(*workflow);
+  } catch (const Error&) {
+    return;
+  }
+  pobjControl.ChartArea.Visible(true);
+  pobjControl.FocusFrame.FrameControl();
+}
+
+void ResetChart(Vantrel& pobjControl) {
+  if (const auto& workflow = pobjControl.Workflow()) {
+    for (Collection<Place>::Cursor cursor(workflow->Places); Place* place = cursor.Next();) ResetPlace(pobjControl, *place);
     for (Collection<Transition>::Cursor cursor(workflow->Transitions); Transition* transition = cursor.Next();) {
-      ResetTransition(*transition);
+      ResetTransition(pobjControl, *transition);
     }
     workflow->FiringStack.Clear();
     workflow->Tokens.Clear();
   }
-  const auto commands = mobjControl.TestCommands;
+  const auto commands = pobjControl.TestCommands;
   commands->ForgetCases();
 }
 

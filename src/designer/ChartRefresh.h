@@ -1,25 +1,13 @@
-// Redraws the chart, and clears a test from it.
+// Redraws the chart, and takes a test off it.
 #pragma once
 
 #include "designer/Vantrel.h"
 
 namespace vantrel {
 
-class ChartRefresh {
- public:
-  explicit ChartRefresh(Vantrel& pobjControl) : mobjControl(pobjControl) {}
-
-  /// Does nothing in run mode.
-  void Refresh();
-  /// Removes tokens and counts, and disables everything.
-  void Reset();
-
- private:
-  void ResetPlace(Place& pobjPlace) const;
-  void ResetTransition(Transition& pobjTransition) const;
-  void Show(Node& pobjNode) const;
-
-  Vantrel& mobjControl;
-};
+/// Nothing in run mode. Errors end it quietly.
+void RefreshChart(Vantrel& pobjControl);
+/// No tokens, no counts, nothing enabled.
+void ResetChart(Vantrel& pobjControl);
 
 }  // namespace vantrel

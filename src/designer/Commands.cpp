@@ -16,13 +16,9 @@ namespace {
 
 // The control may be destroyed while the question is shown.
 void ReplaceWorkflow(Vantrel& pobjControl) {
-  const Ref<Vantrel> control(&pobjControl);
-  const auto ask = pobjControl.MayReplaceWorkflow;
-  if (ask) {
-    const HostTurn turn;
-    if (!ask()) return;
-  }
-  if (control) control->NewWorkflow();
+  const HostTurn turn(pobjControl);
+  const auto ask = turn ? pobjControl.MayReplaceWorkflow : nullptr;
+  if ((!ask || ask()) && turn) pobjControl.NewWorkflow();
 }
 
 // Objects chosen before would be moved and deleted along with it.

@@ -1,7 +1,7 @@
 #include "designer/ControlProperties.h"
 
+#include "designer/ControlParts.h"
 #include "designer/HostEvents.h"
-#include "model/DesignerState.h"
 #include "model/PropertyBuilder.h"
 #include "toolkit/ComDlg32.h"
 #include "util/Lookup.h"
@@ -19,9 +19,29 @@ void AddPlaces(PropertyRecord& pobjRecord, const Workflow& pobjWorkflow, Collect
   }
 }
 
+Workflow& ShownBy(const Vantrel& pobjControl) { return *Ref<Workflow>(pobjControl.Workflow()); }
+
+// False for the name of no setting of the workflow.
+bool StoreInWorkflow(const Vantrel& pobjControl, const std::string& pstrPropName, const Variant& pvarValue) {
+  if (pstrPropName == "StartPlace") {
+    ShownBy(pobjControl).StartPlace = FindByName(ShownBy(pobjControl).Places, pvarValue.ToText());
+  } else if (pstrPropName == "EndPlace") {
+    ShownBy(pobjControl).EndPlace(FindByName(ShownBy(pobjControl).Places, pvarValue.ToText()));
+  } else if (pstrPropName == "KeepHistory") {
+    ShownBy(pobjControl).KeepHistory = pvarValue.ToBoolean();
+  } else if (pstrPropName == "CaseTracking") {
+    ShownBy(pobjControl).CaseTracking = pvarValue.ToBoolean();
+  } else if (pstrPropName == "RunStyle") {
+    ShownBy(pobjControl).RunStyle = static_cast<RunStyleConstant>(pvarValue.ToInt32());
+  } else {
+    return false;
+  }
+  return true;
+}
+
 }  // namespace
 
-std::string ControlProperties::UseModeName(std::int32_t plngMode) {
+std::string Vantrel::UseModeName(std::int32_t plngMode) {
   switch (plngMode) {
     case vntDesign:
       return "Design";
@@ -36,50 +56,46 @@ std::string ControlProperties::UseModeName(std::int32_t plngMode) {
   }
 }
 
-void ControlProperties::UseMode(UseModeConstant pintMode) {
-  mobjControl.mobjState->UseMode = pintMode;
-  if (const auto workflow = mobjControl.Workflow()) {
+void SetUseMode(Vantrel& pobjControl, UseModeConstant pintMode) {
+  PartsOf(pobjControl).State.UseMode = pintMode;
+  if (const auto workflow = pobjControl.Workflow()) {
     if (pintMode == vntDesign) {
       for (Collection<Place>::Cursor cursor(workflow->Places); const Place* place = cursor.Next();) {
         if (auto* label = place->CountLabel.get()) label->Visible(false);
       }
     } else {
-      mobjControl.FocusFrame.Visible(false);
+      pobjControl.FocusFrame.Visible(false);
     }
   }
-  RaiseLater(mobjControl, &Vantrel::OnUseModeChange, pintMode);
+  RaiseLater(pobjControl, &Vantrel::OnUseModeChange, pintMode);
 }
 
-void ControlProperties::ShowOnArcs(bool Workflow::*pFlag, bool pblnOn) {
-  const auto workflow = mobjControl.Workflow();
+void ShowOnArcs(Vantrel& pobjControl, bool Workflow::*pFlag, bool pblnOn) {
+  const auto workflow = pobjControl.Workflow();
   if (!workflow) throw Error(vntErrObjectNotSet);
   if ((*workflow).*pFlag == pblnOn) return;
   workflow->Dirty(true);
   (*workflow).*pFlag = pblnOn;
   for (Collection<Arc>::Cursor cursor(workflow->Arcs); Arc* arc = cursor.Next();) arc->Draw();
-  const Element* framed = mobjControl.FocusFrame.SelectedControl().get();
-  if (framed && !framed->Visible()) mobjControl.CurrentControl(nullptr);
+  const Element* framed = pobjControl.FocusFrame.SelectedControl().get();
+  if (framed && !framed->Visible()) pobjControl.CurrentControl(nullptr);
 }
 
-void ControlProperties::BackColor(Color plngColor) {
-  mobjControl.mBackColor = plngColor;
-  mobjControl.ChartArea.BackColor(plngColor);
-  mobjControl.Dirty(true);
+void SetBackColor(Vantrel& pobjControl, Color plngColor) {
+  PartsOf(pobjControl).BackColor = plngColor;
+  pobjControl.ChartArea.BackColor(plngColor);
+  pobjControl.Dirty(true);
 }
 
-void ControlProperties::ChooseBackColor() {
-  const Ref<Vantrel> control(&mobjControl);
-  const Color before = mobjControl.BackColor();
-  Color chosen = before;
-  {
-    const HostTurn turn;
-    chosen = ComDlg32(mobjControl.Tools()).SelectColor(before);
-  }
-  if (control && chosen != before) BackColor(chosen);
+void ChooseBackColor(Vantrel& pobjControl) {
+  const HostTurn turn(pobjControl);
+  if (!turn) return;
+  const Color before = pobjControl.BackColor(), chosen = ComDlg32(pobjControl.Tools()).SelectColor(before);
+  if (turn && chosen != before) pobjControl.BackColor(chosen);
 }
 
-std::shared_ptr<PropertyCollection> ControlProperties::Records() {
-  const auto workflow = mobjControl.Workflow();
+std::shared_ptr<PropertyCollection> PropertiesOf(const Vantrel& pobjControl) {
+  const auto workflow = pobjControl.Workflow();
   if (!workflow) return nullptr;
   const PropertyBuilder::Options yesNo = {{"True", true}, {"False", false}};
   PropertyBuilder records;
@@ -87,8 +103,8 @@ std::shared_ptr<PropertyCollection> ControlProperties::Records() {
   AddPlaces(start, *workflow, &Node::InArcs);
   auto& end = records.Add("EndPlace", vntPropertyText, "Name of the ending place", NameOrNone(workflow->EndPlace()));
   AddPlaces(end, *workflow, &Node::OutArcs);
-  records.Add("BackColor", vntPropertyColor, "Chart's background color.", mobjControl.BackColor());
-  if (mobjControl.CaseTestingEnabled) {
+  records.Add("BackColor", vntPropertyColor, "Chart's background color.", pobjControl.BackColor());
+  if (pobjControl.CaseTestingEnabled) {
     records.Add("KeepHistory", vntPropertyYesNo, "Determines whether a detailed case hisory is kept.", workflow->KeepHistory, yesNo);
     records.Add("CaseTracking", vntPropertyYesNo, "Turns token tracking on or off.", workflow->CaseTracking,
                 {{"On", true}, {"Off", false}});
@@ -98,32 +114,15 @@ std::shared_ptr<PropertyCollection> ControlProperties::Records() {
   return records.Done();
 }
 
-bool ControlProperties::StoreInWorkflow(const std::string& pstrPropName, const Variant& pvarValue) {
-  if (pstrPropName == "StartPlace") {
-    Shown().StartPlace = FindByName(Shown().Places, pvarValue.ToText());
-  } else if (pstrPropName == "EndPlace") {
-    Shown().EndPlace(FindByName(Shown().Places, pvarValue.ToText()));
-  } else if (pstrPropName == "KeepHistory") {
-    Shown().KeepHistory = pvarValue.ToBoolean();
-  } else if (pstrPropName == "CaseTracking") {
-    Shown().CaseTracking = pvarValue.ToBoolean();
-  } else if (pstrPropName == "RunStyle") {
-    Shown().RunStyle = static_cast<RunStyleConstant>(pvarValue.ToInt32());
-  } else {
-    return false;
-  }
-  return true;
-}
-
-void ControlProperties::Store(const std::string& pstrPropName, const Variant& pvarValue) {
-  if (StoreInWorkflow(pstrPropName, pvarValue)) {
-    Shown().Dirty(true);
+void StoreProperty(Vantrel& pobjControl, const std::string& pstrPropName, const Variant& pvarValue) {
+  if (StoreInWorkflow(pobjControl, pstrPropName, pvarValue)) {
+    ShownBy(pobjControl).Dirty(true);
   } else if (pstrPropName == "ShowGuards") {
-    ShowGuards(pvarValue.ToBoolean());
+    ShowOnArcs(pobjControl, &Workflow::ShowGuards, pvarValue.ToBoolean());
   } else if (pstrPropName == "ShowWeights") {
-    ShowWeights(pvarValue.ToBoolean());
+    ShowOnArcs(pobjControl, &Workflow::ShowWeights, pvarValue.ToBoolean());
   } else if (pstrPropName == "BackColor") {
-    BackColor(pvarValue.ToInt32());
+    SetBackColor(pobjControl, pvarValue.ToInt32());
   }
 }
 

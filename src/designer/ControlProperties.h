@@ -8,30 +8,16 @@
 
 namespace vantrel {
 
-class ControlProperties {
- public:
-  explicit ControlProperties(Vantrel& pobjControl) : mobjControl(pobjControl) {}
+void SetUseMode(Vantrel& pobjControl, UseModeConstant pintMode);
+/// Workflow::ShowWeights or ShowGuards. Error 91 without a workflow.
+void ShowOnArcs(Vantrel& pobjControl, bool Workflow::*pFlag, bool pblnOn);
+void SetBackColor(Vantrel& pobjControl, Color plngColor);
+/// Lets the user choose; nothing when it stays as it is. The control may be gone afterwards.
+void ChooseBackColor(Vantrel& pobjControl);
 
-  /// Empty for a mode that does not exist.
-  static std::string UseModeName(std::int32_t plngMode);
-  void UseMode(UseModeConstant pintMode);
-  void ShowWeights(bool pblnOn) { ShowOnArcs(&Workflow::ShowWeights, pblnOn); }
-  void ShowGuards(bool pblnOn) { ShowOnArcs(&Workflow::ShowGuards, pblnOn); }
-  void BackColor(Color plngColor);
-  /// Lets the user choose. Does nothing when they keep the value.
-  void ChooseBackColor();
-
-  /// Null without a workflow.
-  std::shared_ptr<PropertyCollection> Records();
-  /// Throws what the value's conversion throws, and Error 91 for a setting of the workflow without a workflow.
-  void Store(const std::string& pstrPropName, const Variant& pvarValue);
-
- private:
-  Workflow& Shown() const { return *Ref<Workflow>(mobjControl.Workflow()); }
-  void ShowOnArcs(bool Workflow::*pFlag, bool pblnOn);
-  bool StoreInWorkflow(const std::string& pstrPropName, const Variant& pvarValue);
-
-  Vantrel& mobjControl;
-};
+/// Null without a workflow.
+std::shared_ptr<PropertyCollection> PropertiesOf(const Vantrel& pobjControl);
+/// Throws what the value's conversion throws; Error 91 for a setting of the workflow while there is none.
+void StoreProperty(Vantrel& pobjControl, const std::string& pstrPropName, const Variant& pvarValue);
 
 }  // namespace vantrel

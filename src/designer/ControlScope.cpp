@@ -1,13 +1,13 @@
 #include "designer/ControlScope.h"
 
-#include "designer/Vantrel.h"
+#include "designer/ControlParts.h"
 
 namespace vantrel {
 
-ControlScope::ControlScope(const Vantrel& pobjControl) : mobjCall(*pobjControl.mobjState) {
+ControlScope::ControlScope(const Vantrel& pobjControl) : mobjCall(PartsOf(pobjControl).State) {
   // Reading a workflow makes it gobjWorkflow.
-  Ref<Workflow>& shown = pobjControl.mobjState->Workflow;
-  if (!(shown == pobjControl.mWorkflow)) shown = pobjControl.mWorkflow;
+  Ref<Workflow>& shown = PartsOf(pobjControl).State.Workflow;
+  if (!(shown == pobjControl.Workflow())) shown = pobjControl.Workflow();
 }
 
 }  // namespace vantrel

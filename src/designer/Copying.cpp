@@ -2,34 +2,38 @@
 
 #include <unordered_set>
 
-#include "designer/PastePlace.h"
+#include "designer/ControlParts.h"
 #include "designer/Selecting.h"
 
 namespace vantrel {
 
-void Copying::AddInnerArcs(ObjectCollection& pcolObjects) const {
-  const auto workflow = mobjControl.Workflow();
+namespace {
+
+void AddInnerArcs(const Vantrel& pobjControl, ObjectCollection& pcolObjects) {
+  const auto workflow = pobjControl.Workflow();
   if (!workflow) return;
   std::unordered_set<const ModelObject*> selected;
   for (const auto& object : pcolObjects) selected.insert(object.get());
   for (const auto& arc : workflow->Arcs) {
     const bool inner = selected.contains(arc->Place.get()) && selected.contains(arc->Transition.get());
-    if (inner && !selected.contains(arc.get())) Selecting::AddTo(pcolObjects, arc);
+    if (inner && !selected.contains(arc.get())) AddUnderKey(pcolObjects, arc);
   }
 }
 
-void Copying::Copy() {
-  const auto selection = mobjControl.Selection();
-  const bool isApart = selection->IsEmpty() || mobjControl.Comfort.PasteKeepsOriginals;
+}  // namespace
+
+void CopySelection(Vantrel& pobjControl) {
+  const auto selection = pobjControl.Selection();
+  const bool isApart = selection->IsEmpty() || pobjControl.Comfort.PasteKeepsOriginals;
   const auto copied = isApart ? std::make_shared<ObjectCollection>() : selection;
   if (isApart) {
-    for (const auto& object : *selection) Selecting::AddTo(*copied, object);
+    for (const auto& object : *selection) AddUnderKey(*copied, object);
   }
-  AddInnerArcs(*copied);
-  mobjControl.Clipboard = copied;
+  AddInnerArcs(pobjControl, *copied);
+  pobjControl.Clipboard = copied;
   PastePlace::Objects objects;
   for (const auto& object : *copied) objects.push_back(object);
-  mobjControl.mobjPastePlace->Copied(mobjControl, objects);
+  PartsOf(pobjControl).PastePlace.Copied(pobjControl, objects);
 }
 
 }  // namespace vantrel

@@ -7,16 +7,6 @@ namespace vantrel {
 
 /// Makes the selection's own collection the clipboard, not a copy of it, and adds the arcs whose two ends are selected. With
 /// Comfort::PasteKeepsOriginals the clipboard is a separate collection.
-class Copying {
- public:
-  explicit Copying(Vantrel& pobjControl) : mobjControl(pobjControl) {}
-
-  void Copy();
-
- private:
-  void AddInnerArcs(ObjectCollection& pcolObjects) const;
-
-  Vantrel& mobjControl;
-};
+void CopySelection(Vantrel& pobjControl);
 
 }  // namespace vantrel

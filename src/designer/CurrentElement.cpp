@@ -1,6 +1,7 @@
 #include "designer/CurrentElement.h"
 
 #include "designer/ChartObjects.h"
+#include "designer/ControlParts.h"
 #include "designer/HostEvents.h"
 #include "designer/Selecting.h"
 
@@ -10,51 +11,51 @@ namespace {
 
 bool IsSegment(const Element& pobjElement) { return pobjElement.Family() == ctlLineFamily && pobjElement.Index() > 0; }
 
-}  // namespace
-
-void CurrentElement::DropHighlight() {
-  const Element* element = mobjControl.mobjCurrentControl.get();
-  const auto& workflow = mobjControl.Workflow();
+void DropHighlight(const Vantrel& pobjControl) {
+  const Element* element = PartsOf(pobjControl).CurrentControl.get();
+  const auto& workflow = pobjControl.Workflow();
   if (!element || !workflow || !element->Visible() || !IsSegment(*element)) return;
   const auto segment = workflow->Vectors.Find(element->Tag());
   if (!segment || !segment->Arc()) return;
-  const bool staysSelected = mobjControl.Comfort.ChosenIsSeen && segment->Selected();
+  const bool staysSelected = pobjControl.Comfort.ChosenIsSeen && segment->Selected();
   if (!staysSelected) segment->Arc()->RemoveFocus();
 }
 
 // A click on one object replaces a selection of one; a click on one of several keeps them. Marks and the rubber band repaint what
 // they covered, so the chart is not drawn again: a click takes no longer on a large chart.
-void CurrentElement::KeepSelectionOf(const std::shared_ptr<ModelObject>& pobjObject) {
-  if (mobjControl.Selection()->Count() >= 2 && mobjControl.InSelections(pobjObject)) return;
-  Selecting(mobjControl).SelectOnly(pobjObject);
-  mobjControl.MultiSelect.Visible(false);
+void KeepSelectionOf(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjObject) {
+  if (pobjControl.Selection()->Count() >= 2 && pobjControl.InSelections(pobjObject)) return;
+  SelectOnly(pobjControl, pobjObject);
+  pobjControl.MultiSelect.Visible(false);
 }
 
-void CurrentElement::Mark(Element& pobjElement, const std::shared_ptr<ModelObject>& pobjObject) {
+void Mark(Vantrel& pobjControl, Element& pobjElement, const std::shared_ptr<ModelObject>& pobjObject) {
   if (pobjElement.Family() == ctlLineFamily) {
-    mobjControl.FocusFrame.Visible(false);
+    pobjControl.FocusFrame.Visible(false);
     const auto vector = std::dynamic_pointer_cast<Vector>(pobjObject);
     if (vector && IsSegment(pobjElement)) vector->Arc()->Setfocus();
     return;
   }
-  mobjControl.FocusFrame.SelectedControl(&pobjElement);
-  if (pobjElement.Family() == ctlImageFamily) KeepSelectionOf(pobjObject);
+  pobjControl.FocusFrame.SelectedControl(&pobjElement);
+  if (pobjElement.Family() == ctlImageFamily) KeepSelectionOf(pobjControl, pobjObject);
 }
 
-void CurrentElement::Set(const Ref<Element>& pobjElement) {
+}  // namespace
+
+void SetCurrentControl(Vantrel& pobjControl, const Ref<Element>& pobjElement) {
   const auto element = pobjElement;  // NOLINT(performance-unnecessary-copy-initialization): the caller's may be the control's own
-  DropHighlight();
+  DropHighlight(pobjControl);
   if (!element) {
-    mobjControl.FocusFrame.SelectedControl(nullptr);
-    mobjControl.mobjCurrentControl = nullptr;
+    pobjControl.FocusFrame.SelectedControl(nullptr);
+    PartsOf(pobjControl).CurrentControl = nullptr;
     return;
   }
-  const auto object = mobjControl.GetVNTRObject(element->Tag());
+  const auto object = pobjControl.GetVNTRObject(element->Tag());
   if (!object) throw Error(vntErrObjectNotSet);
-  if (!IsSelected(*object)) Selecting(mobjControl).Add(object);
-  if (mobjControl.UseMode() == vntDesign) Mark(*element, object);
-  mobjControl.mobjCurrentControl = element;
-  RaiseForObject(mobjControl, &Vantrel::OnSelected, object);
+  if (!IsSelected(*object)) AddToSelection(pobjControl, object);
+  if (pobjControl.UseMode() == vntDesign) Mark(pobjControl, *element, object);
+  PartsOf(pobjControl).CurrentControl = element;
+  RaiseForObject(pobjControl, &Vantrel::OnSelected, object);
 }
 
 }  // namespace vantrel

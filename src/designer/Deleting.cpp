@@ -7,39 +7,39 @@
 
 namespace vantrel {
 
-std::vector<std::shared_ptr<ModelObject>> Deleting::Doomed() const {
+std::vector<std::shared_ptr<ModelObject>> DoomedObjects(const Vantrel& pobjControl) {
   std::vector<std::shared_ptr<ModelObject>> objects;
-  const auto selection = mobjControl.Selection();
+  const auto selection = pobjControl.Selection();
   for (const auto& object : *selection) objects.push_back(object);
-  const Element* current = mobjControl.CurrentControl().get();
+  const Element* current = pobjControl.CurrentControl().get();
   if (objects.empty() && current) {
-    if (auto object = mobjControl.GetVNTRObject(current->Tag())) objects.push_back(std::move(object));
+    if (auto object = pobjControl.GetVNTRObject(current->Tag())) objects.push_back(std::move(object));
   }
   return objects;
 }
 
-void Deleting::DeleteObject(const std::shared_ptr<ModelObject>& pobjObject) {
+void DeleteObject(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjObject) {
   const auto object = pobjObject;  // NOLINT(performance-unnecessary-copy-initialization): it may be the selection's share, which goes
-  const auto workflow = mobjControl.Workflow();
+  const auto workflow = pobjControl.Workflow();
   if (!workflow || !object) throw Error(vntErrObjectNotSet);
   workflow->Dirty(true);
   const auto chartObject = std::dynamic_pointer_cast<ChartObject>(object);
-  if (chartObject && chartObject->Kind() != ChartKind::Elbow) Selecting(mobjControl).Forget(workflow->Remove(chartObject));
-  mobjControl.CurrentControl(nullptr);
+  if (chartObject && chartObject->Kind() != ChartKind::Elbow) ForgetObjects(pobjControl, workflow->Remove(chartObject));
+  pobjControl.CurrentControl(nullptr);
   workflow->Dirty(true);
 }
 
-void Deleting::DeleteSelection() {
-  const auto workflow = mobjControl.Workflow();
-  const auto objects = Doomed();
-  mobjControl.Selection(nullptr);
+void DeleteSelection(Vantrel& pobjControl) {
+  const auto workflow = pobjControl.Workflow();
+  const auto objects = DoomedObjects(pobjControl);
+  pobjControl.Selection(nullptr);
   for (const auto& object : objects) {
-    if (IsPartOf(*object, *workflow)) DeleteObject(object);
+    if (IsPartOf(*object, *workflow)) DeleteObject(pobjControl, object);
   }
-  mobjControl.Selection(nullptr);
-  mobjControl.CurrentControl(nullptr);
-  mobjControl.Dirty(true);
-  mobjControl.Refresh();
+  pobjControl.Selection(nullptr);
+  pobjControl.CurrentControl(nullptr);
+  pobjControl.Dirty(true);
+  pobjControl.Refresh();
 }
 
 }  // namespace vantrel

@@ -8,20 +8,12 @@
 
 namespace vantrel {
 
-/// Removes the objects from the workflow, the chart, the selection and the firing stack. Copies on the clipboard can still be pasted.
-class Deleting {
- public:
-  explicit Deleting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
+// Objects leave the workflow, the chart, the selection and the firing stack. Copies on the clipboard can still be pasted.
 
-  /// The selection, or the object of the current element when nothing is selected.
-  std::vector<std::shared_ptr<ModelObject>> Doomed() const;
-  /// Deletes Doomed.
-  void DeleteSelection();
-  /// Error 5 when the workflow does not have the object.
-  void DeleteObject(const std::shared_ptr<ModelObject>& pobjObject);
-
- private:
-  Vantrel& mobjControl;
-};
+/// What DeleteSelection takes: the selection, or the object of the current element when nothing is selected.
+std::vector<std::shared_ptr<ModelObject>> DoomedObjects(const Vantrel& pobjControl);
+void DeleteSelection(Vantrel& pobjControl);
+/// Error 5 when the workflow does not have the object.
+void DeleteObject(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjObject);
 
 }  // namespace vantrel

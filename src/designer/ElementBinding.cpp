@@ -22,111 +22,117 @@ void SizeLabel(Label& pobjLabel, float& psngWidth, float& psngHeight) {
   pobjLabel.Resize(psngWidth, psngHeight);
 }
 
-}  // namespace
+using PicturePtr = std::shared_ptr<const Picture>;
 
 template <class E>
-E& ElementBinding::Renew(ElementFamily<E>& pobjFamily, Ref<E>& pobjMember, const std::string& pstrKey) {
-  if (pobjMember && pobjMember->Surface() == &mobjSurface) pobjMember->Unload();
+E& Renew(const ChartSurface& pobjSurface, ElementFamily<E>& pobjFamily, Ref<E>& pobjMember, const std::string& pstrKey) {
+  if (pobjMember && pobjMember->Surface() == &pobjSurface) pobjMember->Unload();
   const auto element = pobjFamily.New();
   element->Tag(pstrKey);
   pobjMember = element;
   return *element;
 }
 
-Image& ElementBinding::NewImage(Ref<Image>& pobjMember, const std::string& pstrKey, const PicturePtr& pobjPicture) {
-  Image& image = Renew(mobjSurface.ctlImage, pobjMember, pstrKey);
+Image& NewImage(ChartSurface& pobjSurface, Ref<Image>& pobjMember, const std::string& pstrKey, const PicturePtr& pobjPicture) {
+  Image& image = Renew(pobjSurface, pobjSurface.ctlImage, pobjMember, pstrKey);
   image.Picture(pobjPicture);
   return image;
 }
 
-Label& ElementBinding::NewLabel(ElementFamily<Label>& pobjFamily, Ref<Label>& pobjMember, const std::string& pstrKey,
-                                const std::string& pstrCaption) {
-  Label& label = Renew(pobjFamily, pobjMember, pstrKey);
+Label& NewLabel(ChartSurface& pobjSurface, ElementFamily<Label>& pobjFamily, Ref<Label>& pobjMember, const std::string& pstrKey,
+                const std::string& pstrCaption) {
+  Label& label = Renew(pobjSurface, pobjFamily, pobjMember, pstrKey);
   label.Caption(pstrCaption);
   label.Alignment(kCentred);
   return label;
 }
 
-void ElementBinding::BindNode(Node& pobjNode, const PicturePtr& pobjPicture) {
+void BindNode(Vantrel& pobjControl, Node& pobjNode, const PicturePtr& pobjPicture) {
+  ChartSurface& chart = pobjControl.ChartArea;
   Select(pobjNode, false);
-  Image& image = NewImage(pobjNode.Image, pobjNode.Key, pobjPicture);
+  Image& image = NewImage(chart, pobjNode.Image, pobjNode.Key, pobjPicture);
   image.MoveTo(pobjNode.Left(), pobjNode.Top());
   image.Visible(true);
-  NewImage(pobjNode.InConnector, pobjNode.Key, mobjControl.ImageList->Find("InputLeft"));
-  NewImage(pobjNode.OutConnector, pobjNode.Key, mobjControl.ImageList->Find("OutputHorizontal"));
-  Label& caption = NewLabel(mobjSurface.ctlLabel, pobjNode.CaptionLabel, pobjNode.Key, pobjNode.Caption());
+  NewImage(chart, pobjNode.InConnector, pobjNode.Key, pobjControl.ImageList->Find("InputLeft"));
+  NewImage(chart, pobjNode.OutConnector, pobjNode.Key, pobjControl.ImageList->Find("OutputHorizontal"));
+  Label& caption = NewLabel(chart, chart.ctlLabel, pobjNode.CaptionLabel, pobjNode.Key, pobjNode.Caption());
   SizeLabel(caption, pobjNode.CaptionWidth, pobjNode.CaptionHeight);
 }
 
-void ElementBinding::RequirePicture(const Place& pobjPlace) const {
-  const std::string& key = pobjPlace.DisabledImageKey;
-  if (!mobjControl.ImageList->Find(key)) throw Error(vntErrElementNotFound, "Element not found: the picture \"" + key + "\"");
-}
-
-void ElementBinding::RequirePicture(const Transition& pobjTransition) const {
-  if (mobjControl.ImageList->Find(pobjTransition.DisabledImageKey) || mobjControl.ImageList->Find("Transition")) return;
-  throw Error(vntErrElementNotFound);
-}
-
-void ElementBinding::Bind(Place& pobjPlace) {
-  RequirePicture(pobjPlace);
-  BindNode(pobjPlace, mobjControl.ImageList->Find(pobjPlace.DisabledImageKey));
-  NewLabel(mobjSurface.lblCount, pobjPlace.CountLabel, pobjPlace.Key, "").AutoSize(true);
-  pobjPlace.Image->BringToFront();
-}
-
-void ElementBinding::Bind(Transition& pobjTransition) {
-  RequirePicture(pobjTransition);
-  auto picture = mobjControl.ImageList->Find(pobjTransition.DisabledImageKey);
-  if (!picture) {
-    pobjTransition.DisabledImageKey = "Transition";
-    pobjTransition.EnabledImageKey = "TransitionEnabled";
-    picture = mobjControl.ImageList->Find(pobjTransition.DisabledImageKey);
-  }
-  BindNode(pobjTransition, picture);
-  pobjTransition.Image->BringToFront();
-}
-
-void ElementBinding::BindLabels(Arc& pobjArc) {
+void BindLabels(ChartSurface& pobjSurface, Arc& pobjArc) {
   const std::string guard = pobjArc.Guard().empty() ? std::string() : "[" + pobjArc.Guard() + "]";
-  Label& caption = NewLabel(mobjSurface.ctlLabel, pobjArc.CaptionLabel, pobjArc.Key, guard);
+  Label& caption = NewLabel(pobjSurface, pobjSurface.ctlLabel, pobjArc.CaptionLabel, pobjArc.Key, guard);
   caption.Resize(pobjArc.CaptionWidth(), pobjArc.CaptionHeight());
-  Label& weight = NewLabel(mobjSurface.ctlLabel, pobjArc.WeightLabel, pobjArc.Key, pobjArc.Weight());
+  Label& weight = NewLabel(pobjSurface, pobjSurface.ctlLabel, pobjArc.WeightLabel, pobjArc.Key, pobjArc.Weight());
   float width = pobjArc.WeightWidth(), height = pobjArc.WeightHeight();
   SizeLabel(weight, width, height);
 }
 
-void ElementBinding::BindSegments(const std::vector<Vector*>& pcolChain) {
+void BindSegments(ChartSurface& pobjSurface, const std::vector<Vector*>& pcolChain) {
   for (Vector* segment : pcolChain) {
-    Line& line = Renew(mobjSurface.ctlLine, segment->LineControl, segment->Key);
+    Line& line = Renew(pobjSurface, pobjSurface.ctlLine, segment->LineControl, segment->Key);
     line.BorderWidth(segment->LineWidth());
     segment->Draw();
   }
 }
 
-void ElementBinding::BindBendPoint(Elbow& pobjElbow) {
+void BindBendPoint(ChartSurface& pobjSurface, Elbow& pobjElbow) {
   pobjElbow.Selected(false);
-  Image& handle = Renew(mobjSurface.ctlHandle, pobjElbow.Handle, pobjElbow.Key);
+  Image& handle = Renew(pobjSurface, pobjSurface.ctlHandle, pobjElbow.Handle, pobjElbow.Key);
   pobjElbow.CentreHandle(pobjElbow.InVector()->X2(), pobjElbow.InVector()->Y2());
   pobjElbow.Visible(false);
   handle.BringToFront();
 }
 
-void ElementBinding::Bind(Arc& pobjArc) {
+}  // namespace
+
+void RequirePicture(const Vantrel& pobjControl, const Place& pobjPlace) {
+  const std::string& key = pobjPlace.DisabledImageKey;
+  if (!pobjControl.ImageList->Find(key)) throw Error(vntErrElementNotFound, "Element not found: the picture \"" + key + "\"");
+}
+
+void RequirePicture(const Vantrel& pobjControl, const Transition& pobjTransition) {
+  if (pobjControl.ImageList->Find(pobjTransition.DisabledImageKey) || pobjControl.ImageList->Find("Transition")) return;
+  throw Error(vntErrElementNotFound);
+}
+
+void Bind(Vantrel& pobjControl, Place& pobjPlace) {
+  RequirePicture(pobjControl, pobjPlace);
+  ChartSurface& chart = pobjControl.ChartArea;
+  BindNode(pobjControl, pobjPlace, pobjControl.ImageList->Find(pobjPlace.DisabledImageKey));
+  NewLabel(chart, chart.lblCount, pobjPlace.CountLabel, pobjPlace.Key, "").AutoSize(true);
+  pobjPlace.Image->BringToFront();
+}
+
+void Bind(Vantrel& pobjControl, Transition& pobjTransition) {
+  RequirePicture(pobjControl, pobjTransition);
+  auto picture = pobjControl.ImageList->Find(pobjTransition.DisabledImageKey);
+  if (!picture) {
+    pobjTransition.DisabledImageKey = "Transition";
+    pobjTransition.EnabledImageKey = "TransitionEnabled";
+    picture = pobjControl.ImageList->Find(pobjTransition.DisabledImageKey);
+  }
+  BindNode(pobjControl, pobjTransition, picture);
+  pobjTransition.Image->BringToFront();
+}
+
+void Bind(Vantrel& pobjControl, Arc& pobjArc) {
+  ChartSurface& chart = pobjControl.ChartArea;
   Select(pobjArc, false);
-  BindLabels(pobjArc);
+  BindLabels(chart, pobjArc);
   if (pobjArc.Segments().empty()) pobjArc.AddSegment();
   const auto chain = pobjArc.LinkSegments();
-  BindSegments(chain);
+  BindSegments(chart, chain);
   for (const Vector* segment : chain) {
     for (Elbow* elbow : segment->Elbows()) {
-      if (elbow->InVector() == segment) BindBendPoint(*elbow);
+      if (elbow->InVector() == segment) BindBendPoint(chart, *elbow);
     }
   }
 }
 
-void ElementBinding::Bind(Notation& pobjNotation) {
-  Label& label = Renew(mobjSurface.ctlLabel, pobjNotation.TextControl, pobjNotation.Key);
+void Bind(Vantrel& pobjControl, Notation& pobjNotation) {
+  ChartSurface& chart = pobjControl.ChartArea;
+  Label& label = Renew(chart, chart.ctlLabel, pobjNotation.TextControl, pobjNotation.Key);
   Select(pobjNotation, false);
   pobjNotation.Draw();
   label.Visible(true);

@@ -62,7 +62,7 @@ HostEvents::~HostEvents() noexcept(false) {
   if (thrown && std::uncaught_exceptions() == mintExceptions) std::rethrow_exception(thrown);
 }
 
-HostTurn::HostTurn() : mintCalls(gintCallsUnderWay) {
+HostTurn::HostTurn(Vantrel& pobjControl) : mobjControl(&pobjControl), mintCalls(gintCallsUnderWay) {
   gintCallsUnderWay = 0;
   const auto thrown = TellAll();
   if (!thrown) return;

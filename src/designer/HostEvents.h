@@ -40,15 +40,17 @@ class HostEvents {
 };
 
 /// Used round a menu or dialog that an operation opens: no call counts as being in progress while that runs an event loop. Delivers the
-/// waiting events first. The control may be gone afterwards.
+/// waiting events first. Tests false once the control is gone: a listener, the menu or the dialog may have destroyed it.
 class HostTurn {
  public:
-  HostTurn();
+  explicit HostTurn(Vantrel& pobjControl);
   ~HostTurn();
+  explicit operator bool() const { return static_cast<bool>(mobjControl); }
   HostTurn(const HostTurn&) = delete;
   HostTurn& operator=(const HostTurn&) = delete;
 
  private:
+  Ref<Vantrel> mobjControl;
   int mintCalls;
 };
 

@@ -21,82 +21,82 @@ std::shared_ptr<Elbow> BendPointGoingWith(const Vector& pobjSegment) {
   return nullptr;
 }
 
-}  // namespace
-
-Workflow& Inserting::Chart() const { return *Ref<Workflow>(mobjControl.Workflow()); }
+Workflow& ChartOf(const Vantrel& pobjControl) { return *Ref<Workflow>(pobjControl.Workflow()); }
 
 template <class N>
-void Inserting::Show(N& pobjNode, const std::string& pstrCaption) {
+void Show(Vantrel& pobjControl, N& pobjNode, const std::string& pstrCaption) {
   pobjNode.Caption(pobjNode.Name());
-  pobjNode.MoveTo(mobjControl.CurrentX, mobjControl.CurrentY);
-  ElementBinding(mobjControl).Bind(pobjNode);
+  pobjNode.MoveTo(pobjControl.CurrentX, pobjControl.CurrentY);
+  Bind(pobjControl, pobjNode);
   pobjNode.Caption(pstrCaption.empty() ? pobjNode.Name() : pstrCaption);
   pobjNode.Visible(true);
   pobjNode.Draw();
 }
 
-std::shared_ptr<Place> Inserting::InsertPlace(const std::string& pstrCaption) {
-  RequirePosition(mobjControl);
-  auto place = Chart().NewPlace();
-  Show(*place, pstrCaption);
+std::shared_ptr<Vector> CurrentSegment(const Vantrel& pobjControl) {
+  const Element* element = pobjControl.CurrentControl().get();
+  if (!element || element->Family() != ctlLineFamily) return nullptr;
+  return std::dynamic_pointer_cast<Vector>(pobjControl.GetVNTRObject(element->Tag()));
+}
+
+}  // namespace
+
+std::shared_ptr<Place> InsertPlace(Vantrel& pobjControl, const std::string& pstrCaption) {
+  RequirePosition(pobjControl);
+  auto place = ChartOf(pobjControl).NewPlace();
+  Show(pobjControl, *place, pstrCaption);
   place->Dirty(true);
-  Chart().Dirty(true);
+  ChartOf(pobjControl).Dirty(true);
   return place;
 }
 
-std::shared_ptr<Transition> Inserting::InsertTransition(const std::string& pstrCaption) {
-  RequirePosition(mobjControl);
-  auto transition = Chart().NewTransition();
-  Show(*transition, pstrCaption);
-  Chart().Dirty(true);
+std::shared_ptr<Transition> InsertTransition(Vantrel& pobjControl, const std::string& pstrCaption) {
+  RequirePosition(pobjControl);
+  auto transition = ChartOf(pobjControl).NewTransition();
+  Show(pobjControl, *transition, pstrCaption);
+  ChartOf(pobjControl).Dirty(true);
   return transition;
 }
 
-std::shared_ptr<Notation> Inserting::AddNotation() {
-  RequirePosition(mobjControl);
-  Workflow& workflow = Chart();
+std::shared_ptr<Notation> AddNotation(Vantrel& pobjControl) {
+  RequirePosition(pobjControl);
+  Workflow& workflow = ChartOf(pobjControl);
   auto note = workflow.NewNotation();
-  MoveTo(*note, mobjControl.CurrentX, mobjControl.CurrentY);
+  MoveTo(*note, pobjControl.CurrentX, pobjControl.CurrentY);
   note->Appearance = kFlat;
   note->BorderStyle = kFixedSingle;
   note->Width(kNoteWidth);
   note->Height(kNoteHeight);
   note->Dirty = true;
-  ElementBinding(mobjControl).Bind(*note);
+  Bind(pobjControl, *note);
   workflow.Dirty(true);
   return note;
 }
 
-std::shared_ptr<Vector> Inserting::CurrentSegment() const {
-  const Element* element = mobjControl.CurrentControl().get();
-  if (!element || element->Family() != ctlLineFamily) return nullptr;
-  return std::dynamic_pointer_cast<Vector>(mobjControl.GetVNTRObject(element->Tag()));
-}
-
-void Inserting::InsertElbow() {
-  const auto vector = CurrentSegment();
+void InsertElbow(Vantrel& pobjControl) {
+  const auto vector = CurrentSegment(pobjControl);
   if (!vector) return;
   vector->Arc()->InsertVector(vector);
-  mobjControl.Dirty(true);
+  pobjControl.Dirty(true);
 }
 
-void Inserting::RemoveElbow() {
-  const auto vector = CurrentSegment();
+void RemoveElbow(Vantrel& pobjControl) {
+  const auto vector = CurrentSegment(pobjControl);
   if (!vector) return;
   const auto arc = vector->Arc().Lock();
   if (arc->Segments().size() < 2) return;
-  mobjControl.CurrentControl(nullptr);
+  pobjControl.CurrentControl(nullptr);
   std::vector<std::shared_ptr<ChartObject>> leaving{vector};
   if (const auto bendPoint = BendPointGoingWith(*vector)) {
     if (bendPoint->Handle) bendPoint->Handle->Unload();
     leaving.push_back(bendPoint);
   }
-  Selecting(mobjControl).Forget(leaving);
+  ForgetObjects(pobjControl, leaving);
   arc->Selected(false);
   arc->RemoveVector(vector);
   arc->RemoveFocus();
-  if (mobjControl.Comfort.ChosenIsSeen) mobjControl.Selection(nullptr);
-  mobjControl.Dirty(true);
+  if (pobjControl.Comfort.ChosenIsSeen) pobjControl.Selection(nullptr);
+  pobjControl.Dirty(true);
 }
 
 }  // namespace vantrel

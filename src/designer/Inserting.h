@@ -8,27 +8,15 @@
 
 namespace vantrel {
 
-/// Inserts at the control's current position. Error 91 without a workflow.
-class Inserting {
- public:
-  explicit Inserting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
+// Objects are inserted at the control's current position. Error 91 without a workflow, 6 when the position is not finite.
 
-  std::shared_ptr<Place> InsertPlace(const std::string& pstrCaption);
-  std::shared_ptr<Transition> InsertTransition(const std::string& pstrCaption);
-  std::shared_ptr<Notation> AddNotation();
-  /// Splits the segment that is the current element, if one is.
-  void InsertElbow();
-  /// Removes that segment, unless it is the arc's only one.
-  void RemoveElbow();
+std::shared_ptr<Place> InsertPlace(Vantrel& pobjControl, const std::string& pstrCaption);
+std::shared_ptr<Transition> InsertTransition(Vantrel& pobjControl, const std::string& pstrCaption);
+std::shared_ptr<Notation> AddNotation(Vantrel& pobjControl);
 
- private:
-  /// The shown workflow.
-  Workflow& Chart() const;
-  template <class N>
-  void Show(N& pobjNode, const std::string& pstrCaption);
-  std::shared_ptr<Vector> CurrentSegment() const;
-
-  Vantrel& mobjControl;
-};
+/// Splits the segment that is the current element, if one is.
+void InsertElbow(Vantrel& pobjControl);
+/// Removes that segment, unless it is the arc's only one.
+void RemoveElbow(Vantrel& pobjControl);
 
 }  // namespace vantrel

@@ -20,7 +20,7 @@ void Vantrel::Resize(float psngWidth, float psngHeight) {
   ChartArea.Scale(width, height);
   VScroll.Area({left, 0, left + thickness, height});
   HScroll.Area({0, top, width, top + thickness});
-  if (mWorkflow) Refresh();
+  if (Workflow()) Refresh();
 }
 
 }  // namespace vantrel

@@ -3,15 +3,16 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <unordered_map>
 #include <unordered_set>
 
 #include "designer/ChartObjects.h"
+#include "designer/ControlParts.h"
 #include "designer/CurrentPosition.h"
 #include "designer/Deleting.h"
 #include "designer/ElementBinding.h"
 #include "designer/FreeNames.h"
 #include "designer/HostEvents.h"
-#include "designer/PastePlace.h"
 #include "designer/Selecting.h"
 
 namespace vantrel {
@@ -24,13 +25,39 @@ void RequireKeysFor(std::size_t plngCount, const Collection<T>& pcolItems) {
   if (plngCount > static_cast<std::size_t>(kLargest - pcolItems.LargestKeyNumber())) throw Error(vntErrOverflow);
 }
 
-}  // namespace
+class Pasting {
+ public:
+  explicit Pasting(Vantrel& pobjControl) : mobjControl(pobjControl) {}
+
+  void Paste();
+
+ private:
+  using Objects = std::vector<std::shared_ptr<ModelObject>>;
+
+  void ChoosePlace(const Objects& pcolObjects);
+  void MakeRoom();
+  void RequirePictures(const Objects& pcolObjects) const;
+  void RequireKeys(const Objects& pcolObjects) const;
+  void ChooseNames(const Objects& pcolObjects);
+  void PasteAll(const Objects& pcolObjects);
+  void PasteNotation(const std::shared_ptr<Notation>& pobjFrom);
+  template <class N>
+  void PasteNode(const std::shared_ptr<N>& pobjFrom, Collection<N>& pcolNodes);
+  void PasteArc(const Arc& pobjFrom);
+  /// The selection lists it under the key of the object that it was copied from.
+  void SelectCopy(const ModelObject& pobjFrom, const std::shared_ptr<ModelObject>& pobjCopy);
+
+  Vantrel& mobjControl;
+  std::shared_ptr<Workflow> mobjWorkflow;
+  std::unordered_map<const ModelObject*, std::string> mNames;                    // of the copies
+  std::unordered_map<const ModelObject*, std::shared_ptr<ModelObject>> mCopies;  // by what they were copied from
+  float msngShiftX = 0, msngShiftY = 0;
+};
 
 void Pasting::RequirePictures(const Objects& pcolObjects) const {
-  const ElementBinding binding(mobjControl);
   for (const auto& object : pcolObjects) {
-    if (const auto* place = dynamic_cast<const Place*>(object.get())) binding.RequirePicture(*place);
-    if (const auto* transition = dynamic_cast<const Transition*>(object.get())) binding.RequirePicture(*transition);
+    if (const auto* place = dynamic_cast<const Place*>(object.get())) RequirePicture(mobjControl, *place);
+    if (const auto* transition = dynamic_cast<const Transition*>(object.get())) RequirePicture(mobjControl, *transition);
   }
 }
 
@@ -53,7 +80,7 @@ void Pasting::RequireKeys(const Objects& pcolObjects) const {
 void Pasting::ChooseNames(const Objects& pcolObjects) {
   std::unordered_set<const ModelObject*> leaving;
   if (!mobjControl.Comfort.PasteKeepsOriginals) {
-    for (const auto& object : Deleting(mobjControl).Doomed()) leaving.insert(object.get());
+    for (const auto& object : DoomedObjects(mobjControl)) leaving.insert(object.get());
   }
   const auto leaves = [&](const ModelObject& object) { return leaving.contains(&object); };
   FreeNames places(mobjWorkflow->Places, leaves), transitions(mobjWorkflow->Transitions, leaves);
@@ -67,7 +94,7 @@ void Pasting::ChooseNames(const Objects& pcolObjects) {
 void Pasting::ChoosePlace(const Objects& pcolObjects) {
   const auto from = PastePlace::CornerOf(pcolObjects);
   const PastePlace::Corner current{mobjControl.CurrentX, mobjControl.CurrentY};
-  const auto to = mobjControl.Comfort.PasteKeepsOriginals ? mobjControl.mobjPastePlace->Take(mobjControl) : current;
+  const auto to = mobjControl.Comfort.PasteKeepsOriginals ? PartsOf(mobjControl).PastePlace.Take(mobjControl) : current;
   msngShiftX = from.Left - to.Left;
   msngShiftY = from.Top - to.Top;
 }
@@ -85,7 +112,7 @@ void Pasting::PasteNotation(const std::shared_ptr<Notation>& pobjFrom) {
   copy->Key = NextKey(mobjWorkflow->Notations, mobjWorkflow->Notations.KeyWord());
   MoveTo(*copy, static_cast<float>(copy->Left()) - msngShiftX, static_cast<float>(copy->Top()) - msngShiftY);
   copy->Dirty = true;
-  ElementBinding(mobjControl).Bind(*copy);
+  Bind(mobjControl, *copy);
   mobjWorkflow->Notations.Add(copy, copy->Key);
   SelectCopy(*pobjFrom, copy);
 }
@@ -98,7 +125,7 @@ void Pasting::PasteNode(const std::shared_ptr<N>& pobjFrom, Collection<N>& pcolN
   copy->Key = NextKey(pcolNodes, pcolNodes.KeyWord());
   copy->Left(copy->Left() - msngShiftX);
   copy->Top(copy->Top() - msngShiftY);
-  ElementBinding(mobjControl).Bind(*copy);
+  Bind(mobjControl, *copy);
   pcolNodes.Add(copy, copy->Key);
   copy->Visible(true);
   copy->Draw();
@@ -115,7 +142,7 @@ void Pasting::PasteArc(const Arc& pobjFrom) {
   const bool inward = arc->ArcDirection == vntInArc;
   (inward ? place->OutArcs : place->InArcs).Add(arc, arc->Key);
   (inward ? transition->InArcs : transition->OutArcs).Add(arc, arc->Key);
-  ElementBinding(mobjControl).Bind(*arc);
+  Bind(mobjControl, *arc);
   arc->Visible(true);
   arc->Draw();
 }
@@ -155,11 +182,15 @@ void Pasting::Paste() {
   if (!mobjControl.Workflow()) mobjControl.Workflow(mobjWorkflow);
   MakeRoom();
   PasteAll(objects);
-  Selecting(mobjControl).MakeSingleCurrent();
+  MakeSingleCurrent(mobjControl);
   mobjControl.Refresh();
   const auto pasted = mobjControl.Selection();
   mobjWorkflow->Dirty(true);
   RaiseLater(mobjControl, &Vantrel::OnPasted, pasted);
 }
+
+}  // namespace
+
+void PasteClipboard(Vantrel& pobjControl) { Pasting(pobjControl).Paste(); }
 
 }  // namespace vantrel

@@ -4,13 +4,12 @@
 #include <unordered_set>
 
 #include "designer/ChartObjects.h"
+#include "designer/ControlParts.h"
 #include "designer/gestures/ElementUnder.h"
 
 namespace vantrel {
 
 namespace {
-
-using Objects = std::unordered_set<const ModelObject*>;
 
 template <class T>
 void Unmark(const Collection<T>& pcolObjects) {
@@ -42,72 +41,71 @@ void Gather(ObjectCollection& pcolResult, Keep&& pKeep, const Collection<T>&... 
   (gather(pcolObjects), ...);
 }
 
+void ClearMarks(const Workflow& pobjWorkflow) {
+  Unmark(pobjWorkflow.Transitions);
+  Unmark(pobjWorkflow.Places);
+  Unmark(pobjWorkflow.Arcs);
+  Unmark(pobjWorkflow.Elbows);
+  Unmark(pobjWorkflow.Notations);
+}
+
 }  // namespace
 
-void Selecting::AddTo(ObjectCollection& pcolObjects, const std::shared_ptr<ModelObject>& pobjObject) {
+void AddUnderKey(ObjectCollection& pcolObjects, const std::shared_ptr<ModelObject>& pobjObject) {
   const std::string key = KeyOf(*pobjObject);
   pcolObjects.Add(pobjObject, pcolObjects.Contains(key) ? std::string() : key);
 }
 
-void Selecting::ClearMarks() const {
-  const Workflow& workflow = *mobjControl.Workflow();
-  Unmark(workflow.Transitions);
-  Unmark(workflow.Places);
-  Unmark(workflow.Arcs);
-  Unmark(workflow.Elbows);
-  Unmark(workflow.Notations);
-}
-
-void Selecting::Set(const std::shared_ptr<ObjectCollection>& pcolObjects) {
+void SetSelection(Vantrel& pobjControl, const std::shared_ptr<ObjectCollection>& pcolObjects) {
   const auto objects = pcolObjects;  // NOLINT(performance-unnecessary-copy-initialization): the caller's may be the control's own
-  if (!mobjControl.Workflow()) return;
+  if (!pobjControl.Workflow()) return;
   if (!objects) {
-    ClearMarks();
-    mobjControl.mcolSelection = std::make_shared<ObjectCollection>();
+    ClearMarks(*pobjControl.Workflow());
+    PartsOf(pobjControl).Selection = std::make_shared<ObjectCollection>();
     return;
   }
-  const auto before = mobjControl.mcolSelection;
+  const auto before = PartsOf(pobjControl).Selection;
   if (before != objects) {
     for (const auto& object : *before) Select(*object, false);
   }
   for (const auto& object : *objects) Select(*object, true);
-  mobjControl.mcolSelection = objects;
+  PartsOf(pobjControl).Selection = objects;
 }
 
-void Selecting::Replace(const std::shared_ptr<ObjectCollection>& pcolObjects) {
-  Set(pcolObjects);
-  const Element* current = mobjControl.CurrentControl().get();
-  if (!mobjControl.Comfort.ChosenIsSeen || !current) return;
-  const auto object = ObjectOf(mobjControl, *current);
-  if (!object || !IsSelected(*object)) mobjControl.CurrentControl(nullptr);
+void ReplaceSelection(Vantrel& pobjControl, const std::shared_ptr<ObjectCollection>& pcolObjects) {
+  SetSelection(pobjControl, pcolObjects);
+  const Element* current = pobjControl.CurrentControl().get();
+  if (!pobjControl.Comfort.ChosenIsSeen || !current) return;
+  const auto object = ObjectOf(pobjControl, *current);
+  if (!object || !IsSelected(*object)) pobjControl.CurrentControl(nullptr);
 }
 
-void Selecting::MakeSingleCurrent() {
-  const auto selection = mobjControl.Selection();
-  if (!mobjControl.Comfort.ChosenIsSeen || selection->Count() != 1) return;
-  if (const auto element = ElementOf(*selection->First())) mobjControl.CurrentControl(element);
+void MakeSingleCurrent(Vantrel& pobjControl) {
+  const auto selection = pobjControl.Selection();
+  if (!pobjControl.Comfort.ChosenIsSeen || selection->Count() != 1) return;
+  if (const auto element = ElementOf(*selection->First())) pobjControl.CurrentControl(element);
 }
 
-void Selecting::Add(const std::shared_ptr<ModelObject>& pobjObject) {
-  AddTo(*mobjControl.mcolSelection, pobjObject);
+void AddToSelection(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjObject) {
+  AddUnderKey(*PartsOf(pobjControl).Selection, pobjObject);
   Select(*pobjObject, true);
 }
 
-void Selecting::SelectOnly(const std::shared_ptr<ModelObject>& pobjObject) {
-  Set(nullptr);
-  Add(pobjObject);
+void SelectOnly(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjObject) {
+  SetSelection(pobjControl, nullptr);
+  AddToSelection(pobjControl, pobjObject);
 }
 
-void Selecting::Forget(const std::vector<std::shared_ptr<ChartObject>>& pcolObjects) {
-  const auto before = mobjControl.mcolSelection;
+void ForgetObjects(Vantrel& pobjControl, const std::vector<std::shared_ptr<ChartObject>>& pcolObjects) {
+  const auto before = PartsOf(pobjControl).Selection;
   bool wasSelected = false;
   for (const auto& object : pcolObjects) {
-    if (object == mobjControl.CurrentObject()) mobjControl.CurrentObject(nullptr);
+    if (object == pobjControl.CurrentObject()) pobjControl.CurrentObject(nullptr);
     // Copying puts arcs into the selection without marking them.
     wasSelected = wasSelected || IsSelected(*object) || before->Find(KeyOf(*object)) == object;
   }
   if (!wasSelected || before->IsEmpty()) return;
-  Objects leaving;
+  std::unordered_set<const ModelObject*> leaving;
   for (const auto& object : pcolObjects) leaving.insert(object.get());
   const auto rest = std::make_shared<ObjectCollection>();
   for (std::int32_t position = 1; position <= before->Count(); ++position) {
@@ -115,25 +113,25 @@ void Selecting::Forget(const std::vector<std::shared_ptr<ChartObject>>& pcolObje
     if (!leaving.contains(object.get())) rest->Add(object, before->KeyOf(position));
   }
   for (const auto& object : pcolObjects) Select(*object, false);
-  mobjControl.mcolSelection = rest;
+  PartsOf(pobjControl).Selection = rest;
 }
 
-std::shared_ptr<ObjectCollection> Selecting::All(const Workflow* pobjWorkflow, bool pblnBendPoints) {
+std::shared_ptr<ObjectCollection> AllObjects(const Vantrel& pobjControl) {
   auto objects = std::make_shared<ObjectCollection>();
-  const auto every = [&](const ModelObject& object) { return pblnBendPoints || !dynamic_cast<const Elbow*>(&object); };
-  const auto* w = pobjWorkflow;
-  if (w) Gather(*objects, every, w->Transitions, w->Places, w->Elbows, w->Notations);
+  const auto wanted = [&](const ChartObject& object) { return !pobjControl.Comfort.ChosenIsSeen || object.Kind() != ChartKind::Elbow; };
+  const auto* w = pobjControl.Workflow().get();
+  if (w) Gather(*objects, wanted, w->Transitions, w->Places, w->Elbows, w->Notations);
   return objects;
 }
 
-std::shared_ptr<ObjectCollection> Selecting::InRectangle(const Workflow* pobjWorkflow, const Rect& pobjArea, bool pblnBendPoints) {
+std::shared_ptr<ObjectCollection> ObjectsInside(const Vantrel& pobjControl, const Rect& pobjArea) {
   auto objects = std::make_shared<ObjectCollection>();
   const auto inside = [&](const auto& object) {
+    if (pobjControl.Comfort.ChosenIsSeen && object.Kind() == ChartKind::Elbow) return false;
     const auto* shape = Shape(object);
-    if (!pblnBendPoints && shape && shape->Family() == ctlHandleFamily) return false;
     return shape && IsInside(shape->Bounds(), pobjArea);
   };
-  const auto* w = pobjWorkflow;
+  const auto* w = pobjControl.Workflow().get();
   if (w) Gather(*objects, inside, w->Elbows, w->Transitions, w->Places, w->Notations);
   return objects;
 }

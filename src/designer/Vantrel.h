@@ -21,9 +21,7 @@
 
 namespace vantrel {
 
-class ControlHost;
-class PastePlace;
-class PopupMenus;
+struct ControlParts;
 
 /// What a control's selection and clipboard hold: model objects under their keys.
 using ObjectCollection = Collection<ModelObject>;
@@ -34,7 +32,7 @@ using ObjectCollection = Collection<ModelObject>;
 /// Hosts may read and write fields without side effects. Operations throw Error as documented. Input by mouse and keyboard never throws:
 /// its errors are shown in message boxes.
 class Vantrel final : public ModelObject {
-  std::unique_ptr<DesignerState> mobjState;  // shared with the model
+  std::unique_ptr<ControlParts> mobjParts;
 
  public:
   /// The toolkit must outlive the control. Between two calls the newest control's state is the process-wide one.
@@ -68,9 +66,9 @@ class Vantrel final : public ModelObject {
   std::string Name() const { return "Vantrel"; }
 
   /// Shows a workflow, or none: the only way in which a chart is built. The control shares it with the host.
-  const std::shared_ptr<vantrel::Workflow>& Workflow() const { return mWorkflow; }
+  const std::shared_ptr<vantrel::Workflow>& Workflow() const;
   void Workflow(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow);
-  UseModeConstant UseMode() const { return mobjState->UseMode; }
+  UseModeConstant UseMode() const;
   void UseMode(UseModeConstant pintMode);
   static std::string UseModeName(std::int32_t plngMode);
   bool Dirty() const { return mblnDirty; }
@@ -81,24 +79,24 @@ class Vantrel final : public ModelObject {
   void ShowWeights(bool pblnOn);
   bool ShowGuards() const;
   void ShowGuards(bool pblnOn);
-  Color BackColor() const { return mBackColor; }
+  Color BackColor() const;
   void BackColor(Color plngColor);
-  RunStyleConstant RunStyle() const { return mRunStyle; }
+  RunStyleConstant RunStyle() const;
   void RunStyle(RunStyleConstant pStyle);
-  bool LockControls() const { return mblnLockControls; }
+  bool LockControls() const;
   void LockControls(bool pblnOn);
   /// True lets object images made from now on take what the host drags.
   bool ContentsEnabled() const { return ChartArea.ctlImage.Template().AcceptsDrops(); }
   void ContentsEnabled(bool pblnOn) { ChartArea.ctlImage.Template().AcceptsDrops(pblnOn); }
-  bool RestrictTesting() const { return mblnRestrictTesting; }
-  void RestrictTesting(bool pblnOn) { mblnRestrictTesting = pblnOn; }
-  const std::shared_ptr<vantrel::Object>& CurrentObject() const { return mobjCurrentObject; }
-  void CurrentObject(const std::shared_ptr<vantrel::Object>& pobjObject) { mobjCurrentObject = pobjObject; }
+  bool RestrictTesting() const;
+  void RestrictTesting(bool pblnOn);
+  const std::shared_ptr<vantrel::Object>& CurrentObject() const;
+  void CurrentObject(const std::shared_ptr<vantrel::Object>& pobjObject);
   /// The element that the user clicked last. Setting it selects its object and frames it.
-  const Ref<Element>& CurrentControl() const { return mobjCurrentControl; }
+  const Ref<Element>& CurrentControl() const;
   void CurrentControl(const Ref<Element>& pobjElement);
   /// Never null. Setting null clears every mark.
-  const std::shared_ptr<ObjectCollection>& Selection() const { return mcolSelection; }
+  const std::shared_ptr<ObjectCollection>& Selection() const;
   void Selection(const std::shared_ptr<ObjectCollection>& pcolObjects);
 
   /// The model object of a key, or null for an unknown class word. Error 5 for an unknown key.
@@ -144,7 +142,7 @@ class Vantrel final : public ModelObject {
   void AlignSelection(const std::string& pstrDirection);
 
   /// While true, the next press on an object image completes an arc.
-  bool IsInsertingArc() const { return mblnInsertingArc; }
+  bool IsInsertingArc() const;
   /// Ends the arc gesture: flag, rubber-band line and pointer.
   void EndArcInsert();
   /// The design pop-up, with its entries enabled for the situation: for pop-ups as well as for a menu bar.
@@ -181,30 +179,9 @@ class Vantrel final : public ModelObject {
   Event<bool> OnDirtyChange;
 
  private:
-  friend class ArcInserting;
-  friend class ChartBuilder;
-  friend class ControlHost;
-  friend class ControlProperties;
-  friend class ControlScope;
-  friend class Copying;
-  friend class CurrentElement;
-  friend class Pasting;
-  friend class Selecting;
+  friend ControlParts& PartsOf(const Vantrel& pobjControl);
 
   Toolkit& mobjToolkit;
-  std::unique_ptr<ControlHost> mobjHost;  // what the model reaches as gobjVantrel
-  std::shared_ptr<PopupMenus> mobjMenus;  // shared: an entry of an open menu may destroy the control
-  std::unique_ptr<PastePlace> mobjPastePlace;
-  std::shared_ptr<vantrel::Workflow> mWorkflow;
-  Subscription mTokenAdded;
-  std::shared_ptr<ObjectCollection> mcolSelection;
-  Ref<Element> mobjCurrentControl;
-  std::shared_ptr<vantrel::Object> mobjCurrentObject;
-  Color mBackColor = kWhite;
-  RunStyleConstant mRunStyle = vntSilent;
-  bool mblnLockControls = false;
-  bool mblnRestrictTesting = false;
-  bool mblnInsertingArc = false;
 };
 
 }  // namespace vantrel

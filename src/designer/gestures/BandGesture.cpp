@@ -24,7 +24,7 @@ void BandGesture::Release(const PointerInput&) {
   if (mobjControl.Workflow()) mobjControl.Selection(mobjControl.GetSelections());
   Cancel();
   mobjControl.MultiSelectOn = !mobjControl.Selection()->IsEmpty();
-  Selecting(mobjControl).MakeSingleCurrent();
+  MakeSingleCurrent(mobjControl);
 }
 
 void BandGesture::Cancel() { mobjControl.MultiSelect.Visible(false); }

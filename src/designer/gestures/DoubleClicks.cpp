@@ -19,8 +19,7 @@ bool OpenObject(Vantrel& pobjControl, const std::shared_ptr<ModelObject>& pobjOb
   const auto place = std::dynamic_pointer_cast<Place>(pobjObject);
   if (!place || !IsTesting(pobjControl)) return false;
   const auto dialogs = pobjControl.Dialogs;
-  const HostTurn turn;
-  dialogs->ShowTokens(pobjControl, *place);
+  if (const HostTurn turn(pobjControl); turn) dialogs->ShowTokens(pobjControl, *place);
   return true;
 }
 
