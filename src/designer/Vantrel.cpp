@@ -126,7 +126,7 @@ std::shared_ptr<ModelObject> Vantrel::GetVNTRObject(const std::string& pstrKey) 
   return nullptr;
 }
 
-std::shared_ptr<PropertyCollection> Vantrel::GetProperties() { return PropertiesOf(*this); }
+SharedProperties Vantrel::GetProperties() { return PropertiesOf(*this); }
 
 void Vantrel::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) {
   const ControlScope scope(*this);

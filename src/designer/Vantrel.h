@@ -101,7 +101,7 @@ class Vantrel final : public ModelObject {
 
   /// The model object of a key, or null for an unknown class word. Error 5 for an unknown key.
   std::shared_ptr<ModelObject> GetVNTRObject(const std::string& pstrKey) const;
-  std::shared_ptr<PropertyCollection> GetProperties() override;
+  SharedProperties GetProperties() override;
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
   /// Makes and shows the default workflow: a start place, a transition after it, and an end place.

@@ -170,7 +170,9 @@ void WorkflowBuilder::FindEnds() {
 /// Null also for a place that is no longer in the file.
 std::shared_ptr<Place> WorkflowBuilder::PlaceOfSection(const char* pstrSetting) const {
   const auto found = mNumbers.find(SectionText(*mAssembly.Source, mNet.Section, pstrSetting));
-  return found == mNumbers.end() ? nullptr : std::dynamic_pointer_cast<Place>(mObjects[static_cast<std::size_t>(found->second)]);
+  if (found == mNumbers.end()) return nullptr;
+  const auto& node = mObjects[static_cast<std::size_t>(found->second)];
+  return node->Kind() == ChartKind::Place ? std::static_pointer_cast<Place>(node) : nullptr;
 }
 
 }  // namespace

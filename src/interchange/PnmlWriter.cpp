@@ -36,7 +36,7 @@ std::vector<std::shared_ptr<const Workflow>> WorkflowsWithin(const Workflow& pob
   for (std::size_t next = 0; next < workflows.size(); ++next) {
     const auto workflow = workflows[next];
     for (const auto& transition : workflow->Transitions) {
-      const auto inner = std::dynamic_pointer_cast<const Workflow>(transition->Object());
+      const auto inner = std::shared_ptr<const Workflow>(transition->EmbeddedWorkflow());
       if (inner && seen.insert(inner.get()).second) workflows.push_back(inner);
     }
   }
@@ -137,7 +137,7 @@ void PnmlWriter::WritePlace(const Place& pobjPlace) {
 
 void PnmlWriter::WriteTransition(const Transition& pobjTransition) {
   OpenNode("transition", pobjTransition);
-  const auto embedded = mNetIds.find(dynamic_cast<const Workflow*>(pobjTransition.Object().get()));
+  const auto embedded = mNetIds.find(pobjTransition.EmbeddedWorkflow().get());
   mSection.Write(pobjTransition, embedded == mNetIds.end() ? std::string() : embedded->second);
   WritePosition(pobjTransition);
   mXml.Close();

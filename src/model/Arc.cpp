@@ -63,14 +63,14 @@ std::vector<Elbow*> Arc::BendPoints() const {
   return workflow ? InOrderOf(workflow->Elbows, ElbowsOf(mcolSegments)) : std::vector<Elbow*>();
 }
 
-std::shared_ptr<Collection<Vector>> Arc::Vectors() const {
+SharedCollection<Collection<Vector>> Arc::Vectors() const {
   if (!Workflow) return nullptr;
   auto vectors = std::make_shared<Collection<Vector>>();
   for (Vector* segment : Segments()) vectors->Add(ShareOf(*segment), segment->Key);
   return vectors;
 }
 
-std::shared_ptr<Collection<Elbow>> Arc::Elbows() const {
+SharedCollection<Collection<Elbow>> Arc::Elbows() const {
   auto elbows = std::make_shared<Collection<Elbow>>();
   const auto* workflow = Workflow ? Workflow.get() : gobjWorkflow.get();
   if (!workflow) return elbows;
@@ -160,7 +160,7 @@ void Arc::WeightWidth(float psngWidth) {
   if (WeightLabel) WeightLabel->Width(psngWidth);
 }
 
-std::shared_ptr<PropertyCollection> Arc::GetProperties() {
+SharedProperties Arc::GetProperties() {
   PropertyBuilder records;
   records.Add("Name", vntPropertyText, "User provided name (should be unique).", Name()).ReadOnly = true;
   records.Add("Description", vntPropertyMultiLine, "Object description.", Description);
@@ -171,6 +171,7 @@ std::shared_ptr<PropertyCollection> Arc::GetProperties() {
 }
 
 void Arc::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
+  const auto keeper = KeepAlive();
   ModelObject::SetProperties(pcolProperties);
   Dirty = false;
 }
@@ -188,6 +189,7 @@ void Arc::Store(const std::string& pstrPropName, const Variant& pvarValue) {
 }
 
 void Arc::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) {
+  const auto keeper = KeepAlive();
   if (pstrPropName == "Name") return;
   if (!Guarded([&] { Store(pstrPropName, pvarValue); })) return;
   Dirty = true;

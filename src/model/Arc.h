@@ -10,6 +10,8 @@
 #include "model/ChartObject.h"
 #include "model/Enumerations.h"
 #include "model/Forward.h"
+#include "model/PlaceOfArc.h"
+#include "model/SharedCollection.h"
 #include "util/Collection.h"
 #include "util/Ref.h"
 
@@ -33,7 +35,7 @@ class Arc final : public ChartObject {
   Ref<Label> WeightLabel;
   bool StdPath = false;  ///< stored only
   Ref<vantrel::Transition> Transition;
-  Ref<vantrel::Place> Place;
+  PlaceOfArc Place{*this};
   ArcDirectionConstant ArcDirection = static_cast<ArcDirectionConstant>(0);  ///< 0 until set
   std::int32_t RecId = 0;
   bool Dirty = false;
@@ -80,12 +82,11 @@ class Arc final : public ChartObject {
   float WeightWidth() const { return msngWeightWidth; }
   void WeightWidth(float psngWidth);
 
-  /// A new collection of the segments that the workflow has, by their keys, in its order; null without a workflow. Keep it in a variable
-  /// while you walk over it: `for (... : *arc->Vectors())` uses one that is deleted.
-  std::shared_ptr<Collection<Vector>> Vectors() const;
+  /// A new collection of the segments that the workflow has, by their keys, in its order; null without a workflow.
+  [[nodiscard]] SharedCollection<Collection<Vector>> Vectors() const;
   /// A new collection of the bend points that the shown workflow has (the arc's own while none is shown), keyed by their
   /// keys, in its order; empty for a straight arc.
-  std::shared_ptr<Collection<Elbow>> Elbows() const;
+  [[nodiscard]] SharedCollection<Collection<Elbow>> Elbows() const;
   /// The same as plain pointers, from the arc's own workflow. Valid until an object is removed from it.
   std::vector<Vector*> Segments() const;
   std::vector<Elbow*> BendPoints() const;
@@ -108,14 +109,15 @@ class Arc final : public ChartObject {
   void Draw();
 
   /// Splits a segment of this arc in the middle and returns the new second half, which the workflow owns. Error 91 without
-  /// a workflow.
+  /// a workflow or for null, Error 5 for a segment of another arc.
   std::shared_ptr<Vector> InsertVector(const std::shared_ptr<Vector>& pobjVector);
-  /// Removes a segment, but not an arc's only one, and joins its neighbours. Error 5 when the workflow does not have it.
+  /// Removes a segment, but not an arc's only one, and joins its neighbours. Error 91 for null, Error 5 when the workflow does
+  /// not have it or another arc does.
   void RemoveVector(const std::shared_ptr<Vector>& pobjVector);
 
   /// Adds to a workflow an arc of the same direction, labels and path between two other objects, moved by as much as the place is. Its
   /// segments are linked and have bend points where this arc has them, but no lines or labels. The caller adds it to the ends' InArcs
-  /// and OutArcs.
+  /// and OutArcs. Error 91 for null.
   std::shared_ptr<Arc> Clone(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow, const std::shared_ptr<vantrel::Place>& pobjPlace,
                              const std::shared_ptr<vantrel::Transition>& pobjTransition) const;
 
@@ -123,7 +125,7 @@ class Arc final : public ChartObject {
   /// be read.
   void AssignValues(const Recordset& pobjRow);
 
-  std::shared_ptr<PropertyCollection> GetProperties() override;
+  SharedProperties GetProperties() override;
   /// Leaves the arc clean.
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
   /// Refuses "Name", which follows from the ends: changes nothing, not even the dirty mark.
@@ -134,6 +136,7 @@ class Arc final : public ChartObject {
   friend class Vector;
 
   void ShowFocus(bool pblnOn);
+  void RequireSegment(const Vector* pobjVector) const;
   void RemoveSegment(Vector& pobjVector);
   void GiveElements(const std::vector<Vector*>& pcolChain) const;
   void CopySettings(const Arc& pobjFrom);

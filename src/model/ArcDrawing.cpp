@@ -1,4 +1,4 @@
-// How an arc draws itself: connectors, end points, segments, bend points, labels, in this order.
+// How an arc draws itself: connectors, end points, segments, bend points, texts and places of the labels, in this order.
 #include <algorithm>
 #include <functional>
 #include <optional>
@@ -108,8 +108,8 @@ void Arc::Draw() {
   const bool isBent =
       std::any_of(mcolSegments.begin(), mcolSegments.end(), [](const Vector* segment) { return !segment->Elbows().empty(); });
   if (isBent) DrawBendPoints(*this);
+  if (Workflow) ShowLabels(*this, *Workflow);  // fits them, so they are placed afterwards
   if (!segments.empty()) PlaceLabels(*this, *segments.front());
-  if (Workflow) ShowLabels(*this, *Workflow);
 }
 
 }  // namespace vantrel

@@ -129,7 +129,13 @@ void Arc::RemoveSegment(Vector& pobjVector) {
   if (vector->LineControl) vector->LineControl->Unload();
 }
 
+void Arc::RequireSegment(const Vector* pobjVector) const {
+  if (!pobjVector) throw Error(vntErrObjectNotSet);
+  if (pobjVector->Arc() != this) throw Error(vntErrInvalidCall);
+}
+
 std::shared_ptr<Vector> Arc::InsertVector(const std::shared_ptr<Vector>& pobjVector) {
+  RequireSegment(pobjVector.get());
   vantrel::Workflow& workflow = *Workflow;
   const auto bendPoints = BendPoints();
   const auto vector = AddSegment();
@@ -144,7 +150,7 @@ std::shared_ptr<Vector> Arc::InsertVector(const std::shared_ptr<Vector>& pobjVec
   elbow->OutVector(vector);
   HalveGeometry(*pobjVector, *vector);
   if (auto* handle = elbow->Handle.get()) handle->BringToFront();
-  elbow->CentreHandle(vector->X1(), vector->Y1());
+  elbow->CentreHandleByWidth(vector->X1(), vector->Y1());
   workflow.Elbows.Add(elbow, elbow->Key);
   Dirty = true;
   vector->Visible(true);
@@ -156,6 +162,8 @@ std::shared_ptr<Vector> Arc::InsertVector(const std::shared_ptr<Vector>& pobjVec
 void Arc::RemoveVector(const std::shared_ptr<Vector>& pobjVector) {
   // The caller's may be the workflow's own share, which this releases. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
   const auto vector = pobjVector;
+  const auto keeper = KeepAlive();
+  RequireSegment(vector.get());
   vantrel::Workflow& workflow = *Workflow;
   if (workflow.Vectors.Find(vector->Key) != vector) throw Error(vntErrInvalidCall);
   const auto bendPoints = BendPoints();
@@ -194,6 +202,7 @@ void Arc::CopySettings(const Arc& pobjFrom) {
 
 std::shared_ptr<Arc> Arc::Clone(const std::shared_ptr<vantrel::Workflow>& pobjWorkflow, const std::shared_ptr<vantrel::Place>& pobjPlace,
                                 const std::shared_ptr<vantrel::Transition>& pobjTransition) const {
+  if (!pobjWorkflow || !pobjPlace || !pobjTransition) throw Error(vntErrObjectNotSet);
   const float dx = std::nearbyint(pobjPlace->Left() - Place->Left());
   const float dy = std::nearbyint(pobjPlace->Top() - Place->Top());
   auto arc = std::make_shared<Arc>();

@@ -26,6 +26,9 @@ class ChartObject : public ModelObject, public std::enable_shared_from_this<Char
   virtual std::optional<Rect> Bounds() const { return std::nullopt; }
   /// Moves the top-left corner of what has Bounds, and marks it dirty.
   virtual void MoveTo(float /*psngLeft*/, float /*psngTop*/) {}
+
+ protected:
+  std::shared_ptr<const void> KeepAlive() const override { return weak_from_this().lock(); }
 };
 
 /// A share in an object that is held by shared_ptr.

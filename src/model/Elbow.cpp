@@ -42,7 +42,7 @@ void Elbow::Attach(Ref<Vector>& pobjMember, const Ref<Vector>& pobjVector) {
 
 Arc& Elbow::OwnArc() const { return *(mobjInVector ? mobjInVector : mobjOutVector)->Arc(); }
 
-std::shared_ptr<PropertyCollection> Elbow::GetProperties() { return OwnArc().GetProperties(); }
+SharedProperties Elbow::GetProperties() { return OwnArc().GetProperties(); }
 
 void Elbow::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) { OwnArc().SetProperties(pcolProperties); }
 
@@ -85,6 +85,8 @@ void Elbow::CentreHandle(float psngX, float psngY) {
   msngTop = psngY - HandleHeight() / 2;
   if (Image* handle = Handle.get()) handle->MoveTo(msngLeft, msngTop);
 }
+
+void Elbow::CentreHandleByWidth(float psngX, float psngY) { CentreHandle(psngX, psngY + (HandleHeight() - HandleWidth()) / 2); }
 
 void Elbow::Visible(bool pblnOn) {
   mblnVisible = pblnOn;

@@ -41,6 +41,8 @@ class Elbow final : public ChartObject {
   void MoveTo(float psngLeft, float psngTop) override;
   /// Puts the handle round a point without moving the joint and without marking it dirty.
   void CentreHandle(float psngX, float psngY);
+  /// The same for a new bend point: half the width counts in both directions.
+  void CentreHandleByWidth(float psngX, float psngY);
 
   bool Visible() const { return mblnVisible; }
   void Visible(bool pblnOn);
@@ -51,7 +53,7 @@ class Elbow final : public ChartObject {
   void Dirty(bool pblnDirty);
 
   /// The arc's value; Error 91 without an arc.
-  std::shared_ptr<PropertyCollection> GetProperties() override;
+  SharedProperties GetProperties() override;
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 

@@ -6,7 +6,9 @@ namespace vantrel {
 
 void ModelObject::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
   if (!pcolProperties) throw Error(vntErrObjectNotSet);
-  for (const auto& record : *pcolProperties) {
+  const auto keeper = KeepAlive();
+  const auto records = pcolProperties;  // NOLINT(performance-unnecessary-copy-initialization): it may be the object's share
+  for (const auto& record : *records) {
     const Variant value = record->Value;
     SetProperty(record->Name, value);
   }

@@ -15,7 +15,7 @@ class ModelObject : public Object {
  public:
   /// New records of the object's current state, in the order in which a grid shows them. The caller owns them, unless the class says
   /// otherwise, as Token does.
-  virtual std::shared_ptr<PropertyCollection> GetProperties() = 0;
+  [[nodiscard]] virtual SharedProperties GetProperties() = 0;
 
   /// Stores the value of every record under its name, in the collection's order. Error 91 for null. Where a class stores some names
   /// directly in its fields, a value that does not convert throws its Error.
@@ -26,6 +26,8 @@ class ModelObject : public Object {
   virtual void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) = 0;
 
  protected:
+  /// A share in the object, for as long as it needs itself while listeners may let go of it; null for one that nobody shares.
+  virtual std::shared_ptr<const void> KeepAlive() const { return nullptr; }
   /// Runs one store and shows its Error in a message box. True when there was none.
   static bool Guarded(const std::function<void()>& pStore);
 };

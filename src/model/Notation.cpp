@@ -110,7 +110,7 @@ std::shared_ptr<Notation> Notation::Clone() const {
   return clone;
 }
 
-std::shared_ptr<PropertyCollection> Notation::GetProperties() {
+SharedProperties Notation::GetProperties() {
   PropertyBuilder records;
   const PropertyBuilder::Options yesNo = {{"True", true}, {"False", false}};
   records.Add("Caption", vntPropertyMultiLine, "Note text.", Caption);
@@ -173,6 +173,7 @@ void Notation::StoreText(const std::string& pstrPropName, const Variant& pvarVal
 }
 
 void Notation::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) {
+  const auto keeper = KeepAlive();
   const bool stored = Guarded([&] {
     if (!StoreLook(pstrPropName, pvarValue)) StoreText(pstrPropName, pvarValue);
   });

@@ -74,7 +74,7 @@ class Notation final : public ChartObject {
   /// that cannot be read.
   void AssignValues(const Recordset& pobjRow);
 
-  std::shared_ptr<PropertyCollection> GetProperties() override;
+  SharedProperties GetProperties() override;
   /// Redraws, even for an unknown name.
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 

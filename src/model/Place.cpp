@@ -26,7 +26,9 @@ Place::Place() : Node(kEnabledImage, kDisabledImage), TokenProperties(std::make_
 Place::Place(vantrel::Workflow& pobjWorkflow)
     : Node(kEnabledImage, kDisabledImage, pobjWorkflow), TokenProperties(std::make_shared<PropertyCollection>()) {}
 
-Place::~Place() = default;
+Place::~Place() {
+  for (Arc* arc : mcolArcs) arc->Place.mlngPosition = PlaceOfArc::kUnlisted;
+}
 
 void Place::AddToken(const std::shared_ptr<Token>& pobjToken) {
   if (!pobjToken) throw Error(vntErrInvalidCall);
@@ -52,7 +54,7 @@ void Place::TokensChanged() {
 void Place::TokenCount(float psngCount) {
   mTokenCount = psngCount;
   if (!mVisible || DesignerOf(Workflow).UseMode == vntRun) return;
-  if (Label* label = CountLabel.get()) label->Caption(std::to_string(static_cast<std::int64_t>(psngCount)));
+  if (Label* label = CountLabel.get()) label->Caption(Variant(psngCount).ToText());
   Draw();
 }
 
@@ -68,10 +70,9 @@ void Place::Visible(bool pblnOn) {
   mVisible = pblnOn;
   if (!Image) return;
   ShowElements(pblnOn);
-  for (const auto* arcs : {&InArcs, &OutArcs}) {
-    for (Collection<Arc>::Cursor cursor(*arcs); Arc* arc = cursor.Next();) {
-      if (arc->Place == this) arc->Visible(pblnOn);
-    }
+  const auto* workflow = Workflow.get();
+  for (Arc* arc : mcolArcs) {
+    if (workflow && workflow->Has(*arc)) arc->Visible(pblnOn);
   }
   if (pblnOn) Draw();
 }
@@ -100,7 +101,7 @@ void Place::DrawCount() {
   label->Visible(!label->Caption().empty() && label->Caption() != "0");
 }
 
-std::shared_ptr<PropertyCollection> Place::GetProperties() {
+SharedProperties Place::GetProperties() {
   PropertyBuilder records;
   records.Add("Name", vntPropertyText, "Unique name identifying this place on the workflow.", mName);
   records.Add("Caption", vntPropertyText, "Label used for charts and reports.", mCaption);
@@ -116,7 +117,9 @@ std::shared_ptr<PropertyCollection> Place::GetProperties() {
 
 void Place::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
   if (!pcolProperties) throw Error(vntErrObjectNotSet);
-  for (const auto& record : *pcolProperties) {
+  const auto keeper = KeepAlive();
+  const auto records = pcolProperties;  // NOLINT(performance-unnecessary-copy-initialization): it may be the object's share
+  for (const auto& record : *records) {
     const Variant value = record->Value;
     if (!StoreField(record->Name, value)) SetProperty(record->Name, value);
   }
@@ -134,6 +137,7 @@ void Place::Store(const std::string& pstrPropName, const Variant& pvarValue) {
 }
 
 void Place::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) {
+  const auto keeper = KeepAlive();
   if (!Guarded([&] { Store(pstrPropName, pvarValue); })) return;
   mblnDirty = true;
   MarkWorkflowDirty();

@@ -61,7 +61,7 @@ class Place final : public Node {
   /// Refuses a name that a place of the workflow already has, its own included (message box), and keeps the old one.
   void Name(const std::string& pstrName);
   using Node::Visible;
-  /// Shows or hides image, caption and the arcs that InArcs and OutArcs list; draws when showing. Without an image only the stored
+  /// Shows or hides image, caption and the workflow's arcs whose Place this is; draws when showing. Without an image only the stored
   /// value changes.
   void Visible(bool pblnOn) override;
   /// True when a case that waits here can go on; the image shows it.
@@ -71,7 +71,7 @@ class Place final : public Node {
   /// Does nothing while invisible, without a workflow, or in run mode.
   void Draw() override;
 
-  std::shared_ptr<PropertyCollection> GetProperties() override;
+  SharedProperties GetProperties() override;
   /// Name, caption and connector sides go straight into the fields, without check, redraw or mark.
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
@@ -83,6 +83,7 @@ class Place final : public Node {
 
  private:
   friend class CaseLink;
+  friend class PlaceOfArc;
   friend class TokenRules;
 
   // A token was given another case or mark by hand.
@@ -91,6 +92,7 @@ class Place final : public Node {
   void DrawCount();
   void Store(const std::string& pstrPropName, const Variant& pvarValue);
 
+  std::vector<Arc*> mcolArcs;  // every living arc whose Place this is, in no order
   Collection<Token> mcolTokens;
   // What TokenRules knows of the tokens, and after how many changes of the collection.
   mutable std::unique_ptr<TokenIndex> mobjIndex;  // only while there are many tokens

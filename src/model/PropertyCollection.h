@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/PropertyRecord.h"
+#include "model/SharedCollection.h"
 #include "util/Collection.h"
 #include "util/Object.h"
 
@@ -12,5 +13,7 @@ class PropertyCollection final : public Object, public Collection<PropertyRecord
  public:
   std::string Class() const override { return "VNTR.PropertyCollection.1"; }
 };
+
+using SharedProperties = SharedCollection<PropertyCollection>;
 
 }  // namespace vantrel

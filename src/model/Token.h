@@ -54,7 +54,7 @@ class Token final : public ModelObject, public CaseFields {
   void CaseEnabled(bool pblnOn);
 
   /// The CustomProperties themselves, not copies.
-  std::shared_ptr<PropertyCollection> GetProperties() override { return CustomProperties(); }
+  SharedProperties GetProperties() override { return CustomProperties(); }
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override { CustomProperties(pcolProperties); }
   /// The subflow's run that the token takes part in; null outside subflows and after that run has delivered.
   const Ref<SubflowRun>& Run() const { return mobjRun; }

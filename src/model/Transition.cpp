@@ -1,6 +1,8 @@
 #include "model/Transition.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "model/DesignerCall.h"
 #include "model/PropertyBuilder.h"
@@ -96,12 +98,14 @@ bool Transition::SwitchEnabled(bool pblnEnabled) {
 }
 
 void Transition::Object(const std::shared_ptr<vantrel::Object>& pobjObject) {
-  const auto workflow = std::dynamic_pointer_cast<vantrel::Workflow>(pobjObject);
+  const auto workflow = std::dynamic_pointer_cast<const vantrel::Workflow>(pobjObject);
   if (workflow && Workflow && workflow->Embeds(*Workflow)) {
     throw Error(vntErrInvalidCall, "A workflow cannot be embedded in itself: transition \"" + mName + "\".");
   }
   mobjObject = pobjObject;
 }
+
+std::shared_ptr<vantrel::Workflow> Transition::EmbeddedWorkflow() const { return std::dynamic_pointer_cast<vantrel::Workflow>(mobjObject); }
 
 void Transition::Subflow(const std::shared_ptr<vantrel::Workflow>& pobjSubflow) {
   if (mobjSubflow == pobjSubflow) return;
@@ -129,7 +133,7 @@ void Transition::DrawRoles() {
   if (auto* list = RolesList.get()) list->MoveTo(Left(), image->Top() + image->Height());
 }
 
-std::shared_ptr<PropertyCollection> Transition::GetProperties() {
+SharedProperties Transition::GetProperties() {
   PropertyBuilder records;
   records.Add("Name", vntPropertyText, "User provided name (should be unique).", mName);
   records.Add("Caption", vntPropertyText, "Label used for charts and reports.", mCaption);
@@ -153,7 +157,9 @@ std::shared_ptr<PropertyCollection> Transition::GetProperties() {
 
 void Transition::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
   if (!pcolProperties) throw Error(vntErrObjectNotSet);
-  for (const auto& record : *pcolProperties) {
+  const auto keeper = KeepAlive();
+  const auto records = pcolProperties;  // NOLINT(performance-unnecessary-copy-initialization): it may be the object's share
+  for (const auto& record : *records) {
     const Variant value = record->Value;
     if (record->Name == "OutputType") {
       mOutputType = static_cast<OutputTypes>(value.ToInt32());
@@ -183,6 +189,7 @@ void Transition::Store(const std::string& pstrPropName, const Variant& pvarValue
 }
 
 void Transition::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) {
+  const auto keeper = KeepAlive();
   if (!Guarded([&] { Store(pstrPropName, pvarValue); })) return;
   Dirty = true;
   MarkWorkflowDirty();

@@ -72,6 +72,8 @@ class Transition final : public Node {
 
   /// The embedded object: one of the host's, or a workflow to run as subflow. Shared with its other owners.
   const std::shared_ptr<vantrel::Object>& Object() const { return mobjObject; }
+  /// The embedded object when it is a workflow, otherwise null.
+  std::shared_ptr<vantrel::Workflow> EmbeddedWorkflow() const;
   /// Throws Error 5 for this transition's own workflow and for one that embeds it at any depth.
   void Object(const std::shared_ptr<vantrel::Object>& pobjObject);
   /// Forgets the firings whose subflow has not delivered yet and gives back their tokens. For a reset.
@@ -83,7 +85,7 @@ class Transition final : public Node {
   /// Nothing while invisible.
   void Draw() override;
 
-  std::shared_ptr<PropertyCollection> GetProperties() override;
+  SharedProperties GetProperties() override;
   /// Name, caption, types and connector sides go straight into the fields, without check, redraw or mark.
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
   /// Shows a message box for an unknown name, and marks the transition dirty all the same.

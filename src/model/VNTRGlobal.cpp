@@ -76,8 +76,10 @@ float InputConnectorY(const Node& pobjNode) {
 }
 
 void FitLabel(Label& pobjLabel, DesignerHost& pobjHost) {
+  const float left = pobjLabel.Left();
   pobjLabel.AutoSize(true);
   pobjLabel.AutoSize(false);
+  pobjLabel.Left(left);
   pobjHost.FrameControl();
 }
 

@@ -14,7 +14,7 @@ float OutputConnectorY(const Node& pobjNode);
 float InputConnectorX(const Node& pobjNode);
 float InputConnectorY(const Node& pobjNode);
 
-/// Gives the label the size of its text and fits the focus frame of the label's control again.
+/// Gives the label the size of its text, leaves its top-left corner where it is, and fits the focus frame of the label's control again.
 void FitLabel(Label& pobjLabel, DesignerHost& pobjHost = *gobjVantrel);
 
 }  // namespace vantrel

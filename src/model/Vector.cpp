@@ -1,5 +1,7 @@
 #include "model/Vector.h"
 
+#include <limits>
+
 #include "model/Arc.h"
 #include "model/Elbow.h"
 
@@ -46,10 +48,10 @@ void Vector::Place(float psngX1, float psngY1, float psngX2, float psngY2) {
   Draw();
 }
 
-void Vector::LineWidth(std::int16_t& pintPixels) {
-  pintPixels = std::max<std::int16_t>(1, pintPixels);
-  mintLineWidth = pintPixels;
-  if (Line* line = LineControl.get()) line->BorderWidth(pintPixels);
+void Vector::SetWidth(std::int64_t plngPixels) {
+  if (plngPixels > std::numeric_limits<std::int16_t>::max()) throw Error(vntErrOverflow);
+  mintLineWidth = static_cast<std::int16_t>(plngPixels);
+  if (Line* line = LineControl.get()) line->BorderWidth(mintLineWidth);
 }
 
 void Vector::Visible(bool pblnOn) {
@@ -75,7 +77,7 @@ void Vector::Draw() {
   line->BorderColor(ForeColor);
 }
 
-std::shared_ptr<PropertyCollection> Vector::GetProperties() { return mobjArc->GetProperties(); }
+SharedProperties Vector::GetProperties() { return mobjArc->GetProperties(); }
 
 void Vector::SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) { mobjArc->SetProperties(pcolProperties); }
 

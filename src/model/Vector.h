@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <concepts>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -53,9 +54,16 @@ class Vector final : public ChartObject {
   void Place(float psngX1, float psngY1, float psngX2, float psngY2);
 
   std::int16_t LineWidth() const { return mintLineWidth; }
-  /// Pixels; a value below 1 becomes 1, for the caller's variable too.
-  void LineWidth(std::int16_t& pintPixels);
-  void LineWidth(std::int16_t&& pintPixels) { LineWidth(pintPixels); }
+  /// Pixels; a value below 1 becomes 1, for the caller's variable too. Throws Error 6 beyond 16 bits.
+  template <std::integral T>
+  void LineWidth(T& pPixels) {
+    pPixels = std::max<T>(1, pPixels);
+    SetWidth(pPixels);
+  }
+  template <std::integral T>
+  void LineWidth(const T& pPixels) {
+    SetWidth(std::max<T>(1, pPixels));
+  }
   bool Visible() const { return mblnVisible; }
   void Visible(bool pblnOn);
   bool Dirty() const { return mblnDirty; }
@@ -73,12 +81,14 @@ class Vector final : public ChartObject {
   const std::vector<Elbow*>& Elbows() const { return mcolElbows; }
 
   /// The arc's value; Error 91 without an arc.
-  std::shared_ptr<PropertyCollection> GetProperties() override;
+  SharedProperties GetProperties() override;
   void SetProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) override;
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
 
  private:
   friend class Elbow;
+
+  void SetWidth(std::int64_t plngPixels);
 
   Ref<vantrel::Arc> mobjArc;
   std::vector<Elbow*> mcolElbows;

@@ -113,6 +113,7 @@ std::shared_ptr<Notation> Workflow::NewNotation() {
 
 std::shared_ptr<Arc> Workflow::CreateArc(const std::shared_ptr<vantrel::Place>& pobjPlace,
                                          const std::shared_ptr<Transition>& pobjTransition, ArcDirectionConstant pintDirection) {
+  if (!pobjPlace || !pobjTransition) throw Error(vntErrObjectNotSet);
   auto arc = std::make_shared<Arc>();
   arc->Workflow = this;
   arc->Place = pobjPlace;
@@ -132,6 +133,7 @@ std::shared_ptr<Arc> Workflow::CreateArc(const std::shared_ptr<vantrel::Place>& 
 }
 
 void Workflow::z_RemoveArc(const std::shared_ptr<Arc>& pobjArc) {
+  if (!pobjArc) throw Error(vntErrObjectNotSet);
   if (Arcs.Find(pobjArc->Key) != pobjArc) throw Error(vntErrInvalidCall);
   pobjArc->KeepPath();
   const auto elbows = pobjArc->BendPoints();
@@ -150,7 +152,7 @@ bool Workflow::Embeds(const Workflow& pobjOther) const {
     if (workflow == &pobjOther) return true;
     if (!seen.insert(workflow).second) continue;
     for (Collection<Transition>::Cursor cursor(workflow->Transitions); const Transition* transition = cursor.Next();) {
-      if (const auto* inner = dynamic_cast<const Workflow*>(transition->Object().get())) waiting.push_back(inner);
+      if (const auto inner = transition->EmbeddedWorkflow()) waiting.push_back(inner.get());
     }
   }
   return false;
@@ -162,7 +164,7 @@ void Workflow::RemoveObserver(const Transition& pobjTransition) {
   std::erase_if(mcolObservers, [&](const auto& observer) { return !observer || observer == &pobjTransition; });
 }
 
-std::shared_ptr<PropertyCollection> Workflow::GetProperties() {
+SharedProperties Workflow::GetProperties() {
   const auto nameOf = [](const Ref<vantrel::Place>& place) { return place ? place->Name() : std::string(); };
   PropertyBuilder records;
   auto& start = records.Add("StartPlace", vntPropertyText, "Name of the starting place", nameOf(StartPlace));

@@ -24,7 +24,7 @@
 namespace vantrel {
 
 /// Owns all objects of one net, by their keys, holds the firing stack and raises the events of the token game. Always held by shared_ptr.
-/// May run as the subflow of a transition of another workflow.
+/// For one thread, with all that it owns. May run as the subflow of a transition of another workflow.
 class Workflow final : public ModelObject, public std::enable_shared_from_this<Workflow> {
  public:
   Workflow() = default;
@@ -92,7 +92,8 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
 
   /// Make an object of this workflow under the next free key and register it. Without a name, a place or transition takes the next
   /// free one, which looks through all names; a given name is not compared with the others. Drawing it, binding it to chart
-  /// elements and marking the workflow dirty are the caller's tasks. Throw Error 6 when the keys of the usual form are used up.
+  /// elements and marking the workflow dirty are the caller's tasks. Throw Error 6 when the largest
+  /// number of their keys is the largest 32-bit integer.
   std::shared_ptr<vantrel::Place> NewPlace(const std::string& pstrName = {});
   std::shared_ptr<Transition> NewTransition(const std::string& pstrName = {});
   std::shared_ptr<Notation> NewNotation();
@@ -104,12 +105,12 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
   /// True when this very object is in the workflow's collection of its kind.
   bool Has(const ChartObject& pobjObject) const;
 
-  /// Makes an arc with its first segment and links it to both ends. The caller draws it. Throws Error 457 when a key set by hand is
-  /// in the way.
+  /// Makes an arc with its first segment and links it to both ends. The caller draws it. Throws Error 91 for null, and Error 457
+  /// when a key set by hand is in the way.
   std::shared_ptr<Arc> CreateArc(const std::shared_ptr<vantrel::Place>& pobjPlace, const std::shared_ptr<Transition>& pobjTransition,
                                  ArcDirectionConstant pintDirection);
-  /// Takes the arc with its segments and bend points out of the workflow; its ends still list it. Error 5 when the workflow does not
-  /// have it.
+  /// Takes the arc with its segments and bend points out of the workflow; its ends still list it. Error 91 for null, Error 5 when the
+  /// workflow does not have it.
   void z_RemoveArc(const std::shared_ptr<Arc>& pobjArc);
 
   /// The state of the control that shows this workflow, or the current one.
@@ -132,8 +133,11 @@ class Workflow final : public ModelObject, public std::enable_shared_from_this<W
   /// True when the other workflow is this one or is embedded in it at any depth.
   bool Embeds(const Workflow& pobjOther) const;
 
-  std::shared_ptr<PropertyCollection> GetProperties() override;
+  SharedProperties GetProperties() override;
   void SetProperty(const std::string& pstrPropName, const Variant& pvarValue) override;
+
+ protected:
+  std::shared_ptr<const void> KeepAlive() const override { return weak_from_this().lock(); }
 
  private:
   friend class CaseEnd;

@@ -28,9 +28,7 @@ class WholeSaving {
 
 namespace {
 
-std::shared_ptr<Workflow> EmbeddedIn(const Transition& pobjTransition) {
-  return std::dynamic_pointer_cast<Workflow>(pobjTransition.Object());
-}
+std::shared_ptr<Workflow> EmbeddedIn(const Transition& pobjTransition) { return pobjTransition.EmbeddedWorkflow(); }
 
 }  // namespace
 

@@ -160,6 +160,8 @@ class Collection {
   /// The class word of the keys, and the largest number after it (0 for none): what numbering new keys needs.
   std::string_view KeyWord() const { return kWord; }
   std::int32_t LargestKeyNumber() const { return mOrder.LargestNumber(); }
+  /// True when any item was ever added without a key: then the items' own keys have to be asked, too.
+  bool HadUnkeyed() const { return mOrder.HadUnkeyed(); }
 
   /// A walk from the first item on.
   class Cursor {

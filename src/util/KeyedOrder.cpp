@@ -5,7 +5,7 @@
 
 namespace vantrel {
 
-KeyedOrder::KeyedOrder(std::string_view pstrWord) : mWordSize(static_cast<std::uint16_t>(pstrWord.size())), mWord(pstrWord.data()) {}
+KeyedOrder::KeyedOrder(std::string_view pstrWord) : mWordSize(static_cast<std::uint8_t>(pstrWord.size())), mWord(pstrWord.data()) {}
 
 KeyedOrder::~KeyedOrder() = default;
 
@@ -54,6 +54,7 @@ void KeyedOrder::DropIndexes() {
 
 void KeyedOrder::NoteGap(const ItemKey& pKey) {
   mDense = false;
+  mHadUnkeyed = mHadUnkeyed || pKey.IsUnkeyed();
   mAscending = mAscending && pKey.IsNumber() && pKey.Number() > KeyAt(Last()).Number();
 }
 

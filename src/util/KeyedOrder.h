@@ -54,6 +54,9 @@ class KeyedOrder {
   /// The largest number after the class word; 0 for none.
   std::int32_t LargestNumber() const { return mCount == 0 ? 0 : mAscending ? KeyAt(Last()).Number() : LargestOfIndex(); }
 
+  /// True when any item was ever added without a key.
+  bool HadUnkeyed() const { return mHadUnkeyed; }
+
   /// Adds a key at the end. Needs room and a key that is not taken.
   Ordinal Append(ItemKey&& pKey) {
     if (mCount == 0) {
@@ -101,6 +104,7 @@ class KeyedOrder {
   void Restart(const ItemKey& pKey) {
     mDense = mAscending = pKey.IsNumber();
     if (mDense) mDenseOffset = mTail - static_cast<Ordinal>(pKey.Number());
+    if (pKey.IsUnkeyed()) mHadUnkeyed = true;
   }
   void Empty() {
     mHead = mTail;
@@ -129,7 +133,8 @@ class KeyedOrder {
   std::uint32_t mCapacity = 0;
   std::uint32_t mCount = 0;
   mutable std::uint32_t mWalkers = 0;
-  std::uint16_t mWordSize;
+  std::uint8_t mWordSize;
+  bool mHadUnkeyed = false;
   bool mDense = true;      // every key is a number, and ordinal minus number is mDenseOffset
   bool mAscending = true;  // every key is a number, larger than all before it
   Ordinal mDenseOffset = 0;

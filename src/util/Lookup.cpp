@@ -14,9 +14,12 @@ std::int32_t NameNumber(std::string_view pstrPrefix, std::string_view pstrName) 
 }
 
 bool IsBetween(const Variant& pvarValue, const Variant& pvarA, const Variant& pvarB) {
-  const auto atLeast = [](const Variant& pvarX, const Variant& pvarY) { return std::is_gteq(Compare(pvarX, pvarY)); };
-  if (atLeast(pvarA, pvarB)) return atLeast(pvarA, pvarValue) && atLeast(pvarValue, pvarB);
-  return atLeast(pvarB, pvarValue) && atLeast(pvarValue, pvarA);
+  const auto atLeast = [](const Variant& pvarX, const Variant& pvarY) {
+    return !pvarX.IsNull() && !pvarY.IsNull() && std::is_gteq(Compare(pvarX, pvarY));
+  };
+  const auto equals = [&](const Variant& pvarBound) { return atLeast(pvarValue, pvarBound) && atLeast(pvarBound, pvarValue); };
+  return equals(pvarA) || equals(pvarB) || (atLeast(pvarA, pvarValue) && atLeast(pvarValue, pvarB)) ||
+         (atLeast(pvarB, pvarValue) && atLeast(pvarValue, pvarA));
 }
 
 std::string StripQualifier(std::string_view pstrText) {

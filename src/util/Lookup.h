@@ -23,11 +23,22 @@ template <class T>
 requires requires(const T& pobjItem) { pobjItem.Name.str(); }
 std::string NameOf(const T& pobjItem) { return pobjItem.Name.str(); }
 
+/// The largest number after a prefix in the items' own keys; 0 for none. Keys of another form do not count.
+template <class T>
+std::int32_t LargestNumberOfItems(const Collection<T>& pcolItems, std::string_view pstrPrefix) {
+  std::int32_t largest = 0;
+  for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) {
+    largest = std::max(largest, NumberBehind(pstrPrefix, std::string(item->Key)).value_or(0));
+  }
+  return largest;
+}
+
 /// The number of the next key of the usual form: one more than the largest after the class word. Throws Error 6 when that is the
 /// largest 32-bit integer.
 template <class T>
 std::int32_t NextKeyNumber(const Collection<T>& pcolItems) {
-  const std::int32_t largest = pcolItems.LargestKeyNumber();
+  std::int32_t largest = pcolItems.LargestKeyNumber();
+  if (pcolItems.HadUnkeyed()) largest = std::max(largest, LargestNumberOfItems(pcolItems, pcolItems.KeyWord()));
   if (largest == 0x7FFFFFFF) throw Error(vntErrOverflow);
   return largest + 1;
 }
@@ -44,10 +55,7 @@ std::string KeyOf(std::int32_t plngNumber) {
 template <class T>
 std::string NextKey(const Collection<T>& pcolItems, std::string_view pstrPrefix) {
   if (pcolItems.KeyWord() == pstrPrefix) return KeyOf<T>(NextKeyNumber(pcolItems));
-  std::int32_t largest = 0;
-  for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) {
-    largest = std::max(largest, NumberBehind(pstrPrefix, std::string(item->Key)).value_or(0));
-  }
+  const std::int32_t largest = LargestNumberOfItems(pcolItems, pstrPrefix);
   if (largest == 0x7FFFFFFF) throw Error(vntErrOverflow);
   return std::string(pstrPrefix) + std::to_string(largest + 1);
 }
@@ -95,12 +103,19 @@ std::shared_ptr<T> FindByRecId(const Collection<T>& pcolItems, std::int32_t plng
   return nullptr;
 }
 
+/// True when an item has that key, be it in the collection or in its own `Key` alone.
 template <class T>
 bool KeyExists(const Collection<T>& pcolItems, std::string_view pstrKey) {
-  return pcolItems.Contains(pstrKey);
+  if (pcolItems.Contains(pstrKey)) return true;
+  if (!pcolItems.HadUnkeyed()) return false;
+  for (typename Collection<T>::Cursor cursor(pcolItems); const T* item = cursor.Next();) {
+    if (item->Key == pstrKey) return true;
+  }
+  return false;
 }
 
-/// True when the value lies between the bounds, both included, in either order. Throws Error 13 for values without order.
+/// True when the value lies between the bounds, both included, in either order. Null and NaN lie nowhere, and as a bound include
+/// nothing. Throws Error 13 for other values without order.
 bool IsBetween(const Variant& pvarValue, const Variant& pvarA, const Variant& pvarB);
 
 /// The class name of a class identifier: "VNTR.Place.1" gives "Place", "Arc.Guard" gives "Guard". A text without a dot, or

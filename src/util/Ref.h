@@ -56,6 +56,10 @@ class Ref {
   Ref(T* pobjTarget) : mMark(pobjTarget ? Take(pobjTarget) : nullptr) {}
   template <class U>
   requires std::is_convertible_v<U*, T*> Ref(const std::shared_ptr<U>& pobjTarget) : Ref(static_cast<T*>(pobjTarget.get())) {}
+  template <class U>
+  requires(!std::is_same_v<U, T> && std::is_convertible_v<U*, T*>) Ref(const Ref<U>& pobjOther) : mMark(pobjOther.mMark) {
+    if (mMark) ++mMark->Users;
+  }
   Ref(const Ref& pobjOther) : mMark(pobjOther.mMark) {
     if (mMark) ++mMark->Users;
   }
@@ -98,6 +102,9 @@ class Ref {
   friend bool operator==(const Ref& a, std::nullptr_t) { return !a; }
 
  private:
+  template <class U>
+  friend class Ref;
+
   static Referable::Mark* Take(T* pobjTarget) { return static_cast<Referable*>(pobjTarget)->TakeMark(); }
 
   T& Follow() const {

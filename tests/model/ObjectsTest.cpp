@@ -1,4 +1,7 @@
 // How a workflow makes and removes its objects, and what the path of an arc is.
+#include <limits>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "model/Nets.h"
@@ -130,6 +133,157 @@ TEST(ArcPath, IsCopiedAfterTheArcOrItsWorkflowIsGone) {
     EXPECT_EQ(copy->Path(), (std::vector<Point>{{100, 0}, {600, 200}, {1000, 700}, {1600, 700}}));
     EXPECT_EQ(other->Elbows.Count(), 2);
   }
+}
+
+TEST(NullObjects, AndSegmentsOfOtherArcsAreRefused) {
+  BentNet net;
+  Workflow& workflow = *net.Host.Net;
+  const auto other = Connect(net.To, workflow.NewPlace());
+  const auto foreign = other->Vectors()->First();
+  Arc& arc = *net.Between;
+  const std::function<void()> calls[] = {
+      [&] { workflow.CreateArc(nullptr, net.To, vntInArc); },
+      [&] { workflow.CreateArc(net.From, nullptr, vntInArc); },
+      [&] { workflow.z_RemoveArc(nullptr); },
+      [&] { arc.InsertVector(nullptr); },
+      [&] { arc.RemoveVector(nullptr); },
+      [&] { (void)arc.Clone(nullptr, net.From, net.To); },
+      [&] { (void)arc.Clone(net.Host.Net, nullptr, net.To); },
+      [&] { (void)arc.Clone(net.Host.Net, net.From, nullptr); },
+  };
+  for (const auto& call : calls) EXPECT_EQ(ErrorOf(call), vntErrObjectNotSet);
+  EXPECT_EQ(ErrorOf([&] { arc.InsertVector(foreign); }), vntErrInvalidCall);
+  EXPECT_EQ(ErrorOf([&] { arc.RemoveVector(foreign); }), vntErrInvalidCall);
+  EXPECT_EQ(workflow.Arcs.Count(), 2);
+  EXPECT_EQ(arc.Path(), kBent);
+}
+
+TEST(Records, AreThereAsLongAsTheLoopThatWalksThem) {
+  BentNet net;
+  std::string names;
+  for (const auto& record : *net.From->GetProperties()) names += record->Name + " ";
+  EXPECT_EQ(names, "Name Caption Description SelectionType Object InputPosition OutputPosition Tag TokenProperties ");
+  int segments = 0, bends = 0;
+  for (const auto& segment : *net.Between->Vectors()) segments += segment->Arc() == net.Between;
+  for (const auto& elbow : *net.Between->Elbows()) bends += elbow->OutVector() ? 1 : 0;
+  EXPECT_EQ(segments * 10 + bends, 32);
+}
+
+/// A listener lets go of the workflow while one of its objects, which nobody else holds, is being changed.
+TEST(Listeners, MayTakeTheWorkflowAwayDuringAChange) {
+  const std::function<void(Workflow&)> changes[] = {
+      [](Workflow& net) { net.Places.First()->SetProperty("Tag", "t"); },
+      [](Workflow& net) { net.Transitions.First()->SetProperty("Tag", "t"); },
+      [](Workflow& net) { net.Arcs.First()->SetProperty("Guard", "g"); },
+      [](Workflow& net) { net.Notations.First()->SetProperty("Caption", "c"); },
+      [](Workflow& net) { net.SetProperty("KeepHistory", true); },
+      [](Workflow& net) { net.Places.First()->SetProperties(net.Places.First()->GetProperties()); },
+      [](Workflow& net) { net.Transitions.First()->SetProperties(net.Transitions.First()->GetProperties()); },
+      [](Workflow& net) { net.Arcs.First()->SetProperties(net.Arcs.First()->GetProperties()); },
+      [](Workflow& net) { net.Vectors.First()->SetProperties(net.Vectors.First()->GetProperties()); },
+      [](Workflow& net) { net.Notations.First()->SetProperties(net.Notations.First()->GetProperties()); },
+      [](Workflow& net) { net.SetProperties(net.GetProperties()); },
+      [](Workflow& net) { net.Arcs.First()->RemoveVector(net.Vectors.Last()); },
+      [](Workflow& net) { net.Arcs.First()->InsertVector(net.Vectors.First()); },
+      [](Workflow& net) { net.Remove(net.Elbows.First()); },
+  };
+  for (const auto& change : changes) {
+    BentNet net;
+    net.Host.Net->NewNotation();
+    net.From = nullptr;
+    net.To = nullptr;
+    net.Between = nullptr;
+    net.Host.OnDirty = [&] { net.Host.Net = nullptr; };
+    change(*net.Host.Net);
+    EXPECT_FALSE(net.Host.Net);
+  }
+}
+
+TEST(TokenCount, IsShownAsTheNumberThatItIs) {
+  BentNet net;
+  net.From->Visible(true);
+  for (const auto& [count, text] : {std::pair{3.F, "3"}, {2.5F, "2.5"}, {1e20F, "1e+20"}, {-1.F, "-1"}}) {
+    net.From->TokenCount(count);
+    EXPECT_EQ(net.From->CountLabel->Caption(), text);
+  }
+  net.From->TokenCount(std::numeric_limits<float>::quiet_NaN());
+}
+
+TEST(LineWidth, OfAnyIntegerIsCorrectedWhereTheCallerKeepsIt) {
+  Vector segment;
+  int width = -3;
+  segment.LineWidth(width);
+  EXPECT_EQ(width, 1);
+  segment.LineWidth(0);
+  EXPECT_EQ(segment.LineWidth(), 1);
+  EXPECT_EQ(ErrorOf([&] { segment.LineWidth(70000); }), vntErrOverflow);
+  EXPECT_EQ(segment.LineWidth(), 1);
+}
+
+TEST(Captions, LeaveTheirLabelWhereTheDrawingPutIt) {
+  BentNet net;
+  Label& label = *net.From->CaptionLabel;
+  label.Alignment(2);
+  label.MoveTo(700, 300);
+  net.From->Caption("a caption that is wider than the label was");
+  EXPECT_EQ(label.Left(), 700);
+  EXPECT_GT(label.Width(), 1000);
+  EXPECT_EQ(net.From->CaptionWidth, label.Width());
+}
+
+TEST(PlaceVisible, CoversEveryArcOfTheWorkflowWhosePlaceItIs) {
+  BentNet net;
+  const auto unlisted = net.Host.Net->CreateArc(net.From, net.To, static_cast<ArcDirectionConstant>(0));
+  const auto moved = Connect(net.To, net.Host.Net->NewPlace());
+  moved->Place = net.From;
+  const auto left = Connect(net.From, net.To);
+  left->Place = moved->Place;
+  net.Host.Net->z_RemoveArc(left);
+  net.From->Visible(true);
+  EXPECT_TRUE(net.Between->Visible() && unlisted->Visible() && moved->Visible());
+  EXPECT_FALSE(left->Visible()) << "it is no longer the workflow's";
+  moved->Place = nullptr;
+  net.From->Visible(false);
+  EXPECT_FALSE(net.Between->Visible() || unlisted->Visible());
+  EXPECT_TRUE(moved->Visible());
+  net.Host.Net->Remove(net.From);
+  net.From = nullptr;
+  EXPECT_FALSE(unlisted->Place);
+}
+
+TEST(NewBendPoint, HandleIsCentredByItsWidth) {
+  BentNet net;
+  Image& handle = *net.Host.Net->Elbows.First()->Handle;
+  handle.Resize(90, 150);
+  Elbow& elbow = *net.Host.Net->Elbows.First();
+  elbow.CentreHandleByWidth(1000, 1000);
+  EXPECT_EQ(elbow.Left(), 955);
+  EXPECT_EQ(elbow.Top(), 955);
+}
+
+TEST(Embedding, OfManyWorkflowsInOneAnotherEndsWithoutDeepCalls) {
+  auto outer = std::make_shared<Workflow>();
+  auto level = outer;
+  for (int depth = 0; depth < 50000; ++depth) {
+    auto inner = std::make_shared<Workflow>();
+    const auto transition = level->NewTransition("T");
+    transition->Object(inner);
+    if (depth % 2 == 0) transition->Subflow(inner);
+    level = inner;
+  }
+  const Ref<Workflow> innermost(level);
+  level = nullptr;
+  outer = nullptr;
+  EXPECT_TRUE(innermost.Expired());
+}
+
+TEST(Ref, OfAnImageServesAsOneOfAnElement) {
+  TestHost host;
+  const Ref<Image> image = host.NewImage();
+  const Ref<Element> element = image;
+  EXPECT_EQ(element.get(), image.get());
+  image->Unload();
+  EXPECT_EQ(element.Expired(), image.Expired());
 }
 
 }  // namespace vantrel::test

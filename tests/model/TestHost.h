@@ -56,7 +56,11 @@ class TestHost : public DesignerHost {
   Ref<vantrel::Workflow> Workflow() const override { return Net; }
   float CurrentX() const override { return X; }
   float CurrentY() const override { return Y; }
-  void Dirty(vantrel::Workflow&, bool pblnDirty) override { DirtyCalls.push_back(pblnDirty); }
+  std::function<void()> OnDirty;  ///< plays a listener
+  void Dirty(vantrel::Workflow&, bool pblnDirty) override {
+    DirtyCalls.push_back(pblnDirty);
+    if (OnDirty) OnDirty();
+  }
   void UseMode(UseModeConstant pintMode) override { UseModes.push_back(gintUseMode = pintMode); }
   void CurrentControl(const Ref<Element>&) override { ++CurrentControlCalls; }
   void RunAction(Transition& pobjTransition) override { Actions.push_back(pobjTransition.Action); }

@@ -1,5 +1,7 @@
 #include "util/Lookup.h"
 
+#include <cmath>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -63,6 +65,30 @@ TEST(IsBetween, TakesTheBoundsInEitherOrderAndIncludesThem) {
     EXPECT_FALSE(IsBetween(0.999, low, high));
   }
   EXPECT_TRUE(IsBetween("m", "z", "a"));
+}
+
+TEST(IsBetween, BoundWithoutOrderIncludesNothingButItsEqual) {
+  const Variant nan(std::nan(""));
+  for (const Variant& none : {Variant(Variant::Null), nan}) {
+    EXPECT_TRUE(IsBetween(5, 5, none) && IsBetween(5, none, 5));
+    EXPECT_FALSE(IsBetween(5, 1, none) || IsBetween(5, none, 10) || IsBetween(none, 1, 10) || IsBetween(5, none, none));
+  }
+}
+
+struct KeyedThing : Object {
+  std::string Key;
+  std::string Class() const override { return "KeyedThing"; }
+};
+
+TEST(NextKey, LooksAtTheKeysOfItemsAddedWithoutOne) {
+  Collection<KeyedThing> things;
+  for (const char* key : {"Thing2", "Thing7", "Thing20230101120000"}) {
+    things.Add(std::make_shared<KeyedThing>(), key == std::string("Thing2") ? key : "");
+    things.Last()->Key = key;
+  }
+  EXPECT_EQ(NextKey(things, "Thing"), "Thing8");
+  EXPECT_TRUE(KeyExists(things, "Thing7") && KeyExists(things, "Thing2"));
+  EXPECT_FALSE(KeyExists(things, "Thing8"));
 }
 
 TEST(StripQualifier, KeepsTheFirstPartBehindTheFirstDot) {

@@ -35,7 +35,7 @@ class Renewal {
 
  private:
   void RenewEmbedded(Transition& pobjTransition) {
-    const auto inner = std::dynamic_pointer_cast<Workflow>(pobjTransition.Object());
+    const auto inner = pobjTransition.EmbeddedWorkflow();
     if (!inner) {
       if (pobjTransition.SubflowId == 0) return;
       Missing.push_back("transition " + QuotedForMessage(pobjTransition.Name()) + " embeds workflow " +

@@ -7,7 +7,7 @@ namespace {
 void Append(const std::shared_ptr<Workflow>& pobjWorkflow, const std::string& pstrPrefix, std::vector<PlayedNet>& pcolNets) {
   pcolNets.push_back({pobjWorkflow, pstrPrefix});
   for (const auto& transition : pobjWorkflow->Transitions) {
-    const auto embedded = std::dynamic_pointer_cast<Workflow>(transition->Object());
+    const auto embedded = transition->EmbeddedWorkflow();
     if (embedded) Append(embedded, pstrPrefix + transition->Key + "/", pcolNets);
   }
 }

@@ -185,7 +185,7 @@ void Firing::TakeOfCase() {
 }
 
 Firing::Stage Firing::StartSubflow(TokenGame& pobjGame) {
-  mobjSubflow = std::dynamic_pointer_cast<Workflow>(mobjTransition->Object());
+  mobjSubflow = mobjTransition->EmbeddedWorkflow();
   if (!mobjSubflow) throw Error(vntErrTypeMismatch);
   const auto start = mobjSubflow->StartPlace.Lock();
   if (!start) {
