@@ -27,8 +27,8 @@ struct Comfort {
   bool LockHolds = false;
   /// Two presses in quick succession while an arc is drawn. Off: they are a double-click. On: the second ends the arc as any press does.
   bool QuickPressEndsArc = false;
-  /// The letters that insert a place, a transition or a note, where a window binds them. Off: each letter inserts an object. On: the text
-  /// of the new object is edited at once, so that letters typed next go there.
+  /// The letters that insert a place, a transition or a note, where a window binds them. Off: each letter inserts an object. On: the
+  /// text of the new object is edited at once, so that letters typed next go there and make no more objects.
   bool LettersWriteText = false;
   /// A note's text, where a view edits it. Off: the box has one line. On: it has several; Enter ends the editing and Shift+Enter
   /// breaks the line.

@@ -24,7 +24,9 @@ void ReplaceWorkflow(Vantrel& pobjControl) {
 // Objects chosen before would be moved and deleted along with it.
 template <class T>
 void ChooseInserted(Vantrel& pobjControl, const std::shared_ptr<T>& pobjObject) {
-  if (pobjControl.Comfort.ChosenIsSeen) ChooseAlone(pobjControl, ElementOf(*pobjObject));
+  if (!pobjControl.Comfort.ChosenIsSeen) return;
+  if (pobjControl.IsInsertingArc()) pobjControl.EndArcInsert();
+  ChooseAlone(pobjControl, ElementOf(*pobjObject));
 }
 
 template <auto Insert>

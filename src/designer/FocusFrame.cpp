@@ -176,6 +176,11 @@ void FocusFrame::Edit() {
   OnEditing.Raise();
 }
 
+bool FocusFrame::EditsLines() const {
+  const Label* const label = FramedLabel();
+  return label && mobjControl.Comfort.NotesHaveLines && std::dynamic_pointer_cast<Notation>(ObjectOf(mobjControl, *label));
+}
+
 void FocusFrame::Store(const std::string& pstrText) {
   Label* const label = FramedLabel();
   if (!label || pstrText == TextOf(mobjControl, *label)) return;

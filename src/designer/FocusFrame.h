@@ -64,6 +64,8 @@ class FocusFrame {
   /// Shows the text box over a framed label with the text that it edits: a caption; a guard without its brackets; a weight.
   void Edit();
   bool IsEditing() const { return mblnEditing; }
+  /// Whether the text box has several lines: for a note, with Comfort::NotesHaveLines.
+  bool EditsLines() const;
   const std::string& EditedText() const { return mstrText; }  ///< what the text box starts with
   /// Stores the text of the text box in the label's object and closes the box. An unchanged text changes nothing.
   void EndEdit(const std::string& pstrText);

@@ -15,6 +15,7 @@
 #include <QWheelEvent>
 #include <cmath>
 
+#include "designer/gestures/Choosing.h"
 #include "qt/ChartView.h"
 #include "qt/Conversions.h"
 #include "qt/DraggedData.h"
@@ -233,7 +234,7 @@ bool ChartView::focusNextPrevChild(bool pblnNext) {
   if (!next) return QAbstractScrollArea::focusNextPrevChild(pblnNext);
   const Rect bounds = next->Bounds();
   const QPointer<ChartView> alive(this);
-  ShowErrors([&] { mobjControl.CurrentControl(next); });
+  ShowErrors([&] { mobjControl.Comfort.TabChoosesOne ? ChooseAlone(mobjControl, next) : mobjControl.CurrentControl(next); });
   if (alive) Reveal(bounds);
   return true;
 }

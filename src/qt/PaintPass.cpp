@@ -167,6 +167,9 @@ void PaintPass::PaintLabel(const Label& pobjLabel) {
     PaintLabelBox(mobjPainter, pobjLabel, Target(pobjLabel.Bounds()), mdblScale, IsOnDark(pobjLabel));
   }
   if (ShowsText(pobjLabel)) PaintText(pobjLabel);
+  if (!pobjLabel.Marked()) return;
+  Use(kTarget);
+  PaintSelectionMark(mobjPainter, Target(pobjLabel.Bounds()), mdblScale, mblnOnDark ? kLightAccent : kAccent);
 }
 
 bool PaintPass::IsOnDark(const Label& pobjLabel) const {

@@ -92,9 +92,11 @@ run 0 db create --db "$database"
 opens 'New workflow'
 xdotool key ctrl+a Delete
 until_true changed 'New workflow'
-for key in p t p; do
+# The letters after the first are the new object's text.
+for text in pa tape pat; do
   click $left $top
-  xdotool key $key
+  xdotool type --delay 40 $text
+  xdotool key Return
   left=$((left + 250))
 done
 picture nodes
@@ -130,7 +132,7 @@ closes
 
 run 0 show 1 --json --db "$database"
 json "[len(a[k]) for k in ('places', 'transitions', 'arcs')] == [2, 1, 2]"
-json "a['places'][0]['caption'] == 'Inbox & more' and a['places'][1]['caption'] == 'Place1'"
+json "a['places'][0]['caption'] == 'Inbox & more' and a['places'][1]['caption'] == 'at' and a['transitions'][0]['caption'] == 'ape'"
 json "a['transitions'][0]['left'] - a['places'][0]['left'] == 250 * 15"
 json "len(a['arcs'][1]['path']) == 3 and a['arcs'][1]['path'][1][1] < a['places'][1]['top'] - 1000"
 cp "$scratch/out" "$scratch/first"

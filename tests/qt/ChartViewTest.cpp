@@ -243,6 +243,49 @@ TEST_F(ChartViewTest, WritesTheTextOfTheCurrentObjectWithF2) {
   EXPECT_FALSE(box->isVisible());
 }
 
+TEST_F(ChartViewTest, TabChoosesOneObjectWhereThatIsWanted) {
+  for (const bool isOn : {false, true}) {
+    mobjControl.Comfort.TabChoosesOne = isOn;
+    mobjControl.Selection(nullptr);
+    mobjControl.CurrentControl(nullptr);
+    PressKey(mobjView, Qt::Key_Tab);
+    PressKey(mobjView, Qt::Key_Tab);
+    EXPECT_EQ(mobjControl.Selection()->Count(), isOn ? 1 : 2);
+    EXPECT_EQ(mobjControl.CurrentControl()->Tag(), "Place2");
+  }
+}
+
+TEST_F(ChartViewTest, ANoteIsWrittenInSeveralLinesWhereThatIsWanted) {
+  const auto note = mobjControl.AddNotation();
+  note->Caption = "old";
+  const auto edit = [&]() -> QWidget& {
+    mobjControl.CurrentControl(note->TextControl.get());
+    PressKey(mobjView, Qt::Key_F2);
+    return *QApplication::focusWidget();
+  };
+  mobjView.activateWindow();
+  PressKey(edit(), Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_FALSE(mobjControl.FocusFrame.IsEditing()) << "a single line ends with Enter in any case";
+
+  mobjControl.Comfort.NotesHaveLines = true;
+  QWidget& box = edit();
+  EXPECT_EQ(box.objectName(), "LinesBox");
+  PressKey(box, Qt::Key_M, Qt::NoModifier, "m");
+  PressKey(box, Qt::Key_Return, Qt::ShiftModifier);
+  PressKey(box, Qt::Key_N, Qt::NoModifier, "n");
+  EXPECT_TRUE(mobjControl.FocusFrame.IsEditing());
+  PressKey(box, Qt::Key_Return);
+  EXPECT_FALSE(box.isVisible());
+  EXPECT_EQ(note->Caption, "m\nn");
+  PressKey(edit(), Qt::Key_X, Qt::NoModifier, "x");
+  PressKey(box, Qt::Key_Escape);
+  EXPECT_EQ(note->Caption, "m\nn");
+
+  mobjControl.CurrentControl(mobjControl.Workflow()->StartPlace->CaptionLabel.get());
+  PressKey(mobjView, Qt::Key_F2);
+  EXPECT_EQ(QApplication::focusWidget()->objectName(), "TextBox") << "captions have one line";
+}
+
 TEST_F(ChartViewTest, ShowsTheErrorsOfListenersInsteadOfThrowingThemOn) {
   std::vector<std::string> shown;
   const MsgBoxScope scope([&shown](const std::string& text, MsgBoxButtons, const std::string&) {

@@ -55,6 +55,7 @@ DesignerWindow::~DesignerWindow() {
 void DesignerWindow::SetUpDesigner() {
   Vantrel& control = mobjDesigner->Control();
   control.EnablePopups = true;
+  control.Comfort = Comfort::All();
   control.RestrictTesting(true);                                       // nothing plays the tests yet
   control.DesignMenu().Find(CommandIds::Properties)->Visible = false;  // nor is there a dialog
   mobjSaveEntry = control.DesignMenu().Find(CommandIds::Save)->OnClick.Connect([this] { mobjFiles.Save(); });

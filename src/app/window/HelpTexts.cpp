@@ -23,9 +23,9 @@ void ShowKeys(QWidget* pobjParent) {
   box->setTextFormat(Qt::RichText);
   box->setText(Rows({{"Click, Shift+click", "choose an object, one more"},
                      {"Drag", "move what is chosen, a caption, a bend point; round objects: choose them"},
-                     {"Double-click a text, F2", "write it in place; Enter keeps it, Esc does not"},
-                     {"Right click", "the menu of what is there"},
-                     {"P, T, N", "insert a place, a transition, a note where you clicked last"},
+                     {"Double-click a text, F2", "write it in place; Enter keeps it, Esc does not; Shift+Enter breaks a note's line"},
+                     {"Right click", "choose what is there and open its menu"},
+                     {"P, T, N", "insert a place, a transition, a note where you clicked last, and write its text"},
                      {"A", "draw an arc from the chosen object to the next one clicked"},
                      {"E, Shift+E", "bend the chosen arc; straighten it"},
                      {"H, V", "align what is chosen"},

@@ -4,9 +4,11 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <algorithm>
+#include <optional>
 
 #include "app/window/ActionIcon.h"
 #include "app/window/InsertPosition.h"
+#include "designer/ChartObjects.h"
 #include "designer/Commands.h"
 #include "qt/ChartView.h"
 #include "qt/Conversions.h"
@@ -23,19 +25,29 @@ bool Inserts(std::string_view pstrId) {
   return pstrId == Ids::InsertPlace || pstrId == Ids::InsertTransition || pstrId == Ids::AddNotation;
 }
 
-template <class Objects>
-auto& LastOf(const Objects& pcolObjects) {
-  return *pcolObjects.Item(pcolObjects.Count());
-}
+// Puts the control's current position back: only the inserted object was to go elsewhere.
+class PositionScope {
+ public:
+  explicit PositionScope(Vantrel& pobjControl) : mobjControl(&pobjControl), msngX(pobjControl.CurrentX), msngY(pobjControl.CurrentY) {}
+  ~PositionScope() {
+    if (!mobjControl) return;
+    mobjControl->CurrentX = msngX;
+    mobjControl->CurrentY = msngY;
+  }
+  PositionScope(const PositionScope&) = delete;
+  PositionScope& operator=(const PositionScope&) = delete;
 
-// Chooses the inserted object, as the user goes on with it.
-void ChooseInserted(Vantrel& pobjControl, std::string_view pstrId) {
-  const auto workflow = pobjControl.Workflow();
-  if (!workflow || !Inserts(pstrId)) return;
-  pobjControl.Selection(nullptr);  // objects chosen before would be moved and deleted along with it
-  if (pstrId == Ids::InsertPlace) pobjControl.CurrentControl(LastOf(workflow->Places).Image.get());
-  if (pstrId == Ids::InsertTransition) pobjControl.CurrentControl(LastOf(workflow->Transitions).Image.get());
-  if (pstrId == Ids::AddNotation) pobjControl.CurrentControl(LastOf(workflow->Notations).TextControl.get());
+ private:
+  Ref<Vantrel> mobjControl;
+  float msngX, msngY;
+};
+
+void RevealSelection(VantrelWidget& pobjDesigner) {
+  std::optional<Rect> area;
+  for (const auto& object : *pobjDesigner.Control().Selection()) {
+    if (const auto bounds = BoundsOf(*object)) area = area ? area->United(*bounds) : *bounds;
+  }
+  if (area) pobjDesigner.View().Reveal(*area);
 }
 
 QList<QKeySequence> KeysOf(const WindowCommand& pobjCommand) {
@@ -112,17 +124,23 @@ void WindowMenus::Run(const WindowCommand& pobjCommand) {
 }
 
 void WindowMenus::RunEntry(std::string_view pstrId) {
-  Vantrel& control = mobjParts.Designer.Control();
-  const MenuItem* const entry = control.DesignMenu().Find(pstrId);
-  if (!entry->Enabled || !entry->Visible) return Follow();
+  VantrelWidget& designer = mobjParts.Designer;
   const QPointer<WindowMenus> alive(this);
-  mobjParts.Designer.View().FinishEditing();
+  designer.View().FinishEditing();
+  if (!alive || designer.Control().Input.IsCaptured()) return;
+  const MenuItem* const entry = designer.Control().DesignMenu().Find(pstrId);
+  if (!entry->Enabled || !entry->Visible) return Follow();
+  if (Inserts(pstrId)) {
+    const PositionScope position(designer.Control());
+    ChooseInsertPosition(designer.Control(), designer.View().InView());
+    entry->OnClick.Raise();
+  } else {
+    entry->OnClick.Raise();
+  }
   if (!alive) return;
-  if (Inserts(pstrId) || pstrId == Ids::Paste) ChooseInsertPosition(control, mobjParts.Designer.View().InView());
-  entry->OnClick.Raise();
-  if (!alive) return;
-  ChooseInserted(control, pstrId);
-  if (alive && pstrId == Ids::AddNotation) mobjParts.Designer.View().EditText();  // an empty note says nothing
+  if (pstrId == Ids::Paste) RevealSelection(designer);
+  const bool writes = pstrId == Ids::AddNotation || designer.Control().Comfort.LettersWriteText;
+  if (Inserts(pstrId) && writes) designer.View().EditText();
   if (alive) emit Ran();
   if (alive) Follow();
 }

@@ -2,6 +2,7 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
@@ -77,18 +78,56 @@ TEST_F(DesignerWindowTest, InsertedObjectsLieInViewAndNotOnEachOther) {
     EXPECT_EQ(area.United(view), view) << i;
     EXPECT_NE(places.Item(i)->Left(), places.Item(i - 1)->Left()) << i;
   }
-  EXPECT_EQ(Control().CurrentControl().get(), places.Item(5)->Image.get());
+  EXPECT_EQ(Control().CurrentControl()->Tag(), "Place5");
   EXPECT_EQ(Control().Selection()->Count(), 1) << "the earlier ones would be deleted along with it";
 }
 
 TEST_F(DesignerWindowTest, ANewNoteIsWrittenAtOnce) {
   Files().New();
   Action(CommandIds::AddNotation)->trigger();
-  auto* const box = Part<QLineEdit>("TextBox");
+  auto* const box = Part<QPlainTextEdit>("LinesBox");
   ASSERT_TRUE(box->isVisible());
-  box->setText("Mind the gap");
+  box->setPlainText("Mind the gap");
   PressKey(*box, Qt::Key_Return);
   EXPECT_EQ(Control().Workflow()->Notations.Item(1)->Caption, "Mind the gap");
+}
+
+TEST_F(DesignerWindowTest, LettersAfterTheFirstGoIntoTheNewObjectsText) {
+  for (const bool isOn : {false, true}) {
+    Control().Comfort.LettersWriteText = isOn;
+    Files().New();
+    Action(CommandIds::InsertPlace)->trigger();
+    auto* const box = Part<QLineEdit>("TextBox");
+    ASSERT_EQ(box->isVisible(), isOn);
+    Control().Dirty(false);  // nobody is to be asked
+    if (!isOn) continue;
+    for (const auto& [key, text] : {std::pair{Qt::Key_P, "p"}, {Qt::Key_A, "a"}, {Qt::Key_T, "t"}}) {
+      QKeyEvent override(QEvent::ShortcutOverride, key, Qt::NoModifier, text);
+      QApplication::sendEvent(box, &override);
+      EXPECT_TRUE(override.isAccepted()) << text << " is no shortcut while a text is written";
+      PressKey(*box, key, Qt::NoModifier, text);
+    }
+    PressKey(*box, Qt::Key_Return);
+    EXPECT_EQ(Control().Workflow()->Places.Last()->Caption(), "pat");
+    EXPECT_EQ(Control().Workflow()->Places.Count(), 3);
+  }
+}
+
+TEST_F(DesignerWindowTest, CopiesLieInViewBesideTheirOriginals) {
+  Files().New();
+  const auto start = Control().Workflow()->StartPlace.Lock();
+  Control().CurrentControl(start->Image.get());
+  Settle();
+  Action(CommandIds::Copy)->trigger();
+  Action(CommandIds::Paste)->trigger();
+  const auto& copy = Control().Workflow()->Places.Last();
+  EXPECT_NE(copy, start);
+  EXPECT_EQ(copy->Left(), start->Left() + 300);
+  EXPECT_EQ(Control().Workflow()->Places.Count(), 3);
+  Control().HScroll.Value(100000);
+  Action(CommandIds::Paste)->trigger();
+  const Rect view = mobjWindow->Designer().View().InView();
+  EXPECT_EQ(view.United(Control().Workflow()->Places.Last()->Image->Bounds()), view) << "brought into view";
 }
 
 TEST_F(DesignerWindowTest, TheToolBarOffersWhatThePopupOffers) {
