@@ -29,16 +29,17 @@ Token::~Token() = default;
 const std::shared_ptr<PropertyCollection>& Token::CustomProperties() const {
   if (mblnEmptyProperties) {
     mblnEmptyProperties = false;
-    mcolCustomProperties = std::make_shared<PropertyCollection>();
+    mcolCustomProperties = std::make_unique<std::shared_ptr<PropertyCollection>>(std::make_shared<PropertyCollection>());
   }
-  return mcolCustomProperties;
+  static const std::shared_ptr<PropertyCollection> none;
+  return mcolCustomProperties ? *mcolCustomProperties : none;
 }
 
-bool Token::HasCustomProperties() const { return mcolCustomProperties && !mcolCustomProperties->IsEmpty(); }
+bool Token::HasCustomProperties() const { return mcolCustomProperties && !(*mcolCustomProperties)->IsEmpty(); }
 
 void Token::CustomProperties(const std::shared_ptr<PropertyCollection>& pcolProperties) {
   mblnEmptyProperties = false;
-  mcolCustomProperties = pcolProperties;
+  mcolCustomProperties = pcolProperties ? std::make_unique<std::shared_ptr<PropertyCollection>>(pcolProperties) : nullptr;
 }
 
 void Token::CaseEnabled(bool pblnOn) {
@@ -50,7 +51,7 @@ void Token::CaseEnabled(bool pblnOn) {
 void Token::SetProperty(const std::string& pstrPropName, const Variant& pvarValue) {
   const bool stored = Guarded([&] {
     if (!CustomProperties()) throw Error(vntErrObjectNotSet);
-    for (const auto& record : *mcolCustomProperties) {
+    for (const auto& record : **mcolCustomProperties) {
       if (record->Name != pstrPropName) continue;
       record->Value = pvarValue;
       break;

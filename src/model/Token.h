@@ -73,8 +73,8 @@ class Token final : public ModelObject, public CaseFields {
   bool mblnTaken = false;                    // chosen by a firing: counts for no other one
   mutable bool mblnEmptyProperties = false;  // was given an empty collection, which is made when it is read
   std::uint32_t mlngArrival = 0;             // orders the tokens of a place that has an index
-  mutable std::shared_ptr<PropertyCollection> mcolCustomProperties;
-  Ref<SubflowRun> mobjRun;  // the subflow run that the token takes part in
+  mutable std::unique_ptr<std::shared_ptr<PropertyCollection>> mcolCustomProperties;  // most tokens have none
+  Ref<SubflowRun> mobjRun;                                                            // the subflow run that the token takes part in
 };
 
 }  // namespace vantrel

@@ -127,7 +127,11 @@ class Transition final : public Node {
   // True when every input place passes. Begins where the last question ended: a join of many branches is asked for each token that
   // arrives, and usually the same few inputs hold it up.
   template <class Passes>
-  bool AllInputs(Passes&& pPasses);
+  bool AllInputs(Passes&& pPasses) {
+    return AllInArcs([&](const Arc& pobjArc) { return pPasses(*pobjArc.Place); });
+  }
+  template <class Passes>
+  bool AllInArcs(Passes&& pPasses);
 
   std::shared_ptr<vantrel::Object> mobjObject;
   std::shared_ptr<vantrel::Workflow> mobjSubflow;
@@ -144,10 +148,9 @@ class Transition final : public Node {
 };
 
 template <class Passes>
-bool Transition::AllInputs(Passes&& pPasses) {
-  const auto passes = [&](const Arc& pobjArc) { return pPasses(*pobjArc.Place); };
-  std::int64_t heldUpAt = InArcs.FirstThatFails(passes, mHeldUpAt);
-  if (heldUpAt < 0) heldUpAt = InArcs.FirstThatFails(passes, 0, mHeldUpAt);
+bool Transition::AllInArcs(Passes&& pPasses) {
+  std::int64_t heldUpAt = InArcs.FirstThatFails(pPasses, mHeldUpAt);
+  if (heldUpAt < 0) heldUpAt = InArcs.FirstThatFails(pPasses, 0, mHeldUpAt);
   if (heldUpAt >= 0) mHeldUpAt = heldUpAt;
   return heldUpAt < 0;
 }

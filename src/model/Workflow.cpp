@@ -7,6 +7,7 @@
 #include "model/PropertyBuilder.h"
 #include "model/game/FiringNext.h"
 #include "model/game/StraightFiring.h"
+#include "util/BlockPool.h"
 #include "util/Lookup.h"
 
 namespace vantrel {
@@ -67,7 +68,7 @@ std::shared_ptr<Token> Workflow::CreateToken(const Ref<vantrel::Place>& pobjPlac
 
 std::shared_ptr<Token> Workflow::MakeToken(vantrel::Place& pobjPlace, Transition* pobjCreateTransition,
                                            const std::shared_ptr<WorkCase>& pobjWorkcase, Date pdtmCreated) {
-  auto token = std::make_shared<Token>(pdtmCreated);
+  auto token = std::allocate_shared<Token>(PoolAllocator<Token>(), pdtmCreated);
   const std::int32_t number = NextKeyNumber(Tokens);
   token->Key = token->Name = KeyField<Token>::OfNumber(number);
   token->Place = &pobjPlace;

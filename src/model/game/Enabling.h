@@ -24,16 +24,6 @@ class Enabling {
   /// Asks a question once more that the transition remembers; false when it no longer does.
   static bool AskAgain(Transition& pobjTransition, const Question& pQuestion, bool pblnTracking);
 
-  /// True when `pPasses(place)` does for all input places; one that is gone counts as null. Begins where the last question of
-  /// a firing failed.
-  template <class Passes>
-  static bool AllInputs(const Transition& pobjTransition, Passes&& pPasses) {
-    const auto& inputs = pobjTransition.InArcs;
-    const auto passes = [&](const Arc& pobjArc) { return pPasses(pobjArc.Place.get()); };
-    const auto first = pobjTransition.mHeldUpAt;
-    return inputs.FirstThatFails(passes, first) < 0 && inputs.FirstThatFails(passes, 0, first) < 0;
-  }
-
   /// Acts on the answers: does everything that setting Transition::Enabled does, except firing. True when the transition has to fire now.
   static bool Switch(Transition& pobjTransition, bool pblnEnabled) { return pobjTransition.SwitchEnabled(pblnEnabled); }
   /// After a firing that took nothing: puts the transition on the firing stack again when it can still fire, and disables it

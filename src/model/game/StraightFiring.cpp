@@ -41,7 +41,7 @@ bool StraightFiring::FireNext(Workflow& pobjWorkflow) {
   return true;
 }
 
-bool StraightFiring::IsPlain() const {
+bool StraightFiring::IsPlain() {
   const OutputTypes output = mTransition.OutputType();
   if (output == vntSelect || output == vntDistribute || output == vntProgrammed || mTransition.Object()) return false;
   if (mTransition.mFiringsUnderWay != 0 || !IsPlain(mTransition) || !(mTransition.Workflow == &mWorkflow)) return false;
@@ -57,7 +57,7 @@ template <class Ask>
 bool StraightFiring::IsPlain(const Place& pobjPlace, Ask&& pIsPlainConsumer) const {
   if (!(pobjPlace.Workflow == &mWorkflow) || pobjPlace.Visible() || pobjPlace.Image) return false;
   return pobjPlace.OutArcs.All([&](const Arc& pobjArc) {
-    const auto* consumer = pobjArc.Transition.get();
+    auto* const consumer = pobjArc.Transition.get();
     return !consumer || consumer == &mTransition || (IsPlain(*consumer) && pIsPlainConsumer(*consumer));
   });
 }
@@ -69,12 +69,12 @@ bool StraightFiring::HasPlainInputs() const {
   });
 }
 
-bool StraightFiring::HasPlainOutputs() const {
+bool StraightFiring::HasPlainOutputs() {
   const auto* const end = mWorkflow.EndPlace().get();
   return !mTransition.OutArcs.IsEmpty() && mTransition.OutArcs.All([&](const Arc& pobjArc) {
     const auto* place = pobjArc.Place.get();
     return place && place != end &&
-           IsPlain(*place, [&](const Transition& consumer) { return IsHeldUp(consumer, *place) || MarksQuietly(consumer); });
+           IsPlain(*place, [&](Transition& consumer) { return IsHeldUp(consumer, *place) || MarksQuietly(consumer); });
   });
 }
 
@@ -87,10 +87,14 @@ bool StraightFiring::MarksQuietly(const Transition& pobjConsumer) {
 }
 
 // What this firing produces for one place cannot complete the inputs: another place is empty and stays so.
-bool StraightFiring::IsHeldUp(const Transition& pobjConsumer, const Place& pobjOutput) const {
-  if (mTransition.OutArcs.Count() != 1) return false;
-  return !Enabling::AllInputs(
-      pobjConsumer, [&](const Place* pobjPlace) { return !pobjPlace || pobjPlace == &pobjOutput || !pobjPlace->Tokens().IsEmpty(); });
+bool StraightFiring::IsHeldUp(Transition& pobjConsumer, const Place& pobjOutput) {
+  if (mTransition.OutArcs.Count() != 1 || pobjConsumer.InArcs.Count() == 1) return false;
+  const bool heldUp = !pobjConsumer.AllInArcs([&](const Arc& pobjArc) {
+    const auto* const place = pobjArc.Place.get();
+    return !place || place == &pobjOutput || !place->Tokens().IsEmpty();
+  });
+  if (heldUp) mobjHeldUp = &pobjConsumer;
+  return heldUp;
 }
 
 bool StraightFiring::Choose() {
@@ -169,7 +173,7 @@ void StraightFiring::Put(Place& pobjPlace) {
   pobjPlace.TokenCount(static_cast<float>(pobjPlace.Tokens().Count()));
   pobjPlace.OutArcs.All([&](const Arc& pobjArc) {
     auto* const consumer = pobjArc.Transition.get();
-    if (consumer && IsEnabledBy(*consumer, pobjPlace)) Switch(*consumer, true);
+    if (consumer && consumer != mobjHeldUp && IsEnabledBy(*consumer, pobjPlace)) Switch(*consumer, true);
     return true;
   });
 }
@@ -213,12 +217,12 @@ bool StraightFiring::StaysEnabled(Transition& pobjConsumer, Place& pobjPlace) {
   return &pobjConsumer == &mTransition ? CanFireAgain(pobjPlace) : Enabling::Left(pobjConsumer, mblnTracking);
 }
 
-// With case tracking each departure asks all inputs of the transition. Between the first time and the last, only the place
-// that has lost a token can have changed, and tokens only leave.
+// The steps ask all inputs of the transition for each departure. Between the first time and the last, only the place that has
+// lost a token can have changed, and tokens only leave.
 bool StraightFiring::CanFireAgain(Place& pobjPlace) {
-  if (!mblnTracking || mlngGone == 1 || mlngGone == gcolChosen.size()) return mblnCanFireAgain = Enabling::Left(mTransition, mblnTracking);
-  const bool holds = TokenRules::HoldsMarked(pobjPlace);
-  pobjPlace.CaseEnabled(holds);
+  if (mlngGone == 1 || mlngGone == gcolChosen.size()) return mblnCanFireAgain = Enabling::Left(mTransition, mblnTracking);
+  const bool holds = mblnTracking ? TokenRules::HoldsMarked(pobjPlace) : TokenRules::Holds(pobjPlace);
+  if (mblnTracking) pobjPlace.CaseEnabled(holds);
   return mblnCanFireAgain = mblnCanFireAgain && holds;
 }
 

@@ -22,15 +22,15 @@ class StraightFiring {
   StraightFiring(const StraightFiring&) = delete;
   StraightFiring& operator=(const StraightFiring&) = delete;
 
-  bool IsPlain() const;
+  bool IsPlain();
   template <class Ask>
   bool IsPlain(const Place& pobjPlace, Ask&& pIsPlainConsumer) const;
   static bool IsPlain(const Transition& pobjTransition);
   bool HasPlainInputs() const;
-  bool HasPlainOutputs() const;
+  bool HasPlainOutputs();
   static bool MarksQuietly(const Transition& pobjConsumer);
   static bool NeedsOnly(const Transition& pobjConsumer, const Place& pobjPlace);
-  bool IsHeldUp(const Transition& pobjConsumer, const Place& pobjOutput) const;
+  bool IsHeldUp(Transition& pobjConsumer, const Place& pobjOutput);
   bool Choose();
   bool ChooseCase();
   void Fire();
@@ -53,6 +53,7 @@ class StraightFiring {
   Transition& mTransition;
   std::shared_ptr<WorkCase> mobjCase;
   std::vector<std::shared_ptr<Token>> mcolOrphans;  // consumed and owned here alone; destroyed at the end
+  const Transition* mobjHeldUp = nullptr;           // a consumer that the only token produced is known not to enable
   std::size_t mlngGone = 0;                         // of the chosen tokens
   Date mdtmNow = Date::Now();
   bool mblnTracking;
