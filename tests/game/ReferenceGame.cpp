@@ -11,7 +11,9 @@ ReferenceGame::ReferenceGame(NetPlan pPlan, std::vector<PlannedCase> pCases, Ask
       mAsk(std::move(pAsk)),
       mPlaces(mPlan.Places.size()),
       mEnabled(mPlan.Transitions.size()),
-      mUnderWay(mPlan.Transitions.size()) {}
+      mUnderWay(mPlan.Transitions.size()),
+      mStacks(mPlan.Nets.size()),
+      mObservers(mPlan.Nets.size()) {}
 
 std::vector<std::size_t> ReferenceGame::ArcsOf(std::size_t pTransition, bool pblnInput) const {
   std::vector<std::size_t> arcs;
@@ -39,6 +41,9 @@ void ReferenceGame::Tolerant(const std::function<void()>& pStep) const {
 
 int ReferenceGame::Create(std::size_t pPlace, int pTransition, int pCase) {
   RefToken token;
+  const auto net = mPlan.Places[pPlace].Net;
+  token.Number = 1 + static_cast<int>(std::count_if(mTokens.begin(), mTokens.end(),
+                                                    [&](const RefToken& other) { return mPlan.Places[other.Place].Net == net; }));
   token.Place = pPlace;
   token.Creator = pTransition;
   token.Case = pCase;
@@ -48,16 +53,17 @@ int ReferenceGame::Create(std::size_t pPlace, int pTransition, int pCase) {
 
 void ReferenceGame::Put(std::size_t pPlace, int pCase) { Add(pPlace, Create(pPlace, kNone, pCase)); }
 
-void ReferenceGame::ChangeByHand(int pToken, int pCase) {
-  mTokens[pToken].Case = pCase;
-  mTokens[pToken].Enabled = false;
+void ReferenceGame::ChangeByHand(std::size_t pPlace, int pPosition, int pCase) {
+  auto& token = mTokens[mPlaces[pPlace].Tokens[pPosition]];
+  token.Case = pCase;
+  token.Enabled = false;
 }
 
 void ReferenceGame::StartCase(int pCase) {
   for (std::size_t place = 0; place < mPlaces.size(); ++place) {
     const bool isFed =
         std::any_of(mPlan.Arcs.begin(), mPlan.Arcs.end(), [&](const auto& arc) { return arc.Place == place && !arc.IsInput; });
-    if (!isFed) Put(place, pCase);
+    if (!isFed && mPlan.Places[place].Net == 0) Put(place, pCase);
   }
 }
 
@@ -67,10 +73,77 @@ void ReferenceGame::Add(std::size_t pPlace, int pToken) {
   for (const auto transition : FedBy(pPlace)) {
     if (Arrived(transition, workCase)) SetEnabled(transition, true);
   }
-  mLog += "+" + std::to_string(pPlace) + ":" + std::to_string(pToken + 1) + " ";
-  if (pPlace + 1 != mPlaces.size()) return;
-  if (!mPlan.KeepHistory) Remove(pPlace, pToken);
-  mLog += "end:" + std::to_string(pToken + 1) + " ";
+  mLog += "+" + std::to_string(pPlace) + ":" + std::to_string(mTokens[pToken].Number) + " ";
+  const auto net = mPlan.Places[pPlace].Net;
+  if (pPlace == mPlan.Nets[net].End) EndCase(net, pPlace, pToken);
+}
+
+void ReferenceGame::EndCase(std::size_t pNet, std::size_t pPlace, int pToken) {
+  if (!mPlan.Nets[pNet].KeepHistory) Remove(pPlace, pToken);
+  mLog += "end:" + std::to_string(mTokens[pToken].Number) + " ";
+  const auto& token = mTokens[pToken];
+  if (token.Run != kNone) {
+    if (!mRuns[token.Run].Over) Deliver(mRuns[token.Run].Transition, pToken);
+    return;
+  }
+  const auto observers = mObservers[pNet];
+  const auto first = std::find_if(observers.begin(), observers.end(),
+                                  [&](std::size_t transition) { return OldestRun(transition, mTokens[pToken].Case) != kNone; });
+  if (first != observers.end()) return Deliver(*first, pToken);
+  for (const auto observer : observers) Deliver(observer, pToken);
+}
+
+int ReferenceGame::OldestRun(std::size_t pTransition, int pCase) const {
+  const auto run = std::find_if(mRuns.begin(), mRuns.end(),
+                                [&](const Run& other) { return !other.Over && other.Transition == pTransition && other.Case == pCase; });
+  return run == mRuns.end() ? kNone : static_cast<int>(run - mRuns.begin());
+}
+
+int ReferenceGame::RunOf(const std::vector<int>& pTokens) const {
+  const auto known = std::find_if(pTokens.begin(), pTokens.end(), [&](int token) { return mTokens[token].Run != kNone; });
+  return known == pTokens.end() ? kNone : mTokens[*known].Run;
+}
+
+void ReferenceGame::RunSubflow(std::size_t pTransition, int pCase, int pFiring, std::vector<int>& pTaken) {
+  const auto net = mPlan.Transitions[pTransition].Embeds;
+  const auto start = mPlan.Nets[net].Start;
+  auto& observers = mObservers[net];
+  if (std::find(observers.begin(), observers.end(), pTransition) == observers.end()) observers.push_back(pTransition);
+  const int token = Create(start, static_cast<int>(pTransition), pCase);
+  const std::size_t run = mRuns.size();
+  mRuns.push_back({pTransition, pFiring, pCase, RunOf(pTaken), std::exchange(pTaken, {})});
+  mTokens[token].Run = static_cast<int>(run);
+  Tolerant([&] { Add(start, token); });
+  Tolerant([&] { FireNextIn(net, kNone); });
+  for (std::size_t at = 0; !mRuns[run].Over && at < mRuns[run].Tokens.size(); ++at) {
+    const int taken = mRuns[run].Tokens[at];
+    if (mTokens[taken].TakenBy == pFiring) Tolerant([&] { Reevaluate(mTokens[taken].Place); });
+  }
+}
+
+void ReferenceGame::Deliver(std::size_t pTransition, int pToken) {
+  int run = mTokens[pToken].Run;
+  if (run == kNone || mRuns[run].Over || mRuns[run].Transition != pTransition) run = OldestRun(pTransition, mTokens[pToken].Case);
+  if (run != kNone) mRuns[run].Over = true;
+  const auto ended = run == kNone ? Run{pTransition, kNone, kNone, kNone, {}} : mRuns[run];
+  try {
+    for (const auto arc : ArcsOf(pTransition, false)) {
+      const int token = Create(mPlan.Arcs[arc].Place, static_cast<int>(pTransition), mTokens[pToken].Case);
+      mTokens[token].Run = ended.Outer;
+      Add(mPlan.Arcs[arc].Place, token);
+    }
+    for (const int token : ended.Tokens) {
+      if (mTokens[token].TakenBy != ended.Firing) continue;
+      mTokens[token].Consumer = static_cast<int>(pTransition);
+      Leave(mTokens[token].Place, token);
+      mTokens[token].Dated = true;
+    }
+  } catch (const Refused&) {
+    if (run != kNone) GiveBack(pTransition, ended.Tokens, ended.Firing, true, false);
+    throw;
+  }
+  if (run != kNone && std::exchange(mRuns[run].StarterUnderWay, false)) --mUnderWay[pTransition];
+  FireNextIn(mPlan.Transitions[pTransition].Net, kNone);
 }
 
 // A chosen token counts for no firing, unless the question is what would be without that.
@@ -134,15 +207,20 @@ void ReferenceGame::Remove(std::size_t pPlace, int pToken) {
 void ReferenceGame::Leave(std::size_t pPlace, int pToken) {
   std::erase(mPlaces[pPlace].Tokens, pToken);
   mTokens[pToken].TakenBy = kNone;
+  Reevaluate(pPlace);
+}
+
+void ReferenceGame::Reevaluate(std::size_t pPlace) {
   for (const auto transition : FedBy(pPlace)) SetEnabled(transition, Left(transition));
 }
 
 // True when the transition has to fire now.
 bool ReferenceGame::Switch(std::size_t pTransition, bool pblnOn) {
   mEnabled[pTransition] = pblnOn;
-  const auto entry = std::find(mStack.begin(), mStack.end(), pTransition);
-  if (pblnOn && entry == mStack.end()) mStack.push_back(pTransition);
-  if (!pblnOn && entry != mStack.end()) mStack.erase(entry);
+  auto& stack = StackOf(pTransition);
+  const auto entry = std::find(stack.begin(), stack.end(), pTransition);
+  if (pblnOn && entry == stack.end()) stack.push_back(pTransition);
+  if (!pblnOn && entry != stack.end()) stack.erase(entry);
   return pblnOn && mPlan.Transitions[pTransition].Trigger == vntAutomatic;
 }
 
@@ -150,14 +228,17 @@ void ReferenceGame::SetEnabled(std::size_t pTransition, bool pblnOn) {
   if (Switch(pTransition, pblnOn)) Fire(pTransition, kNone);
 }
 
-void ReferenceGame::FireNext(int pTransition) {
+void ReferenceGame::FireNext(int pTransition) { FireNextIn(0, pTransition); }
+
+void ReferenceGame::FireNextIn(std::size_t pNet, int pTransition) {
+  auto& stack = mStacks[pNet];
   try {
-    const auto entry = std::find_if(mStack.begin(), mStack.end(), [&](std::size_t transition) {
+    const auto entry = std::find_if(stack.begin(), stack.end(), [&](std::size_t transition) {
       return pTransition == kNone ? mUnderWay[transition] == 0 : transition == static_cast<std::size_t>(pTransition);
     });
-    if (entry == mStack.end()) throw Refused{5};
+    if (entry == stack.end()) throw Refused{5};
     const auto transition = *entry;
-    mStack.erase(entry);
+    stack.erase(entry);
     Fire(transition, kNone);
   } catch (const Refused& refused) {
     if (refused.Number != 5) mLog += "box ";
@@ -242,17 +323,26 @@ void ReferenceGame::Fire(std::size_t pTransition, int pCase) {
     } else {
       TakeAny(pTransition, firing, taken);
     }
-    if (done && Produce(pTransition, pCase, canFireAgain)) {
+    if (done) mLog += "!" + std::to_string(pTransition) + " ";
+    if (done && mPlan.Transitions[pTransition].Embeds != 0) {
+      RunSubflow(pTransition, pCase, firing, taken);
+    } else if (done && Produce(pTransition, pCase, RunOf(taken), canFireAgain)) {
       Withdraw(pTransition, taken, firing);
     } else {
       GiveBack(pTransition, taken, firing, canFireAgain, true);
     }
   } catch (const Refused&) {
     GiveBack(pTransition, taken, firing, true, false);
-    --mUnderWay[pTransition];
+    Ended(pTransition, firing);
     throw;
   }
-  --mUnderWay[pTransition];
+  Ended(pTransition, firing);
+}
+
+// Unless its subflow delivered before.
+void ReferenceGame::Ended(std::size_t pTransition, int pFiring) {
+  const auto run = std::find_if(mRuns.begin(), mRuns.end(), [&](const Run& other) { return other.Firing == pFiring; });
+  if (run == mRuns.end() || std::exchange(run->StarterUnderWay, false)) --mUnderWay[pTransition];
 }
 
 void ReferenceGame::Withdraw(std::size_t pTransition, const std::vector<int>& pTaken, int pFiring) {
@@ -274,7 +364,10 @@ void ReferenceGame::GiveBack(std::size_t pTransition, const std::vector<int>& pT
 
 // Enabled means on the stack; FireNext took the transition off.
 void ReferenceGame::Settle(std::size_t pTransition) {
-  if (!mEnabled[pTransition] || std::find(mStack.begin(), mStack.end(), pTransition) != mStack.end()) return;
+  if (!mEnabled[pTransition] ||
+      std::find(StackOf(pTransition).begin(), StackOf(pTransition).end(), pTransition) != StackOf(pTransition).end()) {
+    return;
+  }
   const auto inputs = ArcsOf(pTransition, true);
   const bool canFire = std::all_of(inputs.begin(), inputs.end(), [&](std::size_t arc) { return !FreeIn(mPlan.Arcs[arc].Place).empty(); });
   const bool heldUp = !canFire && std::all_of(inputs.begin(), inputs.end(),
@@ -296,7 +389,7 @@ void ReferenceGame::LookAgain(std::size_t pPlace, bool pblnFires) {
   }
 }
 
-bool ReferenceGame::Produce(std::size_t pTransition, int pCase, bool& pblnCanFireAgain) {
+bool ReferenceGame::Produce(std::size_t pTransition, int pCase, int pRun, bool& pblnCanFireAgain) {
   const auto& planned = mPlan.Transitions[pTransition];
   if (planned.Output == vntDistribute) {
     mLog += "distribute ";
@@ -308,7 +401,7 @@ bool ReferenceGame::Produce(std::size_t pTransition, int pCase, bool& pblnCanFir
   }
   if (planned.Output != vntSelect) {
     pblnCanFireAgain = !ArcsOf(pTransition, false).empty();
-    return ProduceOn(pTransition, pCase, nullptr);
+    return ProduceOn(pTransition, pCase, pRun, nullptr);
   }
   std::vector<std::string> guards;
   bool hasUnguarded = false;
@@ -322,16 +415,17 @@ bool ReferenceGame::Produce(std::size_t pTransition, int pCase, bool& pblnCanFir
   if (hasUnguarded) guards.emplace_back("<other>");
   pblnCanFireAgain = !guards.empty();
   const auto answer = mAsk("Select ouputs:", guards);
-  return answer && ProduceOn(pTransition, pCase, &*answer);
+  return answer && ProduceOn(pTransition, pCase, pRun, &*answer);
 }
 
-bool ReferenceGame::ProduceOn(std::size_t pTransition, int pCase, const std::string* pGuard) {
+bool ReferenceGame::ProduceOn(std::size_t pTransition, int pCase, int pRun, const std::string* pGuard) {
   bool done = false;
   for (const auto arc : ArcsOf(pTransition, false)) {
     const auto& guard = mPlan.Arcs[arc].Guard;
     if (pGuard && *pGuard != guard && !(*pGuard == "<other>" && guard.empty())) continue;
     const auto place = mPlan.Arcs[arc].Place;
     const int token = Create(place, static_cast<int>(pTransition), pCase);
+    mTokens[token].Run = pRun;
     Tolerant([&] { Add(place, token); });
     done = true;
   }
@@ -342,15 +436,21 @@ std::string ReferenceGame::Dump() const {
   std::string text = mLog + "\n";
   for (const auto& place : mPlaces) {
     text += place.CaseEnabled ? "P*" : "P";
-    for (const int token : place.Tokens) text += " " + std::to_string(token + 1);
+    for (const int token : place.Tokens) text += " " + std::to_string(mTokens[token].Number);
     text += "\n";
   }
-  for (const auto& token : mTokens) {
-    text += "case " + (token.Case == kNone ? "" : mCases[token.Case].Key) + " by " + std::to_string(token.Creator) + " to " +
-            std::to_string(token.Consumer) + (token.Enabled ? " enabled" : "") + (token.Dated ? " dated" : "") + "\n";
+  for (std::size_t net = 0; net < mPlan.Nets.size(); ++net) {
+    for (const auto& token : mTokens) {
+      if (mPlan.Places[token.Place].Net != net) continue;
+      text += "case " + (token.Case == kNone ? "" : mCases[token.Case].Key) + " by " + std::to_string(token.Creator) + " to " +
+              std::to_string(token.Consumer) + (token.Enabled ? " enabled" : "") + (token.Dated ? " dated" : "") + "\n";
+    }
   }
   for (const char enabled : mEnabled) text += enabled ? "1" : "0";
-  for (const auto transition : mStack) text += " " + std::to_string(transition);
+  for (const auto& stack : mStacks) {
+    for (const auto transition : stack) text += " " + std::to_string(transition);
+    text += "\n";
+  }
   return text;
 }
 

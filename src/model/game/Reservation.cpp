@@ -1,6 +1,7 @@
 #include "model/game/Reservation.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "model/Transition.h"
 #include "model/game/TokenGame.h"
@@ -42,6 +43,7 @@ void Reservation::Take(Place& pobjPlace, std::shared_ptr<Token> pobjToken) {
 }
 
 void Reservation::GiveBack() {
+  if (std::exchange(mblnGivenBack, true)) return;  // others may have chosen them since
   for (const auto& token : mcolTokens) {
     if (token && !TokenRules::IsFree(*token)) TokenRules::GiveBack(*token);
   }

@@ -35,6 +35,7 @@ class Reservation {
   Reservation* mobjNewer = nullptr;
   Reservation* mobjOlder = nullptr;
   std::vector<std::shared_ptr<Token>> mcolTokens;
+  bool mblnGivenBack = false;
 };
 
 }  // namespace vantrel
