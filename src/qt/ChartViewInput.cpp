@@ -15,6 +15,7 @@
 #include <QWheelEvent>
 #include <cmath>
 
+#include "designer/ControlScope.h"
 #include "designer/gestures/Choosing.h"
 #include "qt/ChartView.h"
 #include "qt/Conversions.h"
@@ -33,6 +34,15 @@ constexpr double kZoomStep = 1.2;
 constexpr double kWheelStep = 120;      // eighths of a degree: one notch
 constexpr double kPixelsPerNotch = 60;  // device-independent
 constexpr float kTipTolerance = 3 * kTwipsPerPixel;
+
+// Hosts hear of what happened when the handler is over: they may delete the view. What they throw is shown.
+template <class Handler>
+void Handle(const Vantrel& pobjControl, Handler&& pHandler) {
+  ShowErrors([&] {
+    const ControlScope scope(pobjControl);
+    pHandler();
+  });
+}
 
 void ScrollBy(ScrollBar& pobjBar, double pdblTwips) {
   if (pdblTwips != 0) pobjBar.Value(pobjBar.Value() + static_cast<float>(pdblTwips));
@@ -81,24 +91,24 @@ bool ChartView::ShowTip(QEvent& pobjEvent) {
 }
 
 void ChartView::mousePressEvent(QMouseEvent* pobjEvent) {
-  const QPointer<ChartView> alive(this);
-  mobjEditor->Commit();
-  if (!alive) return;
-  const bool drags = pobjEvent->button() == Qt::MiddleButton || (mblnSpace && pobjEvent->button() == Qt::LeftButton);
-  if (drags && !mobjControl.Input.IsCaptured()) {
-    mobjPanFrom = pobjEvent->position();
-    return viewport()->setCursor(Qt::ClosedHandCursor);
-  }
-  mobjControl.Input.Press(InputAt(pobjEvent->position(), MouseButtonOf(pobjEvent->button()), pobjEvent->modifiers()));
+  Handle(mobjControl, [&] {
+    mobjEditor->Commit();
+    const bool drags = pobjEvent->button() == Qt::MiddleButton || (mblnSpace && pobjEvent->button() == Qt::LeftButton);
+    if (drags && !mobjControl.Input.IsCaptured()) {
+      mobjPanFrom = pobjEvent->position();
+      return viewport()->setCursor(Qt::ClosedHandCursor);
+    }
+    mobjControl.Input.Press(InputAt(pobjEvent->position(), MouseButtonOf(pobjEvent->button()), pobjEvent->modifiers()));
+  });
 }
 
 void ChartView::mouseMoveEvent(QMouseEvent* pobjEvent) {
   if (!mobjPanFrom) {
-    const QPointer<ChartView> alive(this);
-    mobjPointer = pobjEvent->position();
-    mobjControl.Input.Move(InputAt(mobjPointer, MouseButtonOf(pobjEvent->buttons()), pobjEvent->modifiers()));
-    if (alive && mobjControl.Input.IsCaptured()) mobjAutoScroll.Follow(mobjPointer, viewport()->rect());
-    return;
+    return Handle(mobjControl, [&] {
+      mobjPointer = pobjEvent->position();
+      mobjControl.Input.Move(InputAt(mobjPointer, MouseButtonOf(pobjEvent->buttons()), pobjEvent->modifiers()));
+      if (mobjControl.Input.IsCaptured()) mobjAutoScroll.Follow(mobjPointer, viewport()->rect());
+    });
   }
   const QPointF moved = (*mobjPanFrom - pobjEvent->position()) / mobjTransform.Scale();
   mobjPanFrom = pobjEvent->position();
@@ -177,13 +187,11 @@ void ChartView::keyPressEvent(QKeyEvent* pobjEvent) {
 
 void ChartView::EditText() {
   if (mobjControl.UseMode() != vntDesign || mobjControl.LockControls() || mobjControl.Input.IsCaptured()) return;
-  const QPointer<ChartView> alive(this);
-  ShowErrors([&] {
+  Handle(mobjControl, [&] {
     const Ref<Element> label = TextOnTour(mobjControl);
     if (!label || !label->Visible()) return;
     const Rect bounds = label->Bounds();
     mobjControl.CurrentControl(label);
-    if (!alive) return;
     Reveal(bounds);
     mobjControl.FocusFrame.Edit();
   });
@@ -232,10 +240,11 @@ void ChartView::dropEvent(QDropEvent* pobjEvent) {
 bool ChartView::focusNextPrevChild(bool pblnNext) {
   const auto next = hasFocus() ? NextOnTour(mobjControl, pblnNext) : nullptr;
   if (!next) return QAbstractScrollArea::focusNextPrevChild(pblnNext);
-  const Rect bounds = next->Bounds();
-  const QPointer<ChartView> alive(this);
-  ShowErrors([&] { mobjControl.Comfort.TabChoosesOne ? ChooseAlone(mobjControl, next) : mobjControl.CurrentControl(next); });
-  if (alive) Reveal(bounds);
+  Handle(mobjControl, [&] {
+    const Rect bounds = next->Bounds();
+    mobjControl.Comfort.TabChoosesOne ? ChooseAlone(mobjControl, next) : mobjControl.CurrentControl(next);
+    Reveal(bounds);
+  });
   return true;
 }
 
