@@ -127,8 +127,7 @@ std::shared_ptr<Workflow> OpenDatabase::ReadWorkflow(std::int32_t plngId) {
   Do([&] {
     TransactionScope moment(Connection(), Transaction::Read);
     workflow = mAccess.ReadWorkflow(plngId);
-    if (!workflow) return;
-    ReadColors(Connection(), workflow);
+    if (workflow) ReadColors(Connection(), workflow);
     moment.Commit();  // a rollback would end the transaction around this one
   });
   if (workflow) return workflow;
