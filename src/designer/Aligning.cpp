@@ -15,12 +15,8 @@ float CentreY(const Rect& pobjBox) { return (pobjBox.Top + pobjBox.Bottom) / 2; 
 }  // namespace
 
 void AlignSelection(Vantrel& pobjControl, const std::string& pstrDirection) {
-  std::vector<std::shared_ptr<ChartObject>> objects;
-  const auto selection = pobjControl.Selection();
-  for (const auto& selected : *selection) {
-    auto object = std::dynamic_pointer_cast<ChartObject>(selected);
-    if (object && object->Bounds() && object->Kind() != ChartKind::Elbow) objects.push_back(std::move(object));
-  }
+  auto objects = ChartObjectsIn(*pobjControl.Selection());
+  std::erase_if(objects, [](const auto& object) { return !object->Bounds() || object->Kind() == ChartKind::Elbow; });
   if (objects.empty()) return;
   const Rect reference = *objects.front()->Bounds();
   for (const auto& object : objects) {

@@ -1,5 +1,7 @@
 #include "designer/ChartObjects.h"
 
+#include <utility>
+
 namespace vantrel {
 
 namespace {
@@ -40,6 +42,14 @@ void MoveTo(ModelObject& pobjObject, float psngLeft, float psngTop) {
 void MoveTo(ChartObject& pobjObject, float psngLeft, float psngTop) {
   const auto bounds = pobjObject.Bounds();
   if (bounds && (bounds->Left != psngLeft || bounds->Top != psngTop)) pobjObject.MoveTo(psngLeft, psngTop);
+}
+
+std::vector<std::shared_ptr<ChartObject>> ChartObjectsIn(const Collection<ModelObject>& pcolObjects) {
+  std::vector<std::shared_ptr<ChartObject>> objects;
+  for (const auto& item : pcolObjects) {
+    if (auto object = std::dynamic_pointer_cast<ChartObject>(item)) objects.push_back(std::move(object));
+  }
+  return objects;
 }
 
 }  // namespace vantrel

@@ -1,8 +1,10 @@
 // Functions for selecting, copying and aligning objects of any class.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "chart/Geometry.h"
 #include "model/ModelObject.h"
@@ -22,5 +24,8 @@ std::optional<Rect> BoundsOf(const ModelObject& pobjObject);
 /// Moves the top-left corner; nothing for objects that have none, or that are there already.
 void MoveTo(ModelObject& pobjObject, float psngLeft, float psngTop);
 void MoveTo(ChartObject& pobjObject, float psngLeft, float psngTop);
+
+/// Those of a selection or clipboard that lie on a chart, which is all but what a host may have put there.
+std::vector<std::shared_ptr<ChartObject>> ChartObjectsIn(const Collection<ModelObject>& pcolObjects);
 
 }  // namespace vantrel

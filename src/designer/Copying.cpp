@@ -2,6 +2,7 @@
 
 #include <unordered_set>
 
+#include "designer/ChartObjects.h"
 #include "designer/ControlParts.h"
 #include "designer/Selecting.h"
 
@@ -31,9 +32,7 @@ void CopySelection(Vantrel& pobjControl) {
   }
   AddInnerArcs(pobjControl, *copied);
   pobjControl.Clipboard = copied;
-  PastePlace::Objects objects;
-  for (const auto& object : *copied) objects.push_back(object);
-  PartsOf(pobjControl).PastePlace.Copied(pobjControl, objects);
+  PartsOf(pobjControl).PastePlace.Copied(pobjControl, ChartObjectsIn(*copied));
 }
 
 }  // namespace vantrel

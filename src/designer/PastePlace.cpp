@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <limits>
 
-#include "designer/ChartObjects.h"
 #include "designer/Vantrel.h"
 
 namespace vantrel {
@@ -17,7 +16,7 @@ constexpr float kBesideLast = 300;  // twips
 PastePlace::Corner PastePlace::CornerOf(const Objects& pcolObjects) {
   float left = std::numeric_limits<float>::max(), top = left;
   for (const auto& object : pcolObjects) {
-    const auto bounds = BoundsOf(*object);
+    const auto bounds = object->Bounds();
     if (!bounds) continue;
     left = std::min(left, bounds->Left);
     top = std::min(top, bounds->Top);

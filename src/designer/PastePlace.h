@@ -4,7 +4,7 @@
 #include <memory>
 #include <vector>
 
-#include "model/ModelObject.h"
+#include "model/ChartObject.h"
 
 namespace vantrel {
 
@@ -17,7 +17,7 @@ class PastePlace {
     float Left, Top;  // twips
   };
 
-  using Objects = std::vector<std::shared_ptr<ModelObject>>;
+  using Objects = std::vector<std::shared_ptr<ChartObject>>;
 
   /// The top-left corner of a group.
   static Corner CornerOf(const Objects& pcolObjects);

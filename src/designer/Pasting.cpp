@@ -32,7 +32,7 @@ class Pasting {
   void Paste();
 
  private:
-  using Objects = std::vector<std::shared_ptr<ModelObject>>;
+  using Objects = PastePlace::Objects;
 
   void ChoosePlace(const Objects& pcolObjects);
   void MakeRoom();
@@ -56,8 +56,8 @@ class Pasting {
 
 void Pasting::RequirePictures(const Objects& pcolObjects) const {
   for (const auto& object : pcolObjects) {
-    if (const auto* place = dynamic_cast<const Place*>(object.get())) RequirePicture(mobjControl, *place);
-    if (const auto* transition = dynamic_cast<const Transition*>(object.get())) RequirePicture(mobjControl, *transition);
+    if (object->Kind() == ChartKind::Place) RequirePicture(mobjControl, static_cast<const Place&>(*object));
+    if (object->Kind() == ChartKind::Transition) RequirePicture(mobjControl, static_cast<const Transition&>(*object));
   }
 }
 
@@ -65,8 +65,7 @@ void Pasting::RequirePictures(const Objects& pcolObjects) const {
 void Pasting::RequireKeys(const Objects& pcolObjects) const {
   std::size_t segments = 0;
   for (const auto& object : pcolObjects) {
-    const auto* arc = dynamic_cast<const Arc*>(object.get());
-    if (arc) segments += arc->Path().size();
+    if (object->Kind() == ChartKind::Arc) segments += static_cast<const Arc&>(*object).Path().size();
   }
   RequireKeysFor(pcolObjects.size(), mobjWorkflow->Places);
   RequireKeysFor(pcolObjects.size(), mobjWorkflow->Transitions);
@@ -85,9 +84,8 @@ void Pasting::ChooseNames(const Objects& pcolObjects) {
   const auto leaves = [&](const ModelObject& object) { return leaving.contains(&object); };
   FreeNames places(mobjWorkflow->Places, leaves), transitions(mobjWorkflow->Transitions, leaves);
   for (const auto& object : pcolObjects) {
-    const auto* node = dynamic_cast<const Node*>(object.get());
-    if (!node) continue;
-    mNames.emplace(node, (dynamic_cast<const Place*>(node) ? places : transitions).Take(node->Name()));
+    if (object->Kind() == ChartKind::Place) mNames.emplace(object.get(), places.Take(static_cast<const Node&>(*object).Name()));
+    if (object->Kind() == ChartKind::Transition) mNames.emplace(object.get(), transitions.Take(static_cast<const Node&>(*object).Name()));
   }
 }
 
@@ -149,16 +147,22 @@ void Pasting::PasteArc(const Arc& pobjFrom) {
 
 void Pasting::PasteAll(const Objects& pcolObjects) {
   for (const auto& object : pcolObjects) {
-    if (const auto note = std::dynamic_pointer_cast<Notation>(object)) {
-      PasteNotation(note);
-    } else if (const auto transition = std::dynamic_pointer_cast<Transition>(object)) {
-      PasteNode(transition, mobjWorkflow->Transitions);
-    } else if (const auto place = std::dynamic_pointer_cast<Place>(object)) {
-      PasteNode(place, mobjWorkflow->Places);
+    switch (object->Kind()) {
+      case ChartKind::Notation:
+        PasteNotation(std::static_pointer_cast<Notation>(object));
+        break;
+      case ChartKind::Transition:
+        PasteNode(std::static_pointer_cast<Transition>(object), mobjWorkflow->Transitions);
+        break;
+      case ChartKind::Place:
+        PasteNode(std::static_pointer_cast<Place>(object), mobjWorkflow->Places);
+        break;
+      default:
+        break;
     }
   }
   for (const auto& object : pcolObjects) {
-    if (const auto arc = std::dynamic_pointer_cast<Arc>(object)) PasteArc(*arc);
+    if (object->Kind() == ChartKind::Arc) PasteArc(static_cast<const Arc&>(*object));
   }
 }
 
@@ -172,8 +176,7 @@ void Pasting::Paste() {
   const auto clipboard = mobjControl.Clipboard;
   if (!clipboard || clipboard->IsEmpty()) return;
   RequirePosition(mobjControl);
-  Objects objects;  // a copy, as deleting changes selection and clipboard
-  for (const auto& object : *clipboard) objects.push_back(object);
+  const Objects objects = ChartObjectsIn(*clipboard);  // a copy, as deleting changes selection and clipboard
   mobjWorkflow = mobjControl.Workflow() ? mobjControl.Workflow() : std::make_shared<Workflow>();
   RequirePictures(objects);
   RequireKeys(objects);

@@ -37,12 +37,23 @@ std::shared_ptr<ModelObject> ObjectOf(const Vantrel& pobjControl, const Element&
 }
 
 Ref<Element> ElementOf(const ModelObject& pobjObject) {
-  if (const auto* node = dynamic_cast<const Node*>(&pobjObject)) return node->Image.get();
-  if (const auto* note = dynamic_cast<const Notation*>(&pobjObject)) return note->TextControl.get();
-  if (const auto* segment = dynamic_cast<const Vector*>(&pobjObject)) return segment->LineControl.get();
-  const auto* arc = dynamic_cast<const Arc*>(&pobjObject);
-  const auto segments = arc ? arc->Segments() : std::vector<Vector*>();
-  return segments.empty() ? nullptr : segments.front()->LineControl.get();
+  const auto* object = dynamic_cast<const ChartObject*>(&pobjObject);
+  if (!object) return nullptr;
+  switch (object->Kind()) {
+    case ChartKind::Place:
+    case ChartKind::Transition:
+      return static_cast<const Node&>(*object).Image.get();
+    case ChartKind::Notation:
+      return static_cast<const Notation&>(*object).TextControl.get();
+    case ChartKind::Vector:
+      return static_cast<const Vector&>(*object).LineControl.get();
+    case ChartKind::Arc: {
+      const auto segments = static_cast<const Arc&>(*object).Segments();
+      return segments.empty() ? nullptr : segments.front()->LineControl.get();
+    }
+    default:
+      return nullptr;
+  }
 }
 
 }  // namespace vantrel
