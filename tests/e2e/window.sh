@@ -93,7 +93,7 @@ opens 'New workflow'
 xdotool key ctrl+a Delete
 until_true changed 'New workflow'
 # The letters after the first are the new object's text.
-for text in pa tape pat; do
+for text in pinitial tape pat; do
   click $left $top
   xdotool type --delay 40 $text
   xdotool key Return
