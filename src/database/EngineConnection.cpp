@@ -142,6 +142,13 @@ EngineRows EngineConnection::Query(const EngineStatement& pobjStatement) {
   return ForRowSet([&](Session& session) { return session.Query(pobjStatement); });
 }
 
+EngineRows EngineConnection::Select(const std::string& pstrSql) {
+  EngineStatement statement = Dialect().Translate(pstrSql);
+  const std::string table(Dialect().UnorderedTable(statement.Text));
+  if (!table.empty()) statement.Text += Dialect().InsertionOrder(*ColumnsOf(table));
+  return Query(statement);
+}
+
 std::int64_t EngineConnection::Run(const EngineStatement& pobjStatement) {
   return ForRowSet([&](Session& session) { return session.Run(pobjStatement); });
 }

@@ -31,8 +31,9 @@ class EngineConnection final : public Connection {
   void RollbackTrans() noexcept override;
   bool IsTransactionLost() const override;
 
+  /// The rows of a statement, in the order of their insertion where it has no order of its own.
+  EngineRows Select(const std::string& pstrSql);
   /// For row sets: like the session's, but throws Error 3709 when the connection or the transaction is lost.
-  EngineRows Query(const EngineStatement& pobjStatement);
   std::int64_t Run(const EngineStatement& pobjStatement);
   std::int32_t Insert(const EngineStatement& pobjStatement);
   const vantrel::Dialect& Dialect() const { return mobjSession->Dialect(); }
@@ -42,6 +43,7 @@ class EngineConnection final : public Connection {
  private:
   /// The session for a statement. When there is none, throws the error of that number, with the reason.
   Session& Usable(std::int32_t plngNumber);
+  EngineRows Query(const EngineStatement& pobjStatement);
   template <class Action>
   auto ForRowSet(Action pAction);
   std::string ReasonOfLoss() const;

@@ -45,7 +45,7 @@ void EngineRecordset::Open(const std::string& pstrSource) {
   EngineRows rows;
   mblnFetched = !CanWait();
   if (mblnFetched) {
-    rows = mobjConnection.Query(mobjConnection.Dialect().Translate(mstrSource));
+    rows = mobjConnection.Select(mstrSource);
     mcolColumns = std::make_shared<const std::vector<std::string>>(std::move(rows.Columns));
   }
   mcolValues = std::move(rows.Values);
@@ -70,7 +70,7 @@ void EngineRecordset::CheckCurrent() const {
 
 void EngineRecordset::Fetch() const {
   if (mblnFetched) return;
-  EngineRows rows = mobjConnection.Query(mobjConnection.Dialect().Translate(mstrSource));
+  EngineRows rows = mobjConnection.Select(mstrSource);
   const std::vector<Variant> added = std::exchange(mcolValues, std::move(rows.Values));
   mblnFetched = true;
   const std::size_t current = mlngRow * Width(), id = FindColumn("Id");

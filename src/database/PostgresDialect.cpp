@@ -1,22 +1,12 @@
 #include "database/PostgresDialect.h"
 
 #include <algorithm>
-#include <array>
 
 #include "database/SqlWords.h"
 
 namespace vantrel {
 
 namespace {
-
-constexpr std::array<std::string_view, 8> kTablesWithId = {"arc",           "notation",      "place",      "token",
-                                                           "tokenproperty", "propertyvalue", "transition", "workflow"};
-constexpr std::array<std::string_view, 2> kTablesWithSequence = {"propertyoption", "vector"};
-
-template <std::size_t Count>
-bool Contains(const std::array<std::string_view, Count>& pcolTables, std::string_view pstrTable) {
-  return std::find(pcolTables.begin(), pcolTables.end(), pstrTable) != pcolTables.end();
-}
 
 // Also true for a BY inside a text of a list: such a statement keeps the order that the engine gives.
 bool HasOrderOrGroups(std::string_view pstrText) {
@@ -47,16 +37,14 @@ void PostgresDialect::AppendDate(std::string& pstrText, Date pdtmValue) const {
   pstrText.append("TIMESTAMP '").append(pdtmValue.ToText()).append("'");
 }
 
-std::string_view PostgresDialect::RowOrder(std::string_view pstrText) const {
+std::string_view PostgresDialect::UnorderedTable(std::string_view pstrText) const {
   constexpr std::string_view kWholeRows = "SELECT * FROM \"";
   if (!IsSameName(pstrText.substr(0, kWholeRows.size()), kWholeRows)) return {};
   const std::string_view rest = pstrText.substr(kWholeRows.size());
   const std::string_view table = rest.substr(0, rest.find('"'));
   const std::string_view behind = rest.substr(std::min(rest.size(), table.size() + 1));
   const bool isOneTable = behind.empty() || IsSameName(behind.substr(0, 7), " WHERE ");
-  if (!isOneTable || HasOrderOrGroups(behind)) return {};
-  if (Contains(kTablesWithId, table)) return " ORDER BY \"id\"";
-  return Contains(kTablesWithSequence, table) ? " ORDER BY \"seq\"" : "";
+  return isOneTable && !HasOrderOrGroups(behind) ? table : std::string_view();
 }
 
 }  // namespace vantrel

@@ -17,6 +17,7 @@ struct EngineStatement {
   std::string Text;                 ///< with numbered parameters where the dialect took values out
   std::vector<Variant> Parameters;  ///< never objects
   bool IsReusable = false;          ///< the same text will come again with other values, so prepare it
+  std::string Table = {};           ///< of a row that is inserted, as the engine wants it written
 };
 
 /// All rows of a result, one after the other.
@@ -43,7 +44,8 @@ class Session {
   /// Rows changed.
   virtual std::int64_t Run(const EngineStatement& pobjStatement) = 0;
   virtual EngineRows Query(const EngineStatement& pobjStatement) = 0;
-  /// Runs the statement of Dialect::InsertRow. Returns the new row's id, which the engine gives.
+  /// Runs the statement of Dialect::InsertRow. Returns the new row's id, which the engine gives. Throws Error 6 for an id beyond 32 bits,
+  /// and there is no row then.
   virtual std::int32_t Insert(const EngineStatement& pobjStatement) = 0;
 
   /// Runs several statements in the engine's own language, such as those that create the tables: all or none of them.

@@ -11,6 +11,7 @@
 #include "chart/Line.h"
 #include "model/Enumerations.h"
 #include "model/Forward.h"
+#include "util/MsgBox.h"
 #include "util/Ref.h"
 
 namespace vantrel {
@@ -55,6 +56,8 @@ class DesignerHost {
   /// Names of the fonts on this system, in the system's order.
   virtual std::vector<std::string> FontNames() const { return {"Arial"}; }
 
+  /// Tells the user what kept a firing from its end.
+  virtual void Tell(const std::string& pstrText) { MsgBox(pstrText); }
   /// Asks the user for one of the options. Returns its text, or nothing when the user cancels.
   virtual std::optional<std::string> SelectOption(const std::string& /*pstrPrompt*/, const std::vector<std::string>& /*pcolOptions*/) {
     return std::nullopt;

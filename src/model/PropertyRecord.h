@@ -34,6 +34,9 @@ class PropertyRecord {
   std::string Description;
   std::int32_t Attributes = 0;  ///< flags of a token property definition
   bool ReadOnly = false;
+  /// Of a token's value that has a row: the token that the row belongs to, where that is known. Tokens may have values in common, but each
+  /// has rows of its own.
+  std::int32_t RowTokenId = 0;
 
   /// A record with the same field values and copies of the options; an object in Value is shared.
   std::shared_ptr<PropertyRecord> Copy() const;

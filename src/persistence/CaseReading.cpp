@@ -87,6 +87,7 @@ void CaseReading::ReadValues() {
     const auto entry = token->CustomProperties()->Find(definition->Name);
     if (!entry) return;
     entry->Id = pobjRow.Fields("Id").Value.ToInt32();
+    entry->RowTokenId = token->RecId;
     entry->Value = TextOrNone(pobjRow.Fields("Value").Value);
   });
 }

@@ -1,12 +1,8 @@
 #include "persistence/DatabaseAccess.h"
 
-#include "util/MsgBox.h"
-
 namespace vantrel {
 
 namespace {
-
-constexpr const char* kNoConnectionText = "A database connection can not be detected.  The save operation has been aborted.";
 
 void Abandon(Connection& pobjConnection, SavedMarks& pobjMarks) {
   pobjConnection.RollbackTrans();
@@ -25,7 +21,7 @@ std::int32_t DatabaseAccess::ExecuteSQL(const SqlText& pobjSql) {
     Connection().Execute(pobjSql.Text(), Connection::kOptionsUnspecified);
     return 0;
   } catch (const Error& error) {
-    Show(error);
+    Note(error);
     if (error.Number == vntErrObjectClosed) {
       try {
         Connection().Open("", "", "", Connection::kOptionsUnspecified);
@@ -39,9 +35,9 @@ std::int32_t DatabaseAccess::ExecuteSQL(const SqlText& pobjSql) {
 }
 
 std::unique_ptr<Recordset> DatabaseAccess::GetRecordset(const std::string& pstrSql, std::int32_t plngCursorType) {
-  mobjUnshown.reset();
+  mobjUnusable.reset();
   if (!mobjConnection) {
-    mobjUnshown = Error(vntErrNoConnection);
+    mobjUnusable = Error(vntErrNoConnection);
     return nullptr;
   }
   try {
@@ -54,9 +50,9 @@ std::unique_ptr<Recordset> DatabaseAccess::GetRecordset(const std::string& pstrS
     return rows;
   } catch (const Error& error) {
     if (error.Number == vntErrNoConnection) {
-      mobjUnshown = error;
+      mobjUnusable = error;
     } else {
-      Show(error);
+      Note(error);
       if (IsTransactionLost()) throw TransactionLost(error);
     }
     return nullptr;
@@ -66,7 +62,7 @@ std::unique_ptr<Recordset> DatabaseAccess::GetRecordset(const std::string& pstrS
 std::unique_ptr<Recordset> DatabaseAccess::Rows(const std::string& pstrSql) {
   auto rows = GetRecordset(pstrSql);
   if (rows) return rows;
-  if (mobjUnshown && IsTransactionLost()) throw Error(*mobjUnshown);
+  if (mobjUnusable && IsTransactionLost()) throw Error(*mobjUnusable);
   throw Error(vntErrObjectNotSet);
 }
 
@@ -77,14 +73,14 @@ std::int32_t DatabaseAccess::NextId(const std::string& pstrTableName) {
   const Variant& largest = rows->Fields("MaxId").Value;
   if (largest.IsNull()) return 1;
   const std::int32_t id = largest.ToInt32();
-  if (id == 0x7FFFFFFF) throw Error(vntErrOverflow);
+  if (id == 0x7FFFFFFF) throw Error(vntErrOverflow, "The table " + pstrTableName + " has no id left: ids have 32 bits.");
   return id + 1;
 }
 
 void DatabaseAccess::Write(SavedMarks& pobjMarks, const std::function<void()>& pWork) {
   Connection();
-  const auto connection = mobjConnection;  // the code that answers a message box may set another one
-  ShowLoss([&] { connection->BeginTrans(Transaction::Write); });
+  const auto connection = mobjConnection;  // whoever hears of a dirty mark may hand in another one
+  NoteLoss([&] { connection->BeginTrans(Transaction::Write); });
   try {
     pWork();
   } catch (const Error& error) {
@@ -94,7 +90,7 @@ void DatabaseAccess::Write(SavedMarks& pobjMarks, const std::function<void()>& p
     }
     Abandon(*connection, pobjMarks);
     if (dynamic_cast<const TransactionLost*>(&error) || dynamic_cast<const ReopeningFailed*>(&error)) throw;
-    Show(error);
+    Note(error);
     throw TransactionLost(error);
   } catch (...) {
     Abandon(*connection, pobjMarks);
@@ -105,18 +101,18 @@ void DatabaseAccess::Write(SavedMarks& pobjMarks, const std::function<void()>& p
 
 void DatabaseAccess::Commit(vantrel::Connection& pobjConnection, SavedMarks& pobjMarks) {
   try {
-    ShowLoss([&] { pobjConnection.CommitTrans(); });
+    NoteLoss([&] { pobjConnection.CommitTrans(); });
   } catch (...) {
     pobjMarks.Restore();
     throw;
   }
 }
 
-void DatabaseAccess::ShowLoss(const std::function<void()>& pStep) {
+void DatabaseAccess::NoteLoss(const std::function<void()>& pStep) {
   try {
     pStep();
   } catch (const Error& error) {
-    Show(error);
+    Note(error);
     throw TransactionLost(error);
   }
 }
@@ -155,14 +151,5 @@ bool DatabaseAccess::BeginReading(vantrel::Connection* pobjConnection) {
     return false;
   }
 }
-
-void DatabaseAccess::Show(const Error& pobjError) {
-  ++mlngFailures;
-  mstrLastFailure = pobjError.Description;
-  if (!mobjFirstFailure) mobjFirstFailure = pobjError;
-  MsgBox(pobjError.Description);
-}
-
-void DatabaseAccess::ShowNoConnection() { Show(Error(vntErrObjectNotSet, kNoConnectionText)); }
 
 }  // namespace vantrel

@@ -6,15 +6,17 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "database/Connection.h"
+#include "persistence/Report.h"
 #include "persistence/SavedMarks.h"
 #include "persistence/SqlText.h"
 #include "util/Error.h"
 
 namespace vantrel {
 
-/// The transaction was lost by a failure, and nothing more can be done in it. The failure has been shown.
+/// The transaction was lost by a failure, and nothing more can be done in it. The failure is in the report.
 class TransactionLost final : public Error {
  public:
   explicit TransactionLost(const Error& pobjReason) : Error(pobjReason) {}
@@ -38,10 +40,10 @@ class DatabaseAccess {
   /// Error 91 without connection.
   vantrel::Connection& Connection() const;
 
-  /// 0, or the number of the failure, which was shown. A connection that turns out to be closed is opened again, but the
+  /// 0, or the number of the failure, which is in the report. A connection that turns out to be closed is opened again, but the
   /// statement is not repeated. Throws TransactionLost and ReopeningFailed.
   std::int32_t ExecuteSQL(const SqlText& pobjSql);
-  /// Null on failure. Shows nothing when the connection cannot be used, otherwise the failure.
+  /// Null on failure. The failure is in the report unless the connection cannot be used.
   std::unique_ptr<Recordset> GetRecordset(const std::string& pstrSql, std::int32_t plngCursorType = vntOpenForwardOnly);
   /// Never null: Error 91 instead, or the reason when the transaction is lost.
   std::unique_ptr<Recordset> Rows(const std::string& pstrSql);
@@ -57,26 +59,21 @@ class DatabaseAccess {
   /// anything to read; if so, a lost transaction is an Error.
   void Read(const std::function<bool()>& pWork);
 
-  /// In a message box.
-  void Show(const Error& pobjError);
-  void ShowNoConnection();
-  std::int32_t Failures() const { return mlngFailures; }
-  const std::string& LastFailure() const { return mstrLastFailure; }
-  /// Makes the next failure that is shown the first one.
-  void ForgetFirstFailure() { mobjFirstFailure.reset(); }
-  const std::optional<Error>& FirstFailure() const { return mobjFirstFailure; }
+  /// Puts a failure into the report.
+  void Note(const Error& pobjError) { mobjReport.Add(pobjError); }
+  const Report& Failed() const { return mobjReport; }
+  /// What failed since it was last taken.
+  Report TakeReport() { return std::exchange(mobjReport, {}); }
 
  private:
   void Commit(vantrel::Connection& pobjConnection, SavedMarks& pobjMarks);
   /// Runs a step of the transaction itself, which is lost when the step fails.
-  void ShowLoss(const std::function<void()>& pStep);
+  void NoteLoss(const std::function<void()>& pStep);
   static bool BeginReading(vantrel::Connection* pobjConnection);
 
   const std::shared_ptr<vantrel::Connection>& mobjConnection;
-  std::optional<Error> mobjFirstFailure;
-  std::optional<Error> mobjUnshown;  // why GetRecordset last returned null without showing anything
-  std::string mstrLastFailure;
-  std::int32_t mlngFailures = 0;
+  Report mobjReport;
+  std::optional<Error> mobjUnusable;  // why GetRecordset last gave nothing and reported nothing
 };
 
 /// Runs `pRow(row)` for every row from the current one on.

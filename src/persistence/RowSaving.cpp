@@ -31,7 +31,7 @@ bool RunStep(DatabaseAccess& pobjAccess, const std::function<void()>& pStep) {
     return true;
   } catch (const Error& error) {
     if (pobjAccess.IsTransactionLost()) throw;
-    pobjAccess.Show(error);
+    pobjAccess.Note(error);
     return false;
   }
 }

@@ -44,7 +44,10 @@ void SavedMarks::Keep(const std::shared_ptr<WorkCase>& pobjWorkcase) { KeepField
 void SavedMarks::Keep(const std::shared_ptr<Token>& pobjToken) { KeepFields(pobjToken); }
 
 void SavedMarks::Keep(const std::shared_ptr<PropertyRecord>& pobjRecord) {
-  mcolUndo.emplace_back([pobjRecord, id = pobjRecord->Id] { pobjRecord->Id = id; });
+  mcolUndo.emplace_back([pobjRecord, id = pobjRecord->Id, token = pobjRecord->RowTokenId] {
+    pobjRecord->Id = id;
+    pobjRecord->RowTokenId = token;
+  });
 }
 
 void SavedMarks::KeepChart(const std::shared_ptr<Workflow>& pobjWorkflow) {

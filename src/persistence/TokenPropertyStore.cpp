@@ -10,6 +10,9 @@ namespace vantrel {
 
 namespace {
 
+// The id of a value whose row is there and could not be read back.
+constexpr std::int32_t kUnknownRow = -1;
+
 SqlText InsertOf(const PropertyRecord& pobjDefinition, std::int32_t plngPlaceId, std::int32_t plngIndex) {
   SqlText sql;
   sql << " INSERT INTO TokenProperty ( PlaceId, Name, [Index], Caption, Description, Type, [Value], Attributes )"
@@ -57,7 +60,23 @@ void InsertValue(DatabaseAccess& pobjAccess, PropertyRecord& pobjEntry, std::int
   SqlText sql;
   sql << "INSERT INTO PropertyValue (PropertyId, TokenId, [Value])"
       << " VALUES(" << plngPropertyId << ", " << plngTokenId << ", " << SqlQuoted{TextOrNone(pobjEntry.Value)} << ")";
-  if (pobjAccess.ExecuteSQL(sql) == 0) pobjEntry.Id = FindRow(pobjAccess, plngPropertyId, plngTokenId);
+  if (pobjAccess.ExecuteSQL(sql) != 0) return;
+  pobjEntry.Id = kUnknownRow;  // stays when the row cannot be read back
+  pobjEntry.RowTokenId = plngTokenId;
+  pobjEntry.Id = FindRow(pobjAccess, plngPropertyId, plngTokenId);
+}
+
+void SaveValue(DatabaseAccess& pobjAccess, PropertyRecord& pobjEntry, const PropertyRecord& pobjDefinition, std::int32_t plngTokenId) {
+  const bool isOfOther = pobjEntry.RowTokenId != 0 && pobjEntry.RowTokenId != plngTokenId;
+  if (isOfOther || pobjEntry.Id == kUnknownRow) {
+    pobjEntry.Id = FindRow(pobjAccess, pobjDefinition.Id, plngTokenId);
+    pobjEntry.RowTokenId = plngTokenId;
+  }
+  if (pobjEntry.Id != 0) {
+    UpdateValue(pobjAccess, pobjEntry, pobjDefinition.Id, plngTokenId);
+  } else if (TextOrNone(pobjEntry.Value) != TextOrNone(pobjDefinition.Value)) {
+    InsertValue(pobjAccess, pobjEntry, pobjDefinition.Id, plngTokenId);
+  }
 }
 
 }  // namespace
@@ -118,19 +137,11 @@ void SaveTokenValues(DatabaseAccess& pobjAccess, SavedMarks& pobjMarks, const To
   if (!definitions || !entries) throw Error(vntErrObjectNotSet);
   std::unordered_map<std::string_view, std::shared_ptr<PropertyRecord>> definitionOf;
   for (const auto& definition : *definitions) definitionOf.try_emplace(definition->Name, definition);
-  // Tokens that a subflow delivers share their values, but each has its own rows.
-  const bool isShared = entries.use_count() > 2;
   for (const auto& entry : *entries) {
     const auto found = definitionOf.find(entry->Name);
     if (found == definitionOf.end()) throw Error(vntErrInvalidCall);
-    const std::int32_t propertyId = found->second->Id;
-    if (isShared || entry->Id == 0) pobjMarks.Keep(entry);
-    if (isShared) entry->Id = FindRow(pobjAccess, propertyId, pobjToken.RecId);
-    if (entry->Id != 0) {
-      UpdateValue(pobjAccess, *entry, propertyId, pobjToken.RecId);
-    } else if (TextOrNone(entry->Value) != TextOrNone(found->second->Value)) {
-      InsertValue(pobjAccess, *entry, propertyId, pobjToken.RecId);
-    }
+    pobjMarks.Keep(entry);
+    SaveValue(pobjAccess, *entry, *found->second, pobjToken.RecId);
   }
 }
 

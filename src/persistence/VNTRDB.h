@@ -12,14 +12,14 @@
 
 namespace vantrel {
 
-class CaseStore;
-class DatabaseAccess;
+class WorkflowDatabase;
 
 /// Reads and saves workflows, token property definitions, cases and tokens over a connection that the host opens and passes in. Never
 /// creates or changes a table: the host does, with data/schema/. Every operation that writes runs in one transaction, inside the host's
 /// if the host has begun one. For one thread.
 ///
-/// Failing statements are shown in message boxes, as each operation says, and counted in Failures.
+/// Failing statements do not end an operation, as each says. They are shown in message boxes in their order when the operation is over:
+/// nobody waits for a lock while a box is read.
 class VNTRDB final : public Object, public WorkflowReader {
  public:
   /// The result of a save without a connection.
@@ -33,7 +33,7 @@ class VNTRDB final : public Object, public WorkflowReader {
   std::string Class() const override { return "VNTR.VNTRDB.1"; }
 
   /// The workflow with everything drawn in it and the workflows embedded in it, not shown yet; null when there is no such id, or no
-  /// connection that can be used.
+  /// connection that can be used. Transitions that embed the same workflow share one object; two readings share nothing.
   /// Makes what it reads the process-wide current workflow (gobjWorkflow), even if it found nothing. Reads one state of the database.
   /// Throws Error for columns that cannot be read and Error 5 for a workflow that is embedded in itself; leaves out arcs that cannot
   /// be read.
@@ -76,18 +76,12 @@ class VNTRDB final : public Object, public WorkflowReader {
   /// Throws Error 5 when the workflow already has tokens; after any Error it has none.
   std::vector<std::shared_ptr<WorkCase>> ReadCases(const std::shared_ptr<Workflow>& pobjWorkflow);
 
-  /// How many failures this object has shown in message boxes so far, and the last one's description.
-  std::int32_t Failures() const;
-  const std::string& LastFailure() const;
-
  private:
-  friend class WholeSaving;
-  class ReadingScope;
+  template <class Work>
+  auto Shown(Work&& pWork);
+  void ShowReport();
 
-  std::unique_ptr<DatabaseAccess> mobjAccess;
-  std::unique_ptr<CaseStore> mobjCaseStore;
-  std::vector<std::int32_t> mcolReading;       // ids of the workflows that are being read, each embedded in the one before
-  std::shared_ptr<Workflow> mobjNothingFound;  // keeps gobjWorkflow alive after a read that found nothing
+  std::unique_ptr<WorkflowDatabase> mobjDatabase;
 };
 
 }  // namespace vantrel

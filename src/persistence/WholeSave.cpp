@@ -3,15 +3,23 @@
 #include <unordered_set>
 #include <vector>
 
+#include "database/TransactionScope.h"
 #include "persistence/ChartColor.h"
 #include "persistence/DatabaseAccess.h"
+#include "persistence/GoneRows.h"
+#include "persistence/TokenPropertyStore.h"
+#include "persistence/WorkflowSaving.h"
 
 namespace vantrel {
+
+namespace {
+
+std::shared_ptr<Workflow> EmbeddedIn(const Transition& pobjTransition) { return pobjTransition.EmbeddedWorkflow(); }
 
 /// One save of a workflow with everything inside.
 class WholeSaving {
  public:
-  explicit WholeSaving(VNTRDB& pobjDatabase) : mobjDatabase(pobjDatabase) {}
+  explicit WholeSaving(const std::shared_ptr<Connection>& pobjConnection) : mobjConnection(pobjConnection), mobjAccess(mobjConnection) {}
 
   void Run(const std::shared_ptr<Workflow>& pobjWorkflow);
 
@@ -19,20 +27,14 @@ class WholeSaving {
   void Gather(const std::shared_ptr<Workflow>& pobjWorkflow);
   void Save(const std::shared_ptr<Workflow>& pobjWorkflow);
   void SaveAll();
-  void CheckFailures() const;
 
-  VNTRDB& mobjDatabase;
+  std::shared_ptr<Connection> mobjConnection;
+  DatabaseAccess mobjAccess;
   SavedMarks mMarks;
   std::vector<std::shared_ptr<Workflow>> mcolWorkflows;  // inner ones first
 };
 
-namespace {
-
-std::shared_ptr<Workflow> EmbeddedIn(const Transition& pobjTransition) { return pobjTransition.EmbeddedWorkflow(); }
-
-}  // namespace
-
-// Depth first, with a stack: lists a workflow after all that it embeds.
+// Depth first with a stack of its own: a workflow is listed when all that it embeds are.
 void WholeSaving::Gather(const std::shared_ptr<Workflow>& pobjWorkflow) {
   struct Visit {
     std::shared_ptr<Workflow> Item;
@@ -59,51 +61,44 @@ void WholeSaving::Gather(const std::shared_ptr<Workflow>& pobjWorkflow) {
   }
 }
 
-void WholeSaving::CheckFailures() const {
-  if (const auto& failure = mobjDatabase.mobjAccess->FirstFailure()) throw Error(*failure);
-}
-
 void WholeSaving::Save(const std::shared_ptr<Workflow>& pobjWorkflow) {
   for (const auto& transition : pobjWorkflow->Transitions) {
     if (const auto inner = EmbeddedIn(*transition)) transition->SubflowId = inner->RecId;
   }
-  mobjDatabase.SaveWorkFlow(pobjWorkflow);
-  CheckFailures();
-  if (pobjWorkflow->ChartColor) SaveChartColor(*mobjDatabase.Connection, pobjWorkflow->RecId, *pobjWorkflow->ChartColor);
+  ForgetGoneRows(mobjAccess, *pobjWorkflow);
+  SaveRowAndChart(mobjAccess, *pobjWorkflow, true);
+  mobjAccess.Failed().ThrowFirst();
+  if (pobjWorkflow->ChartColor) SaveChartColor(*mobjConnection, pobjWorkflow->RecId, *pobjWorkflow->ChartColor);
   for (const auto& place : pobjWorkflow->Places) {
     if (!place->TokenProperties) continue;
-    mobjDatabase.SaveTokenProperties(place);
-    CheckFailures();
+    SaveTokenProperties(mobjAccess, *place);
+    mobjAccess.Failed().ThrowFirst();
   }
 }
 
 void WholeSaving::SaveAll() {
-  mobjDatabase.mobjAccess->ForgetFirstFailure();
+  TransactionScope transaction(*mobjConnection, Transaction::Write);
   for (const auto& workflow : mcolWorkflows) Save(workflow);
+  transaction.Commit();
 }
 
 void WholeSaving::Run(const std::shared_ptr<Workflow>& pobjWorkflow) {
-  const auto connection = mobjDatabase.Connection;
-  if (!connection || !pobjWorkflow) throw Error(vntErrObjectNotSet);
+  if (!mobjConnection || !pobjWorkflow) throw Error(vntErrObjectNotSet);
   Gather(pobjWorkflow);
   for (const auto& workflow : mcolWorkflows) mMarks.KeepChart(workflow);
-  connection->BeginTrans(Transaction::Write);
   try {
     SaveAll();
   } catch (...) {
-    connection->RollbackTrans();
     mMarks.Restore();
-    CheckFailures();  // the failure shown first says more than its consequences
-    throw;
-  }
-  try {
-    connection->CommitTrans();
-  } catch (...) {
-    mMarks.Restore();
+    mobjAccess.Failed().ThrowFirst();
     throw;
   }
 }
 
-void SaveWhole(VNTRDB& pobjDatabase, const std::shared_ptr<Workflow>& pobjWorkflow) { WholeSaving(pobjDatabase).Run(pobjWorkflow); }
+}  // namespace
+
+void SaveWhole(const std::shared_ptr<Connection>& pobjConnection, const std::shared_ptr<Workflow>& pobjWorkflow) {
+  WholeSaving(pobjConnection).Run(pobjWorkflow);
+}
 
 }  // namespace vantrel

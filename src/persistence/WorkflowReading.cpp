@@ -72,7 +72,10 @@ void WorkflowReading::ReadTransitions() {
   ForEachRow(*rows, [&](const Recordset& pobjRow) {
     const auto transition = std::make_shared<Transition>(*mobjWorkflow);
     transition->Key = KeyOf<Transition>(++number);
-    transition->AssignValues(pobjRow);
+    {
+      const NestedReading::Asking asking(mobjNested);
+      transition->AssignValues(pobjRow);
+    }
     transition->Dirty = false;
     mobjWorkflow->Transitions.Add(transition, transition->Key);
     mcolTransitions.emplace(transition->RecId, transition);

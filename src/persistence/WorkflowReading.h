@@ -9,6 +9,7 @@
 
 #include "model/Workflow.h"
 #include "persistence/DatabaseAccess.h"
+#include "persistence/NestedReading.h"
 #include "persistence/TokenPropertyStore.h"
 
 namespace vantrel {
@@ -16,8 +17,9 @@ namespace vantrel {
 /// Fills one new workflow. Takes time in proportion to the rows.
 class WorkflowReading {
  public:
-  WorkflowReading(DatabaseAccess& pobjAccess, const std::shared_ptr<Workflow>& pobjWorkflow)
-      : mobjAccess(pobjAccess), mobjWorkflow(pobjWorkflow) {}
+  /// Transitions ask the nested reading for the workflows that they embed.
+  WorkflowReading(DatabaseAccess& pobjAccess, const std::shared_ptr<Workflow>& pobjWorkflow, NestedReading& pobjNested)
+      : mobjAccess(pobjAccess), mobjWorkflow(pobjWorkflow), mobjNested(pobjNested) {}
 
   /// False when there is no row with that id. Throws Error for a row that cannot be read; from the first arc on, leaves such rows out.
   bool Run(std::int32_t plngRecId);
@@ -40,6 +42,7 @@ class WorkflowReading {
 
   DatabaseAccess& mobjAccess;
   std::shared_ptr<Workflow> mobjWorkflow;
+  NestedReading& mobjNested;
   std::unordered_set<std::string> mcolPlaceNames;
   // The first object of each id, as a search from the beginning would find it.
   std::unordered_map<std::int32_t, std::shared_ptr<Place>> mcolPlaces;

@@ -67,10 +67,10 @@ void DeletePaths(DatabaseAccess& pobjAccess, std::int32_t plngWorkflowId) {
 
 }  // namespace
 
-void SaveRowAndChart(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow) {
+void SaveRowAndChart(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow, bool pblnHasChanged) {
   if (pobjWorkflow.RecId == 0) {
     InsertRow(pobjAccess, pobjWorkflow);
-  } else if (pobjWorkflow.Dirty()) {
+  } else if (pblnHasChanged) {
     UpdateRow(pobjAccess, pobjWorkflow);
   }
   SaveTransitions(pobjAccess, pobjWorkflow);

@@ -8,10 +8,10 @@
 
 namespace vantrel {
 
-/// Writes the workflow's row, where it is new or dirty, then its chart. Throws the failure of an arc, and TransactionLost.
-void SaveRowAndChart(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow);
+/// Writes the workflow's row, where it is new or has changed, then its chart. Throws the failure of an arc, and TransactionLost.
+void SaveRowAndChart(DatabaseAccess& pobjAccess, Workflow& pobjWorkflow, bool pblnHasChanged);
 
-/// Deletes the rows of the chart. A refused statement is shown, and the others run.
+/// Deletes the rows of the chart. A refused statement goes into the report, and the others run.
 void DeleteRowAndChart(DatabaseAccess& pobjAccess, std::int32_t plngWorkflowId);
 
 }  // namespace vantrel

@@ -32,7 +32,7 @@ TEST(Dialect, StatementsBecomeTheEnginesOwn) {
       {"DELETE * FROM Transition WHERE WorkflowId = -5", R"(DELETE FROM "Transition" WHERE "WorkflowId" = ? |-5)",
        R"(DELETE FROM "transition" WHERE "workflowid" = $1 |-5)"},
       {" SELECT *    FROM Place   WHERE WorkflowId = 7;", R"(SELECT * FROM "Place" WHERE "WorkflowId" = ? |7)",
-       R"(SELECT * FROM "place" WHERE "workflowid" = $1 ORDER BY "id" |7)"},
+       R"(SELECT * FROM "place" WHERE "workflowid" = $1 |7)"},
       {"select max(Id) as MaxId from Token", R"(select max("Id") as "MaxId" from "Token")", R"(select max("id") as "maxid" from "token")"},
       {"SELECT Max, [Count], COUNT(*) FROM T GROUP BY Max ORDER BY 2 DESC",
        R"(SELECT "Max", "Count", COUNT(*) FROM "T" GROUP BY "Max" ORDER BY 2 DESC)",

@@ -14,6 +14,7 @@
 #include "database/ConnectionContract.h"
 #include "database/PostgresServer.h"
 #include "database/postgres/PostgresAddress.h"
+#include "database/postgres/PostgresSession.h"
 #include "util/Error.h"
 
 namespace vantrel::test {
@@ -125,6 +126,27 @@ TEST_F(Postgres, ARowThatWasChangedKeepsItsPlace) {
     EXPECT_THAT(Column(*mConnection, source, "Guard"), ElementsAre("a", "b", "c")) << source;
   }
   EXPECT_THAT(Column(*mConnection, "select * from Arc order by Guard desc", "Guard"), ElementsAre("c", "b", "a"));
+}
+
+// A host's tables need no columns beside those that workflows have.
+TEST_F(Postgres, TablesWithoutACounterAreReadAsTheyAre) {
+  mConnection->Execute("DELETE * FROM Vector");
+  const auto session = std::make_unique<PostgresSession>(1000);
+  session->Open(mDatabase->Address());
+  session->RunScript(
+      "ALTER TABLE vector DROP COLUMN seq; ALTER TABLE propertyoption DROP COLUMN seq; DROP TABLE arc CASCADE; "
+      "CREATE TABLE arc (id bigint PRIMARY KEY DEFAULT 2147483648, guard text)");
+  const auto connection = OpenPostgres(mDatabase->Address());
+  for (const char* x : {"3", "1", "2"}) connection->Execute(std::string("INSERT INTO Vector VALUES (5, ") + x + ", 0, 0, 0)");
+  EXPECT_THAT(Column(*connection, "SELECT * FROM Vector WHERE ArcId = 5", "X1"), ElementsAre("3", "1", "2"));
+  EXPECT_THAT(Column(*connection, "SELECT * FROM PropertyOption", "Prompt"), testing::IsEmpty());
+
+  EXPECT_EQ(ErrorOf([&] { Add(*connection, "Arc", {{"guard", "x"}}); }), vntErrOverflow);
+  connection->BeginTrans(Transaction::Write);
+  connection->Execute("INSERT INTO Arc (Id, Guard) VALUES (1, 'kept')");
+  EXPECT_EQ(ErrorOf([&] { Add(*connection, "Arc", {{"guard", "x"}}); }), vntErrOverflow);
+  connection->CommitTrans();
+  EXPECT_THAT(Column(*connection, "SELECT * FROM Arc", "Guard"), ElementsAre("kept"));
 }
 
 TEST_F(Postgres, WritersWaitForOneAnotherAndGiveUpInTheEnd) {

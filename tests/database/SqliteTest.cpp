@@ -1,6 +1,7 @@
 #include "database/sqlite/Sqlite.h"
 
 #include <atomic>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -9,6 +10,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sqlite3.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include "database/ConnectionContract.h"
@@ -239,6 +241,78 @@ TEST_F(Sqlite, ReadOnlyFilesAndFoldersCanBeRead) {
   std::filesystem::permissions(Home.File(), std::filesystem::perms::none);
   const OrdinaryUser user;
   ExpectProblem([&] { OpenSqlite(Home.File()); }, Home.File(), "access is denied");
+}
+
+// A reader who may not write takes no lock. It sees a whole state, the old one or the new one, or is told.
+TEST_F(Sqlite, ReadersWhoMayNotWriteNoticeWhatOthersWrite) {
+  Create();
+  AddCase(*OpenSqlite(Home.File()), 1);
+  std::filesystem::permissions(Home.Path(), std::filesystem::perms{0755});
+  std::filesystem::permissions(Home.File(), std::filesystem::perms{0644});
+  const auto reader = [&] {
+    const OrdinaryUser user;
+    return OpenSqlite(Home.File());
+  }();
+  const auto cases = [&] {
+    const OrdinaryUser user;
+    return Column(*reader, "SELECT Id FROM Workcase", "Id");
+  };
+  EXPECT_THAT(cases(), ElementsAre("1"));
+  AddCase(*OpenSqlite(Home.File()), 2);
+  EXPECT_THAT(cases(), ElementsAre("1", "2"));
+  const auto writer = OpenSqlite(Home.File());
+  AddCase(*writer, 3);
+  EXPECT_THAT(cases(), ElementsAre("1", "2", "3"));
+  writer->Execute("DELETE * FROM Workcase WHERE Id = 1");
+  EXPECT_THAT(cases(), ElementsAre("2", "3"));
+}
+
+TEST_F(Sqlite, AReadingTransactionThatOthersWriteUnderIsToldSo) {
+  Create();
+  AddCase(*OpenSqlite(Home.File()), 1);
+  std::filesystem::permissions(Home.Path(), std::filesystem::perms{0755});
+  std::filesystem::permissions(Home.File(), std::filesystem::perms{0644});
+  std::shared_ptr<Connection> reader;
+  {
+    const OrdinaryUser user;
+    if (geteuid() == 0) GTEST_SKIP() << "everybody may write here";
+    reader = OpenSqlite(Home.File());
+    reader->BeginTrans(Transaction::Read);
+  }
+  AddCase(*OpenSqlite(Home.File()), 2);
+  const OrdinaryUser user;
+  ExpectProblem([&] { Column(*reader, "SELECT Id FROM Workcase", "Id"); }, Home.File(), "cannot be read now");
+  reader->RollbackTrans();
+  EXPECT_THAT(Column(*reader, "SELECT Id FROM Workcase", "Id"), ElementsAre("1", "2"));
+}
+
+// Runs before and after a limit are the same: a disk that fills up at any moment leaves no file, or one that is whole.
+TEST_F(Sqlite, AFileThatDoesNotFitTheDiskIsNotMade) {
+  rlimit before{};
+  getrlimit(RLIMIT_FSIZE, &before);
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  int made = 0;
+  for (rlim_t size = 4096; size < 400'000 && made < 2; size += 20'000) {
+    const rlimit full{size, before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &full);
+    const bool failed = ErrorOf([&] { Create(); }) != 0;
+    setrlimit(RLIMIT_FSIZE, &before);
+    EXPECT_EQ(std::filesystem::is_empty(Home.Path()), failed) << size;
+    if (failed) continue;
+    ++made;
+    AddCase(*OpenSqlite(Home.File()), 1);
+    std::filesystem::remove(Home.File());
+  }
+  std::signal(SIGXFSZ, handler);
+  EXPECT_EQ(made, 2);
+}
+
+TEST_F(Sqlite, AnIdBeyond32BitsIsRefusedAndLeavesNoRow) {
+  Create();
+  const auto connection = OpenSqlite(Home.File());
+  RunRaw(Home.File(), "INSERT INTO Arc (Id) VALUES (2147483647)");
+  EXPECT_EQ(ErrorOf([&] { Add(*connection, "Arc", {{"Guard", "x"}}); }), vntErrOverflow);
+  EXPECT_THAT(Column(*connection, "SELECT * FROM Arc", "Id"), ElementsAre("2147483647"));
 }
 
 TEST_F(Sqlite, StatementsAreForgottenBeforeTheyPileUp) {

@@ -61,7 +61,7 @@ TEST_F(StoredChart, ShowsAsItWasAndCanBeEditedOn) {
   const std::string before = Picture();
   VNTRDB database;
   database.Connection = Store.Connect();
-  SaveWhole(database, net);
+  SaveWhole(database.Connection, net);
   const auto id = net->RecId;
   net = nullptr;
   Control->Workflow(nullptr);

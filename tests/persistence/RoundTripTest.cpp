@@ -14,14 +14,14 @@ TEST_P(RoundTrip, KeepsEveryStoredValue) {
   for (unsigned seed = 0; seed < 40; ++seed) {
     SCOPED_TRACE(seed);
     const auto net = OddWorkflow(seed);
-    SaveWhole(Database, net);
+    SaveWhole(Database.Connection, net);
     const auto stored = Database.ReadWorkflow(net->RecId);
     ASSERT_TRUE(stored);
     EXPECT_EQ(Described(*stored), Described(*net));
     EXPECT_EQ(stored->GUID, net->GUID);
     EXPECT_TRUE(stored->Loaded);
 
-    SaveWhole(Database, stored);  // twice is the same as once
+    SaveWhole(Database.Connection, stored);  // twice is the same as once
     EXPECT_EQ(Described(*Database.ReadWorkflow(net->RecId)), Described(*net));
   }
   EXPECT_TRUE(Messages.Texts.empty());
@@ -29,7 +29,7 @@ TEST_P(RoundTrip, KeepsEveryStoredValue) {
 
 TEST_P(RoundTrip, FollowsWhatWasTakenAway) {
   const auto net = OddWorkflow(3);
-  SaveWhole(Database, net);
+  SaveWhole(Database.Connection, net);
   const auto read = [&] { return Database.ReadWorkflow(net->RecId); };
   net->Arcs.Clear();
   net->Transitions.Remove(1);
@@ -78,7 +78,7 @@ TEST_P(RoundTrip, EmbeddedWorkflowsComeAlong) {
   inner->Transitions.First()->Object(innermost);
   outer->Transitions.First()->Object(inner);
   AddTransition(*outer, "again")->Object(inner);
-  SaveWhole(Database, outer);
+  SaveWhole(Database.Connection, outer);
   EXPECT_EQ(innermost->RecId, 1) << "inner ones first, each once";
   EXPECT_EQ(inner->RecId, 2);
   EXPECT_EQ(outer->RecId, 3);
@@ -144,6 +144,33 @@ TEST_P(RoundTrip, LeavesOutWhatAnArcLacksAndRefusesWhatElseIsMissing) {
   EXPECT_FALSE(stored->StartPlace);
   EXPECT_EQ(stored->EndPlace(), stored->Places.First());
   EXPECT_FALSE(stored->Arcs.First()->Dirty);
+}
+
+// Each level embeds the next one twice: read for each transition, the innermost would be read 16 million times.
+TEST_P(RoundTrip, ReadsEachEmbeddedWorkflowOnceHoweverDeep) {
+  const auto outer = std::make_shared<Workflow>();
+  auto last = outer;
+  for (int level = 0; level < 300; ++level) {
+    const auto inner = std::make_shared<Workflow>();
+    for (int i = 0; i < (level < 24 ? 2 : 1); ++i) AddTransition(*last)->Object(inner);
+    last = inner;
+  }
+  AddPlace(*last, "innermost");
+  SaveWhole(Database.Connection, outer);
+  const auto embedded = [](const Workflow& pobjWorkflow, int pIndex) {
+    return std::dynamic_pointer_cast<Workflow>(pobjWorkflow.Transitions.Item(pIndex)->Object());
+  };
+  const auto stored = Database.ReadWorkflow(outer->RecId), other = Database.ReadWorkflow(outer->RecId);
+  EXPECT_EQ(embedded(*stored, 1), embedded(*stored, 2)) << "as it was saved";
+  EXPECT_NE(embedded(*stored, 1), embedded(*other, 1)) << "two readings share nothing";
+  auto innermost = stored;
+  while (!innermost->Transitions.IsEmpty()) innermost = embedded(*innermost, innermost->Transitions.Count());
+  EXPECT_EQ(innermost->Places.First()->Name(), "innermost");
+  EXPECT_EQ(gobjWorkflow.get(), embedded(*other, 1) ? [&] {
+    auto current = other;
+    while (!current->Transitions.IsEmpty()) current = embedded(*current, current->Transitions.Count());
+    return current.get();
+  }() : nullptr) << "what was read last is current";
 }
 
 VANTREL_ON_EVERY_ENGINE(RoundTrip);

@@ -26,7 +26,7 @@ class Upgrade : public EveryEngine {
 
 TEST_P(Upgrade, KeepsWhatIsStoredAndGivesNoIdAgain) {
   const auto net = OddWorkflow(3);
-  SaveWhole(Database, net);
+  SaveWhole(Database.Connection, net);
   const auto read = Database.ReadWorkflow(net->RecId);
   const auto workCase = NewCase("C");
   Database.SaveWorkcase(workCase);

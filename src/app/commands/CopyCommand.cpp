@@ -8,7 +8,6 @@
 #include "app/database/AsNew.h"
 #include "app/database/OpenDatabase.h"
 #include "app/database/WorkflowId.h"
-#include "persistence/WholeSave.h"
 
 namespace vantrel {
 
@@ -28,7 +27,7 @@ int CopyCommand::Run() {
   OpenDatabase target{DatabaseAddress(mTarget)};
   const auto workflow = source.ReadWorkflow(mlngId);
   for (const std::string& line : MakeNew(workflow)) std::cerr << "vantrel: " << source.Name() << ": " << line << '\n';
-  target.Do([&] { SaveWhole(target.Access(), workflow); });
+  target.Save(workflow);
   std::cout << workflow->RecId << '\n';
   return kDone;
 }

@@ -34,7 +34,8 @@ int DeleteCommand::Run() {
     deleted = ToDelete(stored, mcolIds, mblnEmbedded);
     if (!mblnForce) RefuseEmbedded(database.Name(), deleted);
     for (const WorkflowListing& workflow : deleted) database.Access().DeleteWorkflow(workflow.Id);
-    if (database.Access().Failures() == 0) transaction.Commit();
+    database.Access().Failed().ThrowFirst();
+    transaction.Commit();
   });
   for (const WorkflowListing& workflow : deleted) {
     std::cout << "Deleted workflow " << workflow.Id << ": " << workflow.Places << " places, " << workflow.Transitions << " transitions, "

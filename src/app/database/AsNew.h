@@ -9,12 +9,8 @@
 
 namespace vantrel {
 
-/// Clears the database ids of a workflow and of all that is drawn in it. Embedded workflows keep theirs.
-void ForgetRecords(Workflow& pobjWorkflow);
-
-/// Clears the database ids of a workflow that was read, and of all that belongs to it, embedded workflows included. One that several
-/// transitions embed, and that was read several times, becomes one object. Returns a line for every transition whose embedded workflow
-/// is missing.
+/// Clears the database ids of a workflow that was read, and of all that belongs to it, embedded workflows included. Returns a line for
+/// every transition whose embedded workflow is missing.
 std::vector<std::string> MakeNew(const std::shared_ptr<Workflow>& pobjWorkflow);
 
 }  // namespace vantrel

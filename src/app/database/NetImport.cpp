@@ -2,7 +2,6 @@
 
 #include "app/JsonWriter.h"
 #include "interchange/PnmlImport.h"
-#include "persistence/WholeSave.h"
 
 namespace vantrel {
 
@@ -25,7 +24,7 @@ std::string LostMarking(const ImportedNet& pobjNet) {
 void Store(OpenDatabase& pobjDatabase, const ImportedNet& pobjNet, ImportOutcome& pobjOutcome) {
   pobjOutcome.NetId = pobjNet.Id;
   pobjOutcome.NetName = pobjNet.Name;
-  pobjDatabase.Do([&] { SaveWhole(pobjDatabase.Access(), pobjNet.Workflow); });
+  pobjDatabase.Save(pobjNet.Workflow);
   pobjOutcome.Id = pobjNet.Workflow->RecId;
   for (const std::string& arc : pobjNet.Skipped) pobjOutcome.Notes.push_back("left out: " + arc);
   if (auto lost = LostMarking(pobjNet); !lost.empty()) pobjOutcome.Notes.push_back(std::move(lost));

@@ -1,16 +1,15 @@
 #include "app/database/OpenDatabase.h"
 
 #include <filesystem>
-#include <iostream>
 #include <unordered_set>
 #include <utility>
 #include <vector>
 
-#include "app/Lines.h"
 #include "app/database/Engines.h"
 #include "app/database/SchemaVersion.h"
 #include "database/TransactionScope.h"
 #include "persistence/ChartColor.h"
+#include "persistence/WholeSave.h"
 #include "util/Error.h"
 
 namespace vantrel {
@@ -84,16 +83,9 @@ void ReadColors(Connection& pobjConnection, const std::shared_ptr<Workflow>& pob
 
 }  // namespace
 
-OpenDatabase::OpenDatabase(const DatabaseAddress& pobjAddress)
-    : mstrName(pobjAddress.Shown()), mMessageScope([this](const std::string& pstrText, MsgBoxButtons, const std::string&) {
-        mMessages.push_back(pstrText);
-        return vntOK;
-      }) {
-  mAccess.Connection = Connect(pobjAddress);
+OpenDatabase::OpenDatabase(const DatabaseAddress& pobjAddress) : mstrName(pobjAddress.Shown()), mobjConnection(Connect(pobjAddress)) {
   CheckTables();
 }
-
-OpenDatabase::~OpenDatabase() = default;
 
 std::int32_t OpenDatabase::VersionToUpgrade(const DatabaseAddress& pobjAddress) {
   const auto connection = Connect(pobjAddress);
@@ -111,15 +103,18 @@ void OpenDatabase::CheckTables() {
 }
 
 void OpenDatabase::Do(const std::function<void()>& pWork) {
-  mMessages.clear();
-  const auto failures = mAccess.Failures();
+  mAccess.TakeReport();
   try {
     pWork();
+    mAccess.Failed().ThrowFirst();
   } catch (const Error& error) {
-    throw EngineFailure(mAccess.Failures() != failures ? mAccess.LastFailure() : error.Description);
+    const Report report = mAccess.TakeReport();
+    throw EngineFailure(report.IsClean() ? error.Description : report.Failures().front().Description);
   }
-  if (mAccess.Failures() != failures) throw EngineFailure(mAccess.LastFailure());
-  for (const std::string& message : mMessages) std::cerr << "vantrel: " << mstrName << ": " << OnOneLine(message) << '\n';
+}
+
+void OpenDatabase::Save(const std::shared_ptr<Workflow>& pobjWorkflow) {
+  Do([&] { SaveWhole(mobjConnection, pobjWorkflow); });
 }
 
 std::shared_ptr<Workflow> OpenDatabase::ReadWorkflow(std::int32_t plngId) {

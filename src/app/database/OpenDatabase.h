@@ -6,12 +6,10 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
-#include <vector>
 
 #include "app/database/DatabaseAddress.h"
 #include "model/DesignerState.h"
-#include "persistence/VNTRDB.h"
-#include "util/MsgBox.h"
+#include "persistence/WorkflowDatabase.h"
 
 namespace vantrel {
 
@@ -28,7 +26,7 @@ class OpenDatabase {
  public:
   /// Throws DatabaseFailure, which says how to make a database that is not there.
   explicit OpenDatabase(const DatabaseAddress& pobjAddress);
-  ~OpenDatabase();
+  ~OpenDatabase() = default;
   OpenDatabase(const OpenDatabase&) = delete;
   OpenDatabase& operator=(const OpenDatabase&) = delete;
 
@@ -37,15 +35,16 @@ class OpenDatabase {
   static std::int32_t VersionToUpgrade(const DatabaseAddress& pobjAddress);
 
   const std::string& Name() const { return mstrName; }
-  vantrel::Connection& Connection() { return *mAccess.Connection; }
-  VNTRDB& Access() { return mAccess; }
+  vantrel::Connection& Connection() { return *mobjConnection; }
+  WorkflowDatabase& Access() { return mAccess; }
 
-  /// Does the work. Throws an Error that leaves it, and a failure that was only shown, as a DatabaseFailure. Writes other messages to
-  /// standard error.
+  /// Does the work. Throws an Error that leaves it, and a failure that was only reported, as a DatabaseFailure.
   void Do(const std::function<void()>& pWork);
 
   /// Throws DatabaseFailure when there is none with that id.
   std::shared_ptr<Workflow> ReadWorkflow(std::int32_t plngId);
+  /// Saves the workflow with those embedded in it, all or nothing; when it throws, ids and marks of change are what they were.
+  void Save(const std::shared_ptr<Workflow>& pobjWorkflow);
   DatabaseFailure NoSuchWorkflow(std::int32_t plngId) const;
 
  private:
@@ -55,10 +54,9 @@ class OpenDatabase {
   DatabaseFailure EngineFailure(const std::string& pstrDescription) const;
 
   std::string mstrName;
-  std::vector<std::string> mMessages;  // of the current work
-  MsgBoxScope mMessageScope;
   DesignerStateScope mStateBefore;  // reading makes what it reads the current workflow
-  VNTRDB mAccess;
+  std::shared_ptr<vantrel::Connection> mobjConnection;
+  WorkflowDatabase mAccess{mobjConnection};
 };
 
 }  // namespace vantrel

@@ -24,7 +24,7 @@ class WorkflowStore {
   std::vector<WorkflowListing> List() const;
   std::shared_ptr<Workflow> Read(std::int32_t plngId) const;
   /// Saves the workflow with those embedded in it, all or nothing; when it throws, ids and marks of change are what they were.
-  /// A workflow whose row was deleted meanwhile gets a new id. Cases and tokens are not saved.
+  /// What others saved or deleted of it meanwhile does not stay: see SaveWhole. Cases and tokens are not saved.
   void Save(const std::shared_ptr<Workflow>& pobjWorkflow) const;
   /// Saves it under a new id, which it keeps; what was stored before stays. Embedded workflows are shared by both.
   void SaveAsNew(const std::shared_ptr<Workflow>& pobjWorkflow) const;

@@ -92,13 +92,13 @@ bool DatabaseStore::HasLeft(Token& pobjToken) const {
 }
 
 void DatabaseStore::Write(const std::vector<Group>& pcolTouched) {
-  VNTRDB& access = mDatabase.Access();
+  WorkflowDatabase& access = mDatabase.Access();
   TransactionScope transaction(mDatabase.Connection(), Transaction::Write);
   CheckStillOurs();
   for (const Group& tokens : pcolTouched) {
     if (tokens.front()->WorkCase) access.SaveWorkcase(tokens.front()->WorkCase);
     access.SaveToken(tokens.front());
-    if (access.Failures() > 0) return;
+    access.Failed().ThrowFirst();
     for (const auto& token : tokens) token->Dirty = false;
   }
   if (mlngLargestTokenId >= 0) mlngLargestTokenId = LargestTokenId();

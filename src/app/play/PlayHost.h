@@ -8,6 +8,7 @@
 
 #include "model/DesignerHost.h"
 #include "model/Workflow.h"
+#include "util/Error.h"
 
 namespace vantrel {
 
@@ -20,6 +21,9 @@ class PlayHost final : public DesignerHost {
   Ref<vantrel::Workflow> Workflow() const override { return mobjWorkflow; }
   void RunAction(Transition&) override { ++mActions; }
   bool TakesFirstCase() const override { return true; }
+  void Tell(const std::string& pstrText) override {
+    if (!mFailure) mFailure = pstrText;
+  }
   /// Without options no case has all the tokens that a firing needs. Cancelling then keeps the transition from firing. Tokens without a
   /// case move only if the answer is the empty text.
   std::optional<std::string> SelectOption(const std::string& /*pstrPrompt*/, const std::vector<std::string>& pcolOptions) override {
@@ -28,11 +32,16 @@ class PlayHost final : public DesignerHost {
   }
 
   std::int64_t Actions() const { return mActions; }
+  /// Throws the first thing that a user would have been told, if there was one.
+  void ThrowFailure() const {
+    if (mFailure) throw Error(vntErrInvalidCall, *mFailure);
+  }
 
  private:
   Ref<vantrel::Workflow> mobjWorkflow;
   bool mblnCases;
   std::int64_t mActions = 0;
+  std::optional<std::string> mFailure;
 };
 
 }  // namespace vantrel

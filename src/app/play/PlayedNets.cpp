@@ -1,22 +1,26 @@
 #include "app/play/PlayedNets.h"
 
+#include <algorithm>
+#include <unordered_set>
+
 namespace vantrel {
 
-namespace {
-
-void Append(const std::shared_ptr<Workflow>& pobjWorkflow, const std::string& pstrPrefix, std::vector<PlayedNet>& pcolNets) {
-  pcolNets.push_back({pobjWorkflow, pstrPrefix});
-  for (const auto& transition : pobjWorkflow->Transitions) {
-    const auto embedded = transition->EmbeddedWorkflow();
-    if (embedded) Append(embedded, pstrPrefix + transition->Key + "/", pcolNets);
-  }
-}
-
-}  // namespace
-
+// Depth first with a list of its own: nets may be nested deeper than the stack.
 std::vector<PlayedNet> PlayedNetsOf(const std::shared_ptr<Workflow>& pobjWorkflow) {
-  std::vector<PlayedNet> nets;
-  Append(pobjWorkflow, "", nets);
+  std::vector<PlayedNet> nets, waiting = {{pobjWorkflow, ""}};
+  std::unordered_set<const Workflow*> known;
+  while (!waiting.empty()) {
+    const PlayedNet net = std::move(waiting.back());
+    waiting.pop_back();
+    if (!known.insert(net.Workflow.get()).second) continue;
+    nets.push_back(net);
+    const std::size_t before = waiting.size();
+    for (const auto& transition : net.Workflow->Transitions) {
+      auto embedded = transition->EmbeddedWorkflow();
+      if (embedded) waiting.push_back({std::move(embedded), net.Prefix + transition->Key + "/"});
+    }
+    std::reverse(waiting.begin() + static_cast<std::ptrdiff_t>(before), waiting.end());
+  }
   return nets;
 }
 

@@ -15,6 +15,7 @@ struct PlayedNet {
 };
 
 /// The workflow and those embedded in its transitions, in the order of the transitions; each stands before those that it embeds.
+/// One that several transitions embed is listed once, with the key of the first of them.
 std::vector<PlayedNet> PlayedNetsOf(const std::shared_ptr<Workflow>& pobjWorkflow);
 
 }  // namespace vantrel

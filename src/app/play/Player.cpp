@@ -134,7 +134,7 @@ void Player::PutMarking() {
 
 void Player::Add(const std::shared_ptr<Place>& pobjPlace, const std::shared_ptr<WorkCase>& pobjCase) {
   pobjPlace->AddToken(mNet.Workflow->CreateToken(pobjPlace, nullptr, pobjCase));
-  mMessages.ThrowFirst();
+  mHost.ThrowFailure();
 }
 
 // A firing that ends early leaves its transition on the stack: no more than once round while nothing else happens.
@@ -145,7 +145,7 @@ void Player::FireUntilQuiet() {
     if (std::max(calls++, mAccount.Firings) >= mOptions.MaxFirings) throw RunEnded();
     const auto before = Happened();
     transition->Workflow->FireNext(transition);
-    mMessages.ThrowFirst();
+    mHost.ThrowFailure();
     if (Happened() == before) {
       mIdle.insert(transition.get());
     } else {

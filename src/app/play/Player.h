@@ -9,7 +9,6 @@
 #include <vector>
 
 #include "app/play/Account.h"
-#include "app/play/MessageRecorder.h"
 #include "app/play/PlayHost.h"
 #include "app/play/PlayOptions.h"
 #include "app/play/PlayStore.h"
@@ -27,7 +26,7 @@ struct PlayCounts {
 };
 
 /// Plays a net without a user: puts tokens into it, then fires enabled transitions until there are none. Make one for each run: while it
-/// lives it is the process's designer and answers message boxes. It changes the net's workflows.
+/// lives it is the process's designer. It changes the net's workflows.
 class Player {
  public:
   /// Is called before every case and every firing; false ends the run there. With a store the run ends between two firings, so that no
@@ -79,7 +78,6 @@ class Player {
   bool mblnStop = false;                        // the watch wants the run to end
   PlayHost mHost;
   DesignerStateScope mStateBefore;
-  MessageRecorder mMessages;
 };
 
 }  // namespace vantrel

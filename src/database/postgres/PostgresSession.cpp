@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <cstring>
+#include <limits>
 #include <string_view>
 
 #include <libpq-fe.h>
@@ -117,7 +118,12 @@ EngineRows PostgresSession::Query(const EngineStatement& pobjStatement) { return
 std::int32_t PostgresSession::Insert(const EngineStatement& pobjStatement) {
   const auto rows = Query(pobjStatement);
   if (rows.Values.empty() || !rows.Values.front().IsNumber()) throw Error(vntErrStatement, "The database gave the new row no Id.");
-  return rows.Values.front().ToInt32();
+  const double newId = rows.Values.front().ToDouble();
+  if (newId <= std::numeric_limits<std::int32_t>::max()) return static_cast<std::int32_t>(newId);
+  if (!mIsInTransaction)
+    Run({"DELETE FROM " + pobjStatement.Table + " WHERE \"id\" = " + std::to_string(static_cast<std::int64_t>(newId)), {}, false});
+  Undo();
+  throw Error(vntErrOverflow, "The table " + pobjStatement.Table + " has no id left: ids have 32 bits.");
 }
 
 void PostgresSession::RunScript(const std::string& pstrScript) {

@@ -35,7 +35,7 @@ class FileBeside {
   explicit FileBeside(const std::string& pstrPath) : mstrPath(pstrPath + "." + std::to_string(std::random_device()()) + ".new") {}
   ~FileBeside() {
     std::error_code ignored;
-    for (const char* tail : {"", "-wal", "-shm"}) fs::remove(mstrPath + tail, ignored);
+    for (const char* tail : {"", "-journal", "-wal", "-shm"}) fs::remove(mstrPath + tail, ignored);
   }
   FileBeside(const FileBeside&) = delete;
   FileBeside& operator=(const FileBeside&) = delete;

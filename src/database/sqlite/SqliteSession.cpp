@@ -24,6 +24,16 @@ bool CanWrite(const std::string& pstrPath) {
   return file != nullptr;
 }
 
+// The log and its index take 36 kilobytes at once. The index is mapped into memory: where a file system with small blocks has no room for
+// it, the process would end with a bus error.
+bool HasRoomForLog(const std::string& pstrPath) {
+  constexpr std::uintmax_t kNeeded = 64 * 1024;
+  std::error_code unknown;
+  if (std::filesystem::exists(pstrPath + "-shm", unknown)) return true;
+  const auto space = std::filesystem::space(std::filesystem::path(NameOf(pstrPath)).parent_path(), unknown);
+  return unknown || space.available >= kNeeded;
+}
+
 // A path as the URI that SQLite takes.
 std::string UriOf(const std::string& pstrPath) {
   constexpr std::string_view kHexDigits = "0123456789ABCDEF";
@@ -63,7 +73,6 @@ void SqliteSession::OpenOrMake(const std::string& pstrAddress) {
   Close();
   mstrPath = pstrAddress;
   OpenFile(NameOf(mstrPath), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
-  UseWriteAheadLog();
 }
 
 void SqliteSession::OpenFile(const std::string& pstrName, int plngFlags) {
@@ -87,13 +96,21 @@ void SqliteSession::Configure() {
 
 // Reads something: that shows whether the file is a database.
 void SqliteSession::OpenToRead() {
-  if (!HasLog() && !CanWrite(mstrPath)) return OpenAsItLies();
+  const bool canLie = UsesSqliteLog(mstrPath);
+  if (canLie && !HasLog() && !CanWrite(mstrPath)) return OpenAsItLies();
+  const bool hasRoom = HasRoomForLog(mstrPath);
+  if (canLie && !hasRoom) throw SqliteError(nullptr, SQLITE_FULL, mstrPath);
   try {
-    UseWriteAheadLog();
+    if (hasRoom) UseWriteAheadLog();
     RunText(kReadSomething);
   } catch (const Error&) {
     const int problem = sqlite3_errcode(mobjDatabase) & 0xFF;
-    if (HasLog() || (problem != SQLITE_CANTOPEN && problem != SQLITE_READONLY)) throw;
+    if (problem != SQLITE_CANTOPEN && problem != SQLITE_READONLY) throw;
+    if (HasLog()) {
+      throw Error(vntErrDatabase,
+                  "The database \"" + mstrPath + "\" cannot be read: its newest changes are in a log that you may not write to.");
+    }
+    if (!canLie) throw;
     OpenAsItLies();
   }
 }
@@ -105,11 +122,26 @@ bool SqliteSession::HasLog() const {
 }
 
 // Without a log the file is complete. To read it, SQLite would make an empty log and its index. They would belong to the reader and
-// lock out the owner of the file.
+// lock out the owner of the file. Read in this way, SQLite takes no lock and keeps what it has read, so every statement looks whether
+// somebody has written meanwhile.
 void SqliteSession::OpenAsItLies() {
   Close();
+  const SqliteFileState state(mstrPath);
+  if (HasLog()) throw WrittenMeanwhile();
   OpenFile(UriOf(mstrPath) + "?immutable=1", SQLITE_OPEN_READONLY | SQLITE_OPEN_URI);
   RunText(kReadSomething);
+  if (!(SqliteFileState(mstrPath) == state)) throw WrittenMeanwhile();
+  mobjAsItLies = state;
+}
+
+void SqliteSession::FollowFile() {
+  if (!mobjAsItLies || SqliteFileState(mstrPath) == *mobjAsItLies) return;
+  if (IsInTransaction()) throw WrittenMeanwhile();
+  Open(std::string(mstrPath));
+}
+
+Error SqliteSession::WrittenMeanwhile() const {
+  return {vntErrDatabase, "The database \"" + mstrPath + "\" cannot be read now: another program is writing to it."};
 }
 
 // A file without a write-ahead log works as well, only slower, so do not wait to give it one.
@@ -125,6 +157,7 @@ void SqliteSession::Close() noexcept {
   mStatements.Clear();
   sqlite3_close_v2(mobjDatabase);
   mobjDatabase = nullptr;
+  mobjAsItLies.reset();
   mblnReadsOnly = false;
 }
 
@@ -142,12 +175,14 @@ EngineRows SqliteSession::Query(const EngineStatement& pobjStatement) {
 std::int32_t SqliteSession::Insert(const EngineStatement& pobjStatement) {
   RunPrepared(pobjStatement, nullptr);
   const std::int64_t newId = sqlite3_last_insert_rowid(mobjDatabase);
-  if (newId > std::numeric_limits<std::int32_t>::max()) throw Error(vntErrOverflow);
-  return static_cast<std::int32_t>(newId);
+  if (newId <= std::numeric_limits<std::int32_t>::max()) return static_cast<std::int32_t>(newId);
+  RunText(("DELETE FROM " + pobjStatement.Table + " WHERE rowid = " + std::to_string(newId)).c_str());
+  throw Error(vntErrOverflow, "The table " + pobjStatement.Table + " has no id left: ids have 32 bits.");
 }
 
 void SqliteSession::RunPrepared(const EngineStatement& pobjStatement, EngineRows* pobjRows) {
   if (!IsOpen()) throw Error(vntErrObjectClosed);
+  FollowFile();
   int result = SQLITE_OK;
   if (pobjStatement.IsReusable) {
     SqliteStatement* const statement = mStatements.Find(mobjDatabase, pobjStatement.Text, result);
@@ -163,7 +198,10 @@ void SqliteSession::RunPrepared(const EngineStatement& pobjStatement, EngineRows
 void SqliteSession::RunIn(SqliteStatement& pobjStatement, const EngineStatement& pobjValues, EngineRows* pobjRows) {
   mblnChanged = !pobjStatement.IsReadOnly();
   if (mblnReadsOnly && mblnChanged) throw Error(vntErrStatement, "Nothing can be changed in a transaction that only reads.");
-  Check(pobjStatement.Run(pobjValues.Parameters, pobjRows));
+  const int result = pobjStatement.Run(pobjValues.Parameters, pobjRows);
+  // What was read, or found damaged, may be half of one state and half of another.
+  if (mobjAsItLies && !(SqliteFileState(mstrPath) == *mobjAsItLies)) throw WrittenMeanwhile();
+  Check(result);
 }
 
 void SqliteSession::RunScript(const std::string& pstrScript) {
@@ -189,6 +227,7 @@ void SqliteSession::Begin(Transaction pTransaction) {
     if (sqlite3_db_readonly(mobjDatabase, "main") == 1) throw SqliteError(nullptr, SQLITE_READONLY, mstrPath);
     return RunText("BEGIN IMMEDIATE");
   }
+  FollowFile();
   RunText("BEGIN");
   try {
     RunText(kReadSomething);  // from here on the state is the same one

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include <sqlite3.h>
@@ -9,6 +10,7 @@
 #include "database/Session.h"
 #include "database/SqliteDialect.h"
 #include "database/sqlite/Sqlite.h"
+#include "database/sqlite/SqliteFileState.h"
 #include "database/sqlite/SqliteStatementCache.h"
 
 namespace vantrel {
@@ -22,7 +24,8 @@ class SqliteSession final : public Session {
 
   const vantrel::Dialect& Dialect() const override { return mDialect; }
   void Open(const std::string& pstrAddress) override;
-  /// Like Open, but makes the file if there is none.
+  /// Like Open, but makes the file if there is none. A new file has no write-ahead log yet: a commit writes everything into the file itself
+  /// and fails when the disk is full.
   void OpenOrMake(const std::string& pstrAddress);
   void Close() noexcept override;
   bool IsOpen() const override { return mobjDatabase != nullptr; }
@@ -44,6 +47,9 @@ class SqliteSession final : public Session {
   void OpenToRead();
   bool HasLog() const;
   void OpenAsItLies();
+  /// Opens a file that was opened as it lies anew when somebody has written to it since. An Error inside a transaction.
+  void FollowFile();
+  Error WrittenMeanwhile() const;
   void Configure();
   void UseWriteAheadLog();
   /// For statements of this class alone; those of callers have their values taken out by the dialect.
@@ -57,8 +63,9 @@ class SqliteSession final : public Session {
   std::string mstrPath;
   sqlite3* mobjDatabase = nullptr;
   SqliteStatementCache mStatements;
-  bool mblnReadsOnly = false;  // in a transaction that only reads
-  bool mblnChanged = false;    // the last statement was one that changes something
+  std::optional<SqliteFileState> mobjAsItLies;  // the state of a file that is read without any lock
+  bool mblnReadsOnly = false;                   // in a transaction that only reads
+  bool mblnChanged = false;                     // the last statement was one that changes something
 };
 
 }  // namespace vantrel

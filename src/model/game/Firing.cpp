@@ -12,7 +12,6 @@
 #include "model/game/SecondLook.h"
 #include "model/game/TokenRules.h"
 #include "util/Lookup.h"
-#include "util/MsgBox.h"
 
 namespace vantrel {
 
@@ -249,7 +248,7 @@ Firing::Stage Firing::PrepareOutput() {
       return kGiveBack;
     case vntProgrammed:
       if (mobjTransition->Action.empty()) {
-        MsgBox("Programmed output must be performed by a Action.");
+        gobjVantrel->Tell("Programmed output must be performed by a Action.");
         return kGiveBack;
       }
       mStage = kWithdraw;  // an action that fails has been run all the same

@@ -33,7 +33,7 @@ std::shared_ptr<Transition> FiringNext::FirstWaiting() const {
 bool FiringNext::Absorb(const Error& pobjError) {
   if (pobjError.Number == vntErrInvalidCall) return true;
   if (pobjError.Number == vntErrOutOfStack && !TokenGame::IsCalledFromOutside(*this)) return false;
-  MsgBox(pobjError.Description);
+  gobjVantrel->Tell(pobjError.Description);
   return true;
 }
 

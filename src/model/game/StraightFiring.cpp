@@ -6,7 +6,6 @@
 #include "model/DesignerState.h"
 #include "model/game/Enabling.h"
 #include "model/game/TokenRules.h"
-#include "util/MsgBox.h"
 
 namespace vantrel {
 
@@ -145,7 +144,7 @@ void StraightFiring::Fire() {
     Withdraw();
   } catch (const Error& error) {
     Settle();
-    if (error.Number != vntErrInvalidCall) MsgBox(error.Description);
+    if (error.Number != vntErrInvalidCall) gobjVantrel->Tell(error.Description);
   }
 }
 
