@@ -138,7 +138,7 @@ std::shared_ptr<Vector> Arc::InsertVector(const std::shared_ptr<Vector>& pobjVec
   RequireSegment(pobjVector.get());
   vantrel::Workflow& workflow = *Workflow;
   const auto bendPoints = BendPoints();
-  const auto vector = AddSegment();
+  auto vector = AddSegment();
   vector->LineControl = workflow.Chart().NewLine();
   if (auto* line = vector->LineControl.get()) line->Tag(vector->Key);
   LinkBehind(*pobjVector, *vector);

@@ -22,6 +22,7 @@ class CaseLink {
     return *this;
   }
   CaseLink& operator=(const std::shared_ptr<WorkCase>& pobjCase) {
+    // The caller's may be the share that Release gives up. NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const auto keeper = pobjCase;
     Release();
     Begin(keeper);

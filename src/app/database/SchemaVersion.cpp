@@ -10,8 +10,8 @@ namespace {
 
 // The columns that reading a workflow needs.
 constexpr const char* kNeeded[] = {
-    "SELECT Id, GUID, StartPlaceName, EndPlaceName, CaseTracking, KeepHistory, ShowGuards, ShowWeights, RunStyle, LockControls FROM "
-    "Workflow",
+    ("SELECT Id, GUID, StartPlaceName, EndPlaceName, CaseTracking, KeepHistory, ShowGuards, ShowWeights, RunStyle, LockControls "
+     "FROM Workflow"),
     "SELECT Id, WorkflowId, Name, Caption, Description, SelectionType, CtlTop, CtlLeft, EnabledImageKey FROM Place",
     "SELECT Id, WorkflowId, Name, Caption, SubflowId, OutputType, TriggerType, CtlTop, CtlLeft FROM Transition",
     "SELECT Id, WorkflowId, PlaceId, TransitionId, ArcDirection, Guard, Weight FROM Arc",
