@@ -284,6 +284,38 @@ class Repaint : public TokenUse {
   Subscription mWatching;
 };
 
+// A token added to its new place before it leaves the old one.
+TEST_F(TokenUse, MovedTokenCountsInItsNewPlaceAloneAtEverySize) {
+  const auto here = AddTransition(*Host.Net), there = AddTransition(*Host.Net);
+  Connect(Left, here);
+  Connect(Right, there);
+  for (const auto& transition : {here, there}) {
+    transition->TriggerType(vntMessage);
+    Connect(transition, Out);
+  }
+  Host.Net->CaseTracking = true;
+  const auto a = NewCase("A"), others = NewCase("B");
+  for (const int crowd : {5, 70}) {
+    SCOPED_TRACE(crowd);
+    const auto first = PutToken(*Left, a);
+    PutToken(*Left, a);
+    for (int i = 0; i < crowd; ++i) {
+      PutToken(*Left, others);
+      PutToken(*Right, others);
+    }
+    Right->AddToken(first);
+    Left->RemoveToken(first);
+
+    here->Fire(a);
+    EXPECT_EQ(Left->Tokens().Count(), crowd);
+    there->Fire(a);
+    EXPECT_EQ(Right->Tokens().Count(), crowd);
+    for (const auto& place : {Left, Right}) {
+      while (!place->Tokens().IsEmpty()) place->RemoveToken(nullptr);
+    }
+  }
+}
+
 TEST_F(Repaint, AnsweredWithRemovalsLeavesNothingDisabledOnTheStack) {
   for (const bool tracking : {false, true}) {
     SCOPED_TRACE(tracking);

@@ -99,7 +99,14 @@ bool TokenRules::MarkEnabled(Place& pobjPlace, const WorkCase* pobjCase) {
   return any && pobjPlace.Image;
 }
 
+// A token that is moved by hand may lie in two places for a while. What the other one knows of it is no longer true.
+void TokenRules::ForgetOtherPlace(const Place& pobjPlace, const Token& pobjToken) {
+  const auto* other = pobjToken.Place.get();
+  if (other && other != &pobjPlace) Forget(*other);
+}
+
 void TokenRules::Add(Place& pobjPlace, const std::shared_ptr<Token>& pobjToken) {
+  ForgetOtherPlace(pobjPlace, *pobjToken);
   auto& tokens = pobjPlace.Tokens();
   tokens.Add(pobjToken, pobjToken->Key);
   if (++pobjPlace.mlngKnownChanges != tokens.Changes()) return Forget(pobjPlace);
@@ -122,6 +129,7 @@ std::shared_ptr<Token> TokenRules::Remove(Place& pobjPlace, const Token* pobjTok
     Forget(pobjPlace);
   }
   token->mblnTaken = false;
+  ForgetOtherPlace(pobjPlace, *token);
   return token;
 }
 

@@ -79,6 +79,7 @@ class TokenRules {
     if (pobjPlace.mlngKnownChanges != pobjPlace.Tokens().Changes()) Recount(pobjPlace);
   }
   static void Recount(const Place& pobjPlace);
+  static void ForgetOtherPlace(const Place& pobjPlace, const Token& pobjToken);
   static TokenIndex* IndexOf(const Place& pobjPlace);
   static bool Counts(const Token& pobjToken, Which pWhich) { return pWhich == kAll || IsFree(pobjToken); }
 };
