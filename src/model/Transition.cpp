@@ -7,6 +7,7 @@
 #include "model/DesignerCall.h"
 #include "model/PropertyBuilder.h"
 #include "model/Workflow.h"
+#include "model/game/Enabling.h"
 #include "model/game/Firing.h"
 #include "util/Lookup.h"
 #include "util/MsgBox.h"
@@ -106,6 +107,16 @@ void Transition::Object(const std::shared_ptr<vantrel::Object>& pobjObject) {
 }
 
 std::shared_ptr<vantrel::Workflow> Transition::EmbeddedWorkflow() const { return std::dynamic_pointer_cast<vantrel::Workflow>(mobjObject); }
+
+void Transition::CancelRuns() {
+  while (!mcolRuns.empty()) {
+    Reservation chosen = mcolRuns.front()->End();
+    chosen.GiveBack();
+    for (const auto& token : chosen.Tokens()) {
+      if (token) Enabling::SettleAround(*token);
+    }
+  }
+}
 
 void Transition::Subflow(const std::shared_ptr<vantrel::Workflow>& pobjSubflow) {
   if (mobjSubflow == pobjSubflow) return;

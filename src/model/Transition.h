@@ -76,8 +76,9 @@ class Transition final : public Node {
   std::shared_ptr<vantrel::Workflow> EmbeddedWorkflow() const;
   /// Throws Error 5 for this transition's own workflow and for one that embeds it at any depth.
   void Object(const std::shared_ptr<vantrel::Object>& pobjObject);
-  /// Forgets the firings whose subflow has not delivered yet and gives back their tokens. For a reset.
-  void CancelRuns() { mcolRuns.clear(); }
+  /// Forgets the firings whose subflow has not delivered yet and gives back their tokens, which may enable others. For a reset and a
+  /// removal.
+  void CancelRuns();
   /// The workflow whose finished cases make this transition deliver its output; set by Fire.
   const std::shared_ptr<vantrel::Workflow>& Subflow() const { return mobjSubflow; }
   void Subflow(const std::shared_ptr<vantrel::Workflow>& pobjSubflow);

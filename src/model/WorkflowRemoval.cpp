@@ -98,6 +98,7 @@ void Removal::RemovePlace(Place& pobjPlace) {
 
 void Removal::RemoveTransition(Transition& pobjTransition) {
   RemoveArcsAndElements(pobjTransition);
+  pobjTransition.CancelRuns();
   Unload(pobjTransition.RolesImage);
   Unload(pobjTransition.RolesList);
   mobjWorkflow.FiringStack.RemoveIfThere(pobjTransition.Key);

@@ -280,6 +280,20 @@ TEST_F(SubflowRun, TransitionThatDiesFreesWhatItsRunHadTaken) {
   EXPECT_TRUE(Out->Tokens().IsEmpty());
 }
 
+TEST_F(SubflowRun, RemovedTransitionLeavesItsTokensToOthers) {
+  PutTagged("a");
+  T->Fire();
+  ASSERT_FALSE(Rival->Enabled());
+
+  Host.Net->Remove(T);
+
+  EXPECT_TRUE(Rival->Enabled());
+  EXPECT_TRUE(Host.Net->FiringStack.Contains(Rival->Key));
+  EXPECT_FALSE(Host.Net->FiringStack.Contains(T->Key));
+  EXPECT_NO_THROW(Finish(nullptr));
+  EXPECT_TRUE(Out->Tokens().IsEmpty());
+}
+
 TEST_F(SubflowRun, SubflowWithoutStartPlaceIsReportedAndReservesNothing) {
   Sub->StartPlace = nullptr;
   PutTagged("a");
