@@ -14,8 +14,6 @@ namespace vantrel {
 
 namespace {
 
-std::shared_ptr<Workflow> EmbeddedIn(const Transition& pobjTransition) { return pobjTransition.EmbeddedWorkflow(); }
-
 /// One save of a workflow with everything inside.
 class WholeSaving {
  public:
@@ -56,14 +54,14 @@ void WholeSaving::Gather(const std::shared_ptr<Workflow>& pobjWorkflow) {
     visit.IsOpened = true;
     const auto workflow = visit.Item;  // the visit moves when the stack grows
     for (const auto& transition : workflow->Transitions) {
-      if (auto inner = EmbeddedIn(*transition)) waiting.push_back({std::move(inner), false});
+      if (auto inner = transition->EmbeddedWorkflow()) waiting.push_back({std::move(inner), false});
     }
   }
 }
 
 void WholeSaving::Save(const std::shared_ptr<Workflow>& pobjWorkflow) {
   for (const auto& transition : pobjWorkflow->Transitions) {
-    if (const auto inner = EmbeddedIn(*transition)) transition->SubflowId = inner->RecId;
+    if (const auto inner = transition->EmbeddedWorkflow()) transition->SubflowId = inner->RecId;
   }
   ForgetGoneRows(mobjAccess, *pobjWorkflow);
   SaveRowAndChart(mobjAccess, *pobjWorkflow, true);

@@ -55,6 +55,17 @@ TEST_F(SaveFailure, OfOneStepIsShownOnceAndTheOthersRun) {
   EXPECT_EQ(mobjConnection->Rollbacks, 0);
 }
 
+TEST_F(SaveFailure, IsShownWhenNoTransactionIsOpen) {
+  mobjConnection->Failures = {{"Name='T'", vntErrStatement, "refused", false, 0}};
+  std::vector<int> commits;
+  const MsgBoxScope box([&](const std::string&, MsgBoxButtons, const std::string&) {
+    commits.push_back(mobjConnection->Commits);
+    return vntOK;
+  });
+  mDatabase.SaveWorkFlow(mobjNet);
+  EXPECT_EQ(commits, std::vector<int>{1});
+}
+
 TEST_F(SaveFailure, OfAnArcPassesAndKeepsWhatWasWritten) {
   mobjConnection->Failures = {{"TransitionId=", vntErrStatement, "no such arc", false, 0}};
   EXPECT_EQ(ErrorOf([&] { mDatabase.SaveWorkFlow(mobjNet); }), vntErrStatement);

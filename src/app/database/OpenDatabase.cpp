@@ -75,7 +75,7 @@ void ReadColors(Connection& pobjConnection, const std::shared_ptr<Workflow>& pob
     const auto workflow = found[i];  // the list grows
     workflow->ChartColor = ReadChartColor(pobjConnection, workflow->RecId);
     for (const auto& transition : workflow->Transitions) {
-      const auto inner = std::dynamic_pointer_cast<Workflow>(transition->Object());
+      const auto inner = transition->EmbeddedWorkflow();
       if (inner && seen.insert(inner.get()).second) found.push_back(inner);
     }
   }
