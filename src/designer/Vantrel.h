@@ -162,7 +162,7 @@ class Vantrel final : public ModelObject {
   // makes to the model itself are delivered at once. What a listener throws reaches the caller after all listeners were called; users
   // see it in a message box. While a listener runs an event loop, calls made from there deliver the waiting events when they end.
   // These two are delivered during a firing, which needs their effect:
-  Event<const std::string&, const std::shared_ptr<Transition>&> OnRunCommand;  ///< an action for the host to run
+  Event<const std::string&, const std::shared_ptr<Transition>&> OnRunCommand;  ///< an action for the host to run; not raised yet
   Event<const std::shared_ptr<Place>&, const std::shared_ptr<Token>&> OnTokenAdded;
 
   Event<const std::shared_ptr<vantrel::Object>&, std::int16_t, std::int16_t, float, float>

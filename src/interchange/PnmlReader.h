@@ -20,9 +20,10 @@ struct PnmlOptions {
 /// field: with or without pages and namespaces, `value` for `text`, `arcpath` for positions, the weight in the arc's name, a net a level
 /// deeper.
 ///
-/// Reads the pages of a net as one and replaces reference nodes by the nodes that they refer to. A page that has the id of a transition and
-/// holds a net is that transition's sub-process. Sections of tools and unknown elements are skipped. An arc of a kind that place/transition
-/// nets do not have (inhibitor, reset, read, …) is an error, unless such arcs are to be skipped; it is never read as an ordinary one.
+/// Reads the pages of a net as one and replaces reference nodes by the nodes that they refer to. A page with the id of a transition holds
+/// the sub-process of that transition if it holds a net. Sections of tools and unknown elements are skipped. An arc of a kind that
+/// place/transition nets do not have (inhibitor, reset, read, …) is an error, unless such arcs are to be skipped; it is never read as an
+/// ordinary one.
 ///
 /// Both operations throw PnmlError, whose one line says what is wrong and where: text that is not XML or not a net, an unknown NetId, nodes
 /// without id or with the same one, arcs that lead nowhere or join two places or two transitions, references without an end, invalid

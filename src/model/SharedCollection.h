@@ -6,8 +6,8 @@
 
 namespace vantrel {
 
-/// A share in a collection, used like the shared_ptr that it is. Following a temporary one gives the share itself, which walks
-/// its collection: `for (const auto& record : *place->GetProperties())` keeps the records as long as the loop runs.
+/// A shared_ptr to a collection. `*` on a temporary one returns the pointer itself, which can be walked like the collection: so
+/// `for (const auto& record : *place->GetProperties())` keeps the records until the loop ends.
 template <class C>
 class SharedCollection : public std::shared_ptr<C> {
  public:

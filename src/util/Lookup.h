@@ -10,7 +10,7 @@
 
 namespace vantrel {
 
-/// The `Name` of an item, be it a field or a property.
+/// The `Name` of an item, which is a field or a property.
 template <class T>
 std::string_view NameOf(const T& pobjItem) {
   if constexpr (requires { pobjItem.Name(); }) {
@@ -103,7 +103,7 @@ std::shared_ptr<T> FindByRecId(const Collection<T>& pcolItems, std::int32_t plng
   return nullptr;
 }
 
-/// True when an item has that key, be it in the collection or in its own `Key` alone.
+/// True when an item has that key, in the collection or only in its own `Key`.
 template <class T>
 bool KeyExists(const Collection<T>& pcolItems, std::string_view pstrKey) {
   if (pcolItems.Contains(pstrKey)) return true;

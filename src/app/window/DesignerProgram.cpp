@@ -43,7 +43,7 @@ void ShowLast(DesignerWindow& pobjWindow, const std::vector<WorkflowListing>& pc
 
 int RunDesigner(const DesignRequest& pobjRequest, DisplayQuestion& pobjDisplay) {
   const WorkflowStore store(pobjRequest.Database);
-  const auto stored = store.List();  // likewise before there is a window
+  const auto stored = store.List();  // its failure is one line, as no window is open yet
   const auto wanted = Wanted(pobjRequest, store);
   if (const auto fault = pobjDisplay.WhyNot(); !fault.empty()) throw std::runtime_error(fault);
   int count = 1;

@@ -7,9 +7,9 @@
 
 namespace vantrel {
 
-/// True when a file's positions make no drawing, so that one has to be made: a node has none, or more than half of the nodes lie on a spot
-/// that they share with others. pcolPositions holds a point of each node, in any unit; psngSpot is the side of a spot in that unit, well
-/// below a node's size, since some editors draw one operator as several transitions on one spot and nodes may lie close together.
+/// True when a file's positions make no drawing: a node has no position, or more than half of the nodes share their spot with others.
+/// pcolPositions holds a point of each node, in any unit. psngSpot is the side of a spot in that unit. It must be well below the size of
+/// a node, because nodes may lie close together.
 bool NeedsLayout(const std::vector<std::optional<LayoutPoint>>& pcolPositions, float psngSpot);
 
 }  // namespace vantrel

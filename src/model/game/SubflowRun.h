@@ -47,7 +47,7 @@ class SubflowRun final : public Referable {
   std::list<std::shared_ptr<SubflowRun>>::iterator mWhere;
 };
 
-/// The run that a firing takes part in: the first that one of its tokens knows, be it over or not.
+/// The run that a firing takes part in: the first run that one of its tokens knows, even if that run is over.
 Ref<SubflowRun> RunOf(const std::vector<std::shared_ptr<Token>>& pcolTokens);
 
 }  // namespace vantrel
