@@ -11,7 +11,7 @@ namespace vantrel {
 namespace {
 
 void AddInnerArcs(const Vantrel& pobjControl, ObjectCollection& pcolObjects) {
-  const auto workflow = pobjControl.Workflow();
+  const auto& workflow = pobjControl.Workflow();
   if (!workflow) return;
   std::unordered_set<const ModelObject*> selected;
   for (const auto& object : pcolObjects) selected.insert(object.get());

@@ -9,7 +9,7 @@ namespace vantrel {
 
 std::vector<std::shared_ptr<ModelObject>> DoomedObjects(const Vantrel& pobjControl) {
   std::vector<std::shared_ptr<ModelObject>> objects;
-  const auto selection = pobjControl.Selection();
+  const auto& selection = pobjControl.Selection();
   for (const auto& object : *selection) objects.push_back(object);
   const Element* current = pobjControl.CurrentControl().get();
   if (objects.empty() && current) {

@@ -60,7 +60,7 @@ void NestedReading::CheckCircle(const Item& pobjOuter, const Item& pobjInner) co
     waiting.pop_back();
     if (item == &pobjOuter) {
       std::string chain = std::to_string(pobjInner.Id);
-      for (const Item* step = item; step != nullptr; step = from.at(step)) chain = std::to_string(step->Id) + " > " + chain;
+      for (const Item* step = item; step != nullptr; step = from.at(step)) chain.insert(0, std::to_string(step->Id) + " > ");
       throw Error(vntErrInvalidCall, "Workflow " + std::to_string(pobjInner.Id) + " is embedded in itself in the database: " + chain + ".");
     }
     for (const Item* inner : item->Embeds) {

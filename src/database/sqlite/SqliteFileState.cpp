@@ -24,7 +24,7 @@ SqliteFileState::Stamp SqliteFileState::StampOf(const std::string& pstrPath) {
 
 SqliteFileState::SqliteFileState(const std::string& pstrPath) : mFile(StampOf(pstrPath)), mLog(StampOf(pstrPath + "-wal")) {
   const auto age = std::filesystem::file_time_type::clock::now() - mFile.Written;
-  if (age < age.zero() || age >= kStep) return;
+  if (age < std::filesystem::file_time_type::duration::zero() || age >= kStep) return;
   std::this_thread::sleep_for(kStep);
   mFile = StampOf(pstrPath);
   mLog = StampOf(pstrPath + "-wal");
