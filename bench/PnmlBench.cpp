@@ -1,8 +1,9 @@
-// Reading nets into workflows, with positions in the file and without (then a layout is made).
+// Reading nets into workflows, with positions in the file and without (then a layout is made), and writing them.
 #include <string>
 
 #include <benchmark/benchmark.h>
 
+#include "interchange/PnmlExport.h"
 #include "interchange/PnmlImport.h"
 
 namespace vantrel::bench {
@@ -58,8 +59,16 @@ void ReadNet(benchmark::State& state, bool pblnGraphics) {
   state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(text.size()));
 }
 
+void WriteNet(benchmark::State& state) {
+  const auto net = BuildWorkflow(PnmlReader().ReadBytes(MakePnml(state.range(0), true), "net"));
+  std::size_t written = 0;
+  for (auto _ : state) written += ToPnml(*net.Workflow).size();
+  state.SetBytesProcessed(static_cast<std::int64_t>(written));
+}
+
 BENCHMARK_CAPTURE(ReadNet, WithPositions, true)->Arg(1'000)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(ReadNet, WithoutPositions, false)->Arg(1'000)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(WriteNet)->Arg(1'000)->Arg(10'000)->Arg(100'000)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

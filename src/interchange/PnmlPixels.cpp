@@ -48,6 +48,9 @@ bool IsPixelOf(double psngPixels, float psngTwips, float psngOrigin) {
 }
 
 bool IsExactInPixels(float psngTwips, float psngOrigin) {
+  const double pixels = Pixels(psngTwips, psngOrigin);
+  // Most are whole, and making their texts took a fifth of writing a net.
+  if (pixels == std::trunc(pixels)) return TwipsOfPixels(pixels, psngOrigin) == psngTwips;
   return TwipsOfPixels(ParseCoordinate(PixelText(psngTwips, psngOrigin)).value_or(0), psngOrigin) == psngTwips;
 }
 

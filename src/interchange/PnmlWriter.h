@@ -6,9 +6,10 @@
 #include <unordered_map>
 #include <vector>
 
+#include <pugixml.hpp>
+
 #include "interchange/ExportIds.h"
 #include "interchange/PnmlExport.h"
-#include "interchange/XmlWriter.h"
 #include "interchange/section/VantrelSection.h"
 
 namespace vantrel {
@@ -24,24 +25,21 @@ class PnmlWriter {
   std::string Write();
 
  private:
-  void WriteNet(const Workflow& pobjWorkflow);
-  void WriteEmbedded();
-  void WritePage(const Workflow& pobjWorkflow);
-  void OpenNode(const char* pstrElement, const Node& pobjNode);
-  void WriteName(const Node& pobjNode);
-  void WritePosition(const Node& pobjNode);
-  void WritePlace(const Place& pobjPlace);
-  void WriteTransition(const Transition& pobjTransition);
-  void WriteArc(const Arc& pobjArc);
-  void WriteBends(const Arc& pobjArc);
+  // Each appends to the element that it is given.
+  void WriteNet(pugi::xml_node pobjParent, const Workflow& pobjWorkflow);
+  void WriteEmbedded(pugi::xml_node pobjSection);
+  void WritePage(pugi::xml_node pobjNet, const Workflow& pobjWorkflow);
+  pugi::xml_node AppendNode(pugi::xml_node pobjPage, const char* pstrElement, const Node& pobjNode) const;
+  void WritePlace(pugi::xml_node pobjPage, const Place& pobjPlace);
+  void WriteTransition(pugi::xml_node pobjPage, const Transition& pobjTransition);
+  void WriteArc(pugi::xml_node pobjPage, const Arc& pobjArc);
 
   const PnmlExportOptions& mOptions;
   std::vector<std::shared_ptr<const Workflow>> mWorkflows;  // the outermost first, each one once
   std::unordered_map<const Workflow*, std::string> mNetIds;
   std::unordered_map<const Object*, std::int64_t> mMarking;
-  XmlWriter mXml;
   ExportIds mIds;
-  VantrelSection mSection{mXml, mIds};
+  VantrelSection mSection{mIds};
 };
 
 /// The workflow and all that are embedded in it at any depth, each once, in the order in which they are met.

@@ -1,5 +1,7 @@
 #include "interchange/section/PnmlLabel.h"
 
+#include <algorithm>
+
 #include "interchange/PnmlNumbers.h"
 #include "interchange/XmlEncoding.h"
 
@@ -13,8 +15,14 @@ std::string PnmlLabel(const std::string& pstrText) {
   std::string label;
   for (std::size_t at = first; at <= last;) {
     const std::size_t length = XmlCharacterLength(pstrText, at);
-    label += length == 0 ? "\xEF\xBF\xBD" : pstrText.substr(at, length);
-    at += length == 0 ? 1 : length;
+    if (length == 0) {
+      label += "\xEF\xBF\xBD";
+    } else if (pstrText[at] != '\r') {
+      label.append(pstrText, at, length);
+    } else if (pstrText[at + 1] != '\n') {
+      label += '\n';
+    }
+    at += std::max<std::size_t>(length, 1);
   }
   return label;
 }

@@ -19,31 +19,31 @@ constexpr const char* kValue = "value";
 constexpr const char* kValueType = "valueType";
 
 // A text, the usual value, has no type beside it.
-void WriteTyped(XmlWriter& pobjXml, const char* pstrType, const std::string& pstrValue) {
-  pobjXml.Attribute(kValueType, pstrType);
-  pobjXml.Attribute(kValue, pstrValue);
+void WriteTyped(pugi::xml_node pobjElement, const char* pstrType, const std::string& pstrValue) {
+  pobjElement.append_attribute(kValueType) = pstrType;
+  pobjElement.append_attribute(kValue) = pstrValue.c_str();
 }
 
 // Only a comparison tells which kind of number a variant holds, and wider kinds must be tried first.
-void WriteNumber(XmlWriter& pobjXml, const Variant& pvarValue) {
+void WriteNumber(const pugi::xml_node& pobjElement, const Variant& pvarValue) {
   const double number = pvarValue.ToDouble();
-  if (std::isnan(number) || pvarValue == Variant(number)) return WriteTyped(pobjXml, "double", ToSectionText(number));
-  if (pvarValue == Variant(pvarValue.ToSingle())) return WriteTyped(pobjXml, "single", ToSectionText(pvarValue.ToSingle()));
+  if (std::isnan(number) || pvarValue == Variant(number)) return WriteTyped(pobjElement, "double", ToSectionText(number));
+  if (pvarValue == Variant(pvarValue.ToSingle())) return WriteTyped(pobjElement, "single", ToSectionText(pvarValue.ToSingle()));
   const bool isLong = pvarValue == Variant(pvarValue.ToInt32());
-  WriteTyped(pobjXml, isLong ? "long" : "short", ToSectionText(pvarValue.ToInt32()));
+  WriteTyped(pobjElement, isLong ? "long" : "short", ToSectionText(pvarValue.ToInt32()));
 }
 
-void WriteValue(XmlWriter& pobjXml, const Variant& pvarValue) {
+void WriteValue(pugi::xml_node pobjElement, const Variant& pvarValue) {
   if (pvarValue.IsText()) {
-    pobjXml.Attribute(kValue, EncodeText(pvarValue.ToText()));
+    pobjElement.append_attribute(kValue) = EncodeText(pvarValue.ToText()).c_str();
   } else if (pvarValue.IsNull()) {
-    pobjXml.Attribute(kValueType, "null");
+    pobjElement.append_attribute(kValueType) = "null";
   } else if (pvarValue.IsBoolean()) {
-    WriteTyped(pobjXml, "boolean", ToSectionText(pvarValue.ToBoolean()));
+    WriteTyped(pobjElement, "boolean", ToSectionText(pvarValue.ToBoolean()));
   } else if (pvarValue.IsDate()) {
-    WriteTyped(pobjXml, "date", ToSectionText(pvarValue.ToDate()));
+    WriteTyped(pobjElement, "date", ToSectionText(pvarValue.ToDate()));
   } else if (pvarValue.IsNumber()) {
-    WriteNumber(pobjXml, pvarValue);
+    WriteNumber(pobjElement, pvarValue);
   }
 }
 
@@ -78,19 +78,17 @@ void ReadOptions(const PnmlXml& pobjXml, const pugi::xml_node& pobjElement, Prop
 
 }  // namespace
 
-void WriteRecords(XmlWriter& pobjXml, const PropertyCollection& pcolRecords) {
-  SectionWriter writer(pobjXml);
+void WriteRecords(pugi::xml_node pobjElement, const PropertyCollection& pcolRecords) {
   for (const auto& record : pcolRecords) {
-    pobjXml.Open(kProperty);
+    pugi::xml_node property = pobjElement.append_child(kProperty);
+    SectionWriter writer(property);
     RecordFields(writer, std::as_const(*record));
-    WriteValue(pobjXml, record->Value);
+    WriteValue(property, record->Value);
     for (const auto& option : record->Options) {
-      pobjXml.Open(kOption);
-      writer.Field("prompt", option->Prompt, {});
-      WriteValue(pobjXml, option->Value);
-      pobjXml.Close();
+      const pugi::xml_node element = property.append_child(kOption);
+      SectionWriter(element).Field("prompt", option->Prompt, {});
+      WriteValue(element, option->Value);
     }
-    pobjXml.Close();
   }
 }
 

@@ -2,13 +2,12 @@
 #pragma once
 
 #include "interchange/PnmlXml.h"
-#include "interchange/XmlWriter.h"
 #include "model/PropertyCollection.h"
 
 namespace vantrel {
 
-/// Writes an element `property` for each record. Values that are objects of the host are left out.
-void WriteRecords(XmlWriter& pobjXml, const PropertyCollection& pcolRecords);
+/// Appends an element `property` for each record. Values that are objects of the host are left out.
+void WriteRecords(pugi::xml_node pobjElement, const PropertyCollection& pcolRecords);
 
 /// Adds a record for each `property` in the element, under its name if that is free. Throws PnmlError for an invalid value and for an
 /// option that is given twice.

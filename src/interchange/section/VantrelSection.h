@@ -3,8 +3,9 @@
 
 #include <string>
 
+#include <pugixml.hpp>
+
 #include "interchange/ExportIds.h"
-#include "interchange/XmlWriter.h"
 #include "model/Workflow.h"
 
 namespace vantrel {
@@ -15,25 +16,20 @@ constexpr const char* kSectionVersion = "1";
 /// Writes the sections of one document.
 class VantrelSection {
  public:
-  VantrelSection(XmlWriter& pobjXml, const ExportIds& pobjIds) : mXml(pobjXml), mIds(pobjIds) {}
+  explicit VantrelSection(const ExportIds& pobjIds) : mIds(pobjIds) {}
 
-  void Open();
-  void Close() { mXml.Close(); }
-
-  /// Writes settings and notes into the open section of a net.
-  void Write(const Workflow& pobjWorkflow);
-  /// A whole section. pstrEmbedded is the id of the net that is embedded in the transition, or empty.
-  void Write(const Place& pobjPlace);
-  void Write(const Transition& pobjTransition, const std::string& pstrEmbedded);
+  /// Appends the section of a net, with settings and notes, and returns it.
+  pugi::xml_node Write(pugi::xml_node pobjNet, const Workflow& pobjWorkflow);
+  /// These append a whole section. pstrEmbedded is the id of the net that is embedded in the transition, or empty.
+  void Write(pugi::xml_node pobjElement, const Place& pobjPlace);
+  void Write(pugi::xml_node pobjElement, const Transition& pobjTransition, const std::string& pstrEmbedded);
   /// Writes nothing where PNML says it all.
-  void Write(const Arc& pobjArc);
+  void Write(pugi::xml_node pobjElement, const Arc& pobjArc);
 
  private:
-  void OpenSettings();
-  void WriteNode(const Node& pobjNode, const Node& pobjFresh);
-  void WriteHiddenTag(const Object& pobjObject, const std::string& pstrHiddenTag);
+  void WriteNode(pugi::xml_node pobjSettings, const Node& pobjNode, const Node& pobjFresh);
+  void WriteHiddenTag(pugi::xml_node pobjSettings, const Object& pobjObject, const std::string& pstrHiddenTag);
 
-  XmlWriter& mXml;
   const ExportIds& mIds;
   Place mFreshPlace;
   Transition mFreshTransition;

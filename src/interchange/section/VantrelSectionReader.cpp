@@ -35,7 +35,7 @@ void ReadGeometry(const SectionReader& pobjReader, const PnmlNode& pobjFrom, Nod
 
 void ReadNode(SectionReader& pobjReader, const PnmlNode& pobjFrom, bool pblnExact, Node& pobjNode) {
   const auto caption = pobjReader.Value<std::string>("caption");
-  if (caption && PnmlLabel(*caption) == pobjFrom.Name) pobjNode.Caption(*caption);
+  if (caption && PnmlLabel(*caption) == PnmlLabel(pobjFrom.Name)) pobjNode.Caption(*caption);
   pobjReader.Field("hiddenTag", pobjNode.HiddenTag, {});
   if (pblnExact) ReadGeometry(pobjReader, pobjFrom, pobjNode);
   NodeFields(pobjReader, pobjNode, pobjNode);
