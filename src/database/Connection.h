@@ -37,7 +37,7 @@ class Connection {
                     std::int32_t plngOptions = kOptionsUnspecified) = 0;
 
   /// A row set that is not open yet.
-  virtual std::unique_ptr<Recordset> NewRecordset() = 0;
+  [[nodiscard]] virtual std::unique_ptr<Recordset> NewRecordset() = 0;
 
   /// Transactions nest: the outermost pair counts. Begin throws an Error when another writer locks the database for too long.
   /// A write transaction inside a read transaction is refused with Error 5.

@@ -6,7 +6,7 @@
 namespace vantrel {
 
 /// Rolled back unless Commit was called.
-class TransactionScope {
+class [[nodiscard]] TransactionScope {
  public:
   TransactionScope(Connection& pobjConnection, Transaction pTransaction) : mConnection(pobjConnection) {
     mConnection.BeginTrans(pTransaction);

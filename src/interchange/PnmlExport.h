@@ -20,17 +20,17 @@ struct PnmlExportOptions {
 /// sections of the tool "Vantrel" (docs/pnml.md). ImportPnml reads back every stored field except record ids, GUID and dirty marks; keys
 /// are numbered anew in the same order. An embedded workflow is written once, even if several transitions share it. Other objects of the
 /// host are not written, and of tokens only those of the marking. See also ArcsLeftOut.
-std::string ToPnml(const Workflow& pobjWorkflow, const PnmlExportOptions& pobjOptions = {});
+[[nodiscard]] std::string ToPnml(const Workflow& pobjWorkflow, const PnmlExportOptions& pobjOptions = {});
 
 /// Writes ToPnml to a file. Replaces an existing file in one step, or leaves it as it was when writing fails. Follows a link.
 /// Throws Error 321, which names the file, when it cannot be written.
 void ExportPnml(const Workflow& pobjWorkflow, const std::string& pstrPath, const PnmlExportOptions& pobjOptions = {});
 
 /// The tokens in the workflow's places, for PnmlExportOptions::Marking, without the empty places.
-std::vector<InitialTokens> MarkingOf(const Workflow& pobjWorkflow);
+[[nodiscard]] std::vector<InitialTokens> MarkingOf(const Workflow& pobjWorkflow);
 
 /// One line for every arc that PNML cannot express, embedded workflows included: arcs without direction or without both ends in the
 /// workflow.
-std::vector<std::string> ArcsLeftOut(const Workflow& pobjWorkflow);
+[[nodiscard]] std::vector<std::string> ArcsLeftOut(const Workflow& pobjWorkflow);
 
 }  // namespace vantrel
