@@ -43,7 +43,7 @@ class WorkflowBuilder {
         mPlaceNames("Place", NamesOf(pobjNet, PnmlKind::Place, pobjAssembly)),
         mTransitionNames("Transition", NamesOf(pobjNet, PnmlKind::Transition, pobjAssembly)) {}
 
-  ImportedNet Build();
+  LoadedNet Build();
 
  private:
   void AddNode(std::size_t plngNumber);
@@ -61,10 +61,10 @@ class WorkflowBuilder {
   NetPlacement mPlacement;
   UniqueNames mPlaceNames, mTransitionNames;
   std::vector<std::shared_ptr<Node>> mObjects;  // in the order of the net's nodes
-  ImportedNet mResult;
+  LoadedNet mResult;
 };
 
-ImportedNet WorkflowBuilder::Build() {
+LoadedNet WorkflowBuilder::Build() {
   mResult.Workflow = std::make_shared<Workflow>();
   mResult.Id = mNet.Id;
   mResult.Name = mNet.Name.empty() ? mNet.Id : mNet.Name;
@@ -103,7 +103,7 @@ void WorkflowBuilder::AddTransition(const PnmlNode& pobjNode) {
   const auto transition = mResult.Workflow->NewTransition(name);
   transition->AssignName(name);
   if (pobjNode.Subnet) {
-    const ImportedNet inner = WorkflowBuilder(*pobjNode.Subnet, mAssembly).Build();
+    const LoadedNet inner = WorkflowBuilder(*pobjNode.Subnet, mAssembly).Build();
     mResult.Skipped.insert(mResult.Skipped.end(), inner.Skipped.begin(), inner.Skipped.end());
     transition->Object(inner.Workflow);
     transition->ObjectClassName = inner.Workflow->Class();
@@ -177,16 +177,16 @@ std::shared_ptr<Place> WorkflowBuilder::PlaceOfSection(const char* pstrSetting) 
 
 }  // namespace
 
-ImportedNet ImportPnml(const std::string& pstrPath, const PnmlOptions& pobjOptions) {
+LoadedNet ImportPnml(const std::string& pstrPath, const PnmlOptions& pobjOptions) {
   return BuildWorkflow(PnmlReader(pobjOptions).ReadFile(pstrPath));
 }
 
-ImportedNet BuildWorkflow(const PnmlNet& pobjNet) {
+LoadedNet BuildWorkflow(const PnmlNet& pobjNet) {
   Assembly assembly;
   assembly.Source = pobjNet.Source.get();
-  ImportedNet result = WorkflowBuilder(pobjNet, assembly).Build();
+  LoadedNet result = WorkflowBuilder(pobjNet, assembly).Build();
   for (const PnmlNet& embedded : pobjNet.Embedded) {
-    const ImportedNet inner = WorkflowBuilder(embedded, assembly).Build();
+    const LoadedNet inner = WorkflowBuilder(embedded, assembly).Build();
     result.Skipped.insert(result.Skipped.end(), inner.Skipped.begin(), inner.Skipped.end());
     assembly.Embedded.AddWorkflow(inner.Id, inner.Workflow);
   }

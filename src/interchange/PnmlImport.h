@@ -12,8 +12,8 @@
 
 namespace vantrel {
 
-/// A workflow that came from a file, with what the file says of it besides.
-struct ImportedNet {
+/// A workflow read from a file or a database, with what is known of it besides.
+struct LoadedNet {
   std::shared_ptr<vantrel::Workflow> Workflow;
   std::string Id;
   std::string Name;                    ///< the net's name, or its id where it has none
@@ -26,9 +26,9 @@ struct ImportedNet {
 /// Reads a net and builds its workflow: keys in document order, the file's ids in HiddenTag, names unique per kind, pixels
 /// of the file as twips (15 each), a layout where the file has none that is of use. Of a file that ExportPnml wrote it makes
 /// the workflow that was written. Throws PnmlError, and then nothing was made.
-ImportedNet ImportPnml(const std::string& pstrPath, const PnmlOptions& pobjOptions = {});
+LoadedNet ImportPnml(const std::string& pstrPath, const PnmlOptions& pobjOptions = {});
 
 /// Builds the workflow of a net that has been read; sub-process nets become embedded workflows of their transitions.
-ImportedNet BuildWorkflow(const PnmlNet& pobjNet);
+LoadedNet BuildWorkflow(const PnmlNet& pobjNet);
 
 }  // namespace vantrel

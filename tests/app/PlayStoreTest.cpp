@@ -40,7 +40,7 @@ struct ChainRun {
   explicit ChainRun(const std::string& pstrArcs) : Net(BuildWorkflow(NetOf(pstrArcs))), Store(Net.Workflow) { Options.KeepHistory = true; }
   Account Play(Player::Watch pWatch = {}) { return Player(Net, Options, std::move(pWatch), &Store).Play(); }
 
-  ImportedNet Net;
+  LoadedNet Net;
   NotedStore Store;
   PlayOptions Options;
 };

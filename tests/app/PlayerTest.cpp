@@ -89,7 +89,7 @@ TEST(Player, AutomaticLoopEndsInAnErrorThatNamesTheTransition) {
 }
 
 TEST(Player, MessageBoxOfAFiringEndsTheRunAsAnError) {
-  ImportedNet net = BuildWorkflow(NetOf("in>t1 t1>mid mid>t2 t2>out"));
+  LoadedNet net = BuildWorkflow(NetOf("in>t1 t1>mid mid>t2 t2>out"));
   net.Workflow->Transitions.Item("Transition1")->OutputType(vntProgrammed);
   const Account account = Player(net).Play();
   EXPECT_EQ(account.Stopped, StopReason::Error);

@@ -38,7 +38,7 @@ TEST(PnmlExportField, EveryNetThatIsReadComesBackTheSameAndIsValid) {
   reading.SkipUnsupported = true;
   std::size_t taken = 0;
   for (const std::string& file : files) {
-    ImportedNet first;
+    LoadedNet first;
     try {
       first = ImportPnml(file, reading);
     } catch (const PnmlError&) {
@@ -47,7 +47,7 @@ TEST(PnmlExportField, EveryNetThatIsReadComesBackTheSameAndIsValid) {
     ++taken;
     const std::string document = ToPnml(*first.Workflow, {first.Id, first.Name, first.Marking});
     EXPECT_EQ(FaultOfPtNet(document), "") << file;
-    const ImportedNet second = BuildWorkflow(PnmlReader().ReadBytes(document, file));
+    const LoadedNet second = BuildWorkflow(PnmlReader().ReadBytes(document, file));
     EXPECT_TRUE(TextOf(*second.Workflow) == TextOf(*first.Workflow)) << file;
     EXPECT_EQ(second.Name, first.Name) << file;
     EXPECT_EQ(MarkingText(second.Marking), MarkingText(first.Marking)) << file;

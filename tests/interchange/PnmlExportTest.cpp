@@ -16,7 +16,7 @@
 namespace vantrel::test {
 namespace {
 
-ImportedNet Import(const std::string& pstrDocument) { return BuildWorkflow(PnmlReader().ReadBytes(pstrDocument, "file")); }
+LoadedNet Import(const std::string& pstrDocument) { return BuildWorkflow(PnmlReader().ReadBytes(pstrDocument, "file")); }
 
 void ExpectComesBack(const Workflow& pobjWorkflow) {
   const std::string document = ToPnml(pobjWorkflow);
@@ -134,6 +134,10 @@ TEST(PnmlExport, NameAndIdOfTheNetAreMadeToFit) {
   EXPECT_EQ(FaultOfPtNet(document), "");
   EXPECT_EQ(Import(document).Id, "net");
   EXPECT_EQ(Import(document).Name, "A <net> & more");
+  options.NetName = "a\r\nb\x01\rc ";
+  EXPECT_EQ(Import(ToPnml(*SmallWorkflow(), options)).Name, "a\nb\xEF\xBF\xBD\nc");
+  options.NetName = " \r";
+  EXPECT_EQ(Import(ToPnml(*SmallWorkflow(), options)).Name, "net");
 }
 
 TEST(PnmlExport, EmbeddedWorkflowsStaySharedAndAreWrittenOnce) {

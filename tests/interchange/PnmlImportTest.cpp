@@ -10,7 +10,7 @@
 namespace vantrel::test {
 namespace {
 
-ImportedNet Import(const std::string& pstrContents, bool pblnSkip = false) {
+LoadedNet Import(const std::string& pstrContents, bool pblnSkip = false) {
   PnmlOptions options;
   options.SkipUnsupported = pblnSkip;
   const std::string text = "<pnml><net id=\"n\"><page id=\"g\">" + pstrContents + "</page></net></pnml>";
@@ -28,7 +28,7 @@ std::string ArcFrom(const std::string& pstrSource, const std::string& pstrTarget
   return "<arc id=\"" + pstrSource + pstrTarget + "\" source=\"" + pstrSource + "\" target=\"" + pstrTarget + "\">" + pstrInside + "</arc>";
 }
 
-std::vector<std::string> PlaceNames(const ImportedNet& pobjNet) {
+std::vector<std::string> PlaceNames(const LoadedNet& pobjNet) {
   std::vector<std::string> names;
   for (const auto& place : pobjNet.Workflow->Places) names.push_back(place->Name());
   return names;

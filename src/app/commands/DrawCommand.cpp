@@ -72,7 +72,7 @@ void DrawCommand::DrawStored(std::int32_t plngId) const {
 
 void DrawCommand::DrawFile() const {
   if (mDatabase.IsGiven()) throw std::runtime_error(mNet + ": --db needs the id of a stored workflow, not a file");
-  const ImportedNet net = ImportPnml(mNet, mFileOptions);
+  const LoadedNet net = ImportPnml(mNet, mFileOptions);
   Draw(net.Workflow);
   for (const std::string& arc : net.Skipped) std::cerr << "vantrel: " << OnOneLine(mNet) << ": left out: " << OnOneLine(arc) << '\n';
 }

@@ -23,7 +23,7 @@ namespace vantrel {
 
 namespace {
 
-Account Play(ImportedNet pobjNet, const PlayOptions& pobjOptions, PlayStore* pobjStore = nullptr) {
+Account Play(LoadedNet pobjNet, const PlayOptions& pobjOptions, PlayStore* pobjStore = nullptr) {
   const Interrupt interrupt;
   std::optional<Progress> progress;
   if (isatty(STDERR_FILENO) == 1) progress.emplace(std::cerr);
@@ -129,7 +129,7 @@ void PlayCommand::CheckStoredOptions() const {
 Account PlayCommand::PlayFile() {
   CheckFileOptions();
   mSource = mNet;
-  ImportedNet net = ImportPnml(mNet, mFileOptions);
+  LoadedNet net = ImportPnml(mNet, mFileOptions);
   for (const std::string& arc : net.Skipped) std::cerr << "vantrel: " << mNet << ": left out: " << arc << '\n';
   CheckEnds(net);
   return Play(std::move(net), mOptions);
@@ -138,7 +138,7 @@ Account PlayCommand::PlayFile() {
 Account PlayCommand::PlayStored(std::int32_t plngId) {
   CheckStoredOptions();
   OpenDatabase database(mDatabase.Existing());
-  ImportedNet net = ReadStoredNet(database, plngId);
+  LoadedNet net = ReadStoredNet(database, plngId);
   mSource = database.Name() + ": workflow " + net.Id;
   CheckEnds(net);
   if (mOptions.Resume && !mblnCasesGiven) mOptions.Cases = 0;
@@ -147,7 +147,7 @@ Account PlayCommand::PlayStored(std::int32_t plngId) {
   return Play(std::move(net), mOptions, &store);
 }
 
-void PlayCommand::CheckEnds(const ImportedNet& pobjNet) const {
+void PlayCommand::CheckEnds(const LoadedNet& pobjNet) const {
   if (!mOptions.FromMarking && !pobjNet.Workflow->StartPlace) {
     throw std::runtime_error(mSource + ": the net has no start place: " + CountOf(pobjNet.SourcePlaces, "without arcs that lead in"));
   }

@@ -28,7 +28,7 @@ class PlayCommand final : public Command {
   void CheckStoredOptions() const;
   Account PlayFile();
   Account PlayStored(std::int32_t plngId);
-  void CheckEnds(const ImportedNet& pobjNet) const;
+  void CheckEnds(const LoadedNet& pobjNet) const;
 
   std::string mNet;     // as the user named it
   std::string mSource;  // as messages name it

@@ -23,7 +23,7 @@ namespace {
 
 constexpr char kSampleName[] = "order-handling";
 
-ImportedNet MakeSample() { return BuildWorkflow(PnmlReader().ReadBytes(SampleNet(), std::string(kSampleName) + ".pnml")); }
+LoadedNet MakeSample() { return BuildWorkflow(PnmlReader().ReadBytes(SampleNet(), std::string(kSampleName) + ".pnml")); }
 
 }  // namespace
 

@@ -12,7 +12,7 @@ std::string Counted(std::int64_t plngCount, const std::string& pstrWhat) {
 }
 
 // Every case begins with a token in the start place.
-std::string LostMarking(const ImportedNet& pobjNet) {
+std::string LostMarking(const LoadedNet& pobjNet) {
   std::int64_t tokens = 0;
   for (const InitialTokens& initial : pobjNet.Marking) tokens += initial.Count;
   const bool isStart = tokens == 1 && pobjNet.Workflow->StartPlace == pobjNet.Marking.front().Where;
@@ -21,7 +21,7 @@ std::string LostMarking(const ImportedNet& pobjNet) {
          Counted(static_cast<std::int64_t>(pobjNet.Marking.size()), "place");
 }
 
-void Store(OpenDatabase& pobjDatabase, const ImportedNet& pobjNet, ImportOutcome& pobjOutcome) {
+void Store(OpenDatabase& pobjDatabase, const LoadedNet& pobjNet, ImportOutcome& pobjOutcome) {
   pobjOutcome.NetId = pobjNet.Id;
   pobjOutcome.NetName = pobjNet.Name;
   pobjDatabase.Save(pobjNet.Workflow);

@@ -20,7 +20,7 @@ std::optional<AccountEntry> EntryOf(const PlayedNet& pobjNet, const Ref<Place>& 
 
 }  // namespace
 
-Player::Player(ImportedNet pobjNet, const PlayOptions& pobjOptions, Watch pWatch, PlayStore* pobjStore)
+Player::Player(LoadedNet pobjNet, const PlayOptions& pobjOptions, Watch pWatch, PlayStore* pobjStore)
     : mNet(std::move(pobjNet)),
       mOptions(pobjOptions),
       mWatch(std::move(pWatch)),

@@ -34,7 +34,7 @@ class Player {
   using Watch = std::function<bool(const PlayCounts&)>;
 
   /// The net must have a start place, unless it is played from its marking. Play throws what the store throws, except an Error.
-  explicit Player(ImportedNet pobjNet, const PlayOptions& pobjOptions = {}, Watch pWatch = {}, PlayStore* pobjStore = nullptr);
+  explicit Player(LoadedNet pobjNet, const PlayOptions& pobjOptions = {}, Watch pWatch = {}, PlayStore* pobjStore = nullptr);
 
   Account Play();
 
@@ -64,7 +64,7 @@ class Player {
   std::int64_t TokensCreated() const;
   void Describe();
 
-  ImportedNet mNet;
+  LoadedNet mNet;
   PlayOptions mOptions;
   Watch mWatch;
   PlayStore* mStore;

@@ -4,8 +4,8 @@
 
 namespace vantrel {
 
-ImportedNet ReadStoredNet(OpenDatabase& pobjDatabase, std::int32_t plngId) {
-  ImportedNet net;
+LoadedNet ReadStoredNet(OpenDatabase& pobjDatabase, std::int32_t plngId) {
+  LoadedNet net;
   net.Workflow = pobjDatabase.ReadWorkflow(plngId);
   net.Id = std::to_string(plngId);
   net.Name = "workflow " + net.Id;

@@ -9,6 +9,6 @@
 namespace vantrel {
 
 /// The workflow of that id as a net without initial marking, named "workflow" and its id. Throws DatabaseFailure.
-ImportedNet ReadStoredNet(OpenDatabase& pobjDatabase, std::int32_t plngId);
+LoadedNet ReadStoredNet(OpenDatabase& pobjDatabase, std::int32_t plngId);
 
 }  // namespace vantrel

@@ -49,7 +49,7 @@ void ShowColor(Vantrel& pobjControl) {
   pobjControl.Workflow()->Dirty(false);
 }
 
-QString NotesOf(const ImportedNet& pobjNet) {
+QString NotesOf(const LoadedNet& pobjNet) {
   QString notes = QString("Read %1.").arg(ToQString(pobjNet.Name));
   if (!pobjNet.Marking.empty()) notes += " Its initial marking is not part of the workflow.";
   return notes;
@@ -132,7 +132,7 @@ bool FileCommands::Import(const QString& pstrFile) {
   if (!MayLeave()) return false;
   QString notes;
   const bool isDone = Try(QString("%1 cannot be imported.").arg(QFileInfo(pstrFile).fileName()), [&] {
-    const ImportedNet net = ImportPnml(pstrFile.toStdString());
+    const LoadedNet net = ImportPnml(pstrFile.toStdString());
     Begin(net.Workflow, pstrFile);
     notes = NotesOf(net);
   });
