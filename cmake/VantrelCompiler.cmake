@@ -52,3 +52,10 @@ if(VANTREL_SANITIZERS)
   add_compile_options(-fsanitize=${vantrel_sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${vantrel_sanitizers})
 endif()
+
+# Has Qt's meta-object compiler read the target's headers. What it writes uses names that are reserved.
+function(vantrel_use_moc target)
+  set_target_properties(${target} PROPERTIES AUTOMOC ON)
+  set_source_files_properties(${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/mocs_compilation.cpp
+    PROPERTIES COMPILE_OPTIONS -Wno-reserved-identifier)
+endfunction()
