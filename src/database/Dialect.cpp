@@ -41,7 +41,9 @@ void CheckTexts(const std::vector<std::string>& pcolColumns, const std::vector<V
 
 }  // namespace
 
-EngineStatement Dialect::Translate(std::string_view pstrSql) const { return Translation(*this, pstrSql).Run(); }
+EngineStatement Dialect::Translate(std::string_view pstrSql, std::vector<SqlValue>* pcolValues) const {
+  return Translation(*this, pstrSql, pcolValues).Run();
+}
 
 std::string Dialect::InsertionOrder(const std::vector<std::string>& pcolColumns) const {
   for (const char* counted : {"Id", "Seq"}) {

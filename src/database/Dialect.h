@@ -11,6 +11,14 @@
 
 namespace vantrel {
 
+/// Where a number or a text stood in a statement.
+struct SqlValue {
+  std::size_t Begin;
+  std::size_t End;
+  bool IsText;
+  bool MayHaveSign;  ///< else a sign before the number is an operator
+};
+
 /// Translates a statement into the engine's language token by token, so that quoted text is never changed. Takes its values out as
 /// parameters, so that statements of one shape are prepared once. Lists of values after IN stay text.
 class Dialect {
@@ -21,8 +29,8 @@ class Dialect {
   virtual ~Dialect() = default;
 
   /// Throws Error vntErrStatement for invalid text: a quote that does not end, a character that no statement has, two statements
-  /// in one.
-  EngineStatement Translate(std::string_view pstrSql) const;
+  /// in one. Lists the numbers and texts that became parameters, if asked to.
+  EngineStatement Translate(std::string_view pstrSql, std::vector<SqlValue>* pcolValues = nullptr) const;
   /// The table that a SELECT reads from, or that is named alone; empty when there is none or more than one.
   static std::string TableOf(std::string_view pstrSource);
 

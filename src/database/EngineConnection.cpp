@@ -18,8 +18,9 @@ EngineConnection::~EngineConnection() {
 
 void EngineConnection::Execute(const std::string& pstrSql, std::int32_t /*plngOptions*/) {
   Session& session = Usable(vntErrObjectClosed);
+  ++mlngWritten;
   try {
-    session.Run(Dialect().Translate(pstrSql));
+    session.Run(mShapes.Translate(Dialect(), pstrSql));
   } catch (const Error& error) {
     NoteFailure(error.Description);
     throw;
@@ -61,6 +62,7 @@ void EngineConnection::BeginTrans(Transaction pTransaction) {
 }
 
 void EngineConnection::BeginOutermost(Transaction pTransaction) {
+  ++mlngWritten;
   if (!mobjSession->IsOpen()) Open();
   try {
     mobjSession->Begin(pTransaction);
@@ -143,17 +145,19 @@ EngineRows EngineConnection::Query(const EngineStatement& pobjStatement) {
 }
 
 EngineRows EngineConnection::Select(const std::string& pstrSql) {
-  EngineStatement statement = Dialect().Translate(pstrSql);
+  EngineStatement statement = mShapes.Translate(Dialect(), pstrSql);
   const std::string table(Dialect().UnorderedTable(statement.Text));
   if (!table.empty()) statement.Text += Dialect().InsertionOrder(*ColumnsOf(table));
   return Query(statement);
 }
 
 std::int64_t EngineConnection::Run(const EngineStatement& pobjStatement) {
+  ++mlngWritten;
   return ForRowSet([&](Session& session) { return session.Run(pobjStatement); });
 }
 
 std::int32_t EngineConnection::Insert(const EngineStatement& pobjStatement) {
+  ++mlngWritten;
   return ForRowSet([&](Session& session) { return session.Insert(pobjStatement); });
 }
 

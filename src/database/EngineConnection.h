@@ -8,6 +8,7 @@
 
 #include "database/Connection.h"
 #include "database/Session.h"
+#include "database/StatementShapes.h"
 
 namespace vantrel {
 
@@ -37,6 +38,9 @@ class EngineConnection final : public Connection {
   std::int64_t Run(const EngineStatement& pobjStatement);
   std::int32_t Insert(const EngineStatement& pobjStatement);
   const vantrel::Dialect& Dialect() const { return mobjSession->Dialect(); }
+  /// Stays the same while nothing can have changed a row: in a transaction that writes, until its next statement that is no query.
+  /// 0 outside such a transaction, where others may write at any time.
+  std::int64_t RowState() const { return mlngDepth > 0 && mKind == Transaction::Write ? mlngWritten : 0; }
   /// The columns of a table, asked for once.
   std::shared_ptr<const std::vector<std::string>> ColumnsOf(const std::string& pstrTable);
 
@@ -53,9 +57,11 @@ class EngineConnection final : public Connection {
   void NoteFailure(const std::string& pstrDescription);
 
   std::unique_ptr<Session> mobjSession;
+  StatementShapes mShapes;
   std::map<std::string, std::shared_ptr<const std::vector<std::string>>> mcolColumns;  // by table
   std::string mstrAddress;
   std::string mstrLoss;  // why the transaction is lost
+  std::int64_t mlngWritten = 1;
   std::int32_t mlngDepth = 0;
   Transaction mKind = Transaction::Read;
   bool mblnLost = false;

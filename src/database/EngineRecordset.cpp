@@ -1,5 +1,7 @@
 #include "database/EngineRecordset.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #include "database/Dialect.h"
@@ -31,6 +33,17 @@ std::string_view TableOfOneRow(std::string_view pstrSource) {
   return tokens.Peek().Kind == SqlTokenKind::End ? table.Text : std::string_view();
 }
 
+bool IsNothing(const Variant& pvarValue) { return pvarValue.IsNull() || pvarValue.IsEmpty(); }
+
+// Whether writing the one over the other changes nothing. Values of other kinds are converted by the column, so only it can tell.
+bool IsStoredAs(const Variant& pvarStored, const Variant& pvarValue) {
+  if (pvarStored.IsNumber() && pvarValue.IsNumber()) {
+    const double stored = pvarStored.ToDouble(), value = pvarValue.ToDouble();
+    return stored == value && std::signbit(stored) == std::signbit(value);
+  }
+  return pvarStored == pvarValue || (IsNothing(pvarStored) && IsNothing(pvarValue));
+}
+
 }  // namespace
 
 EngineRecordset::EngineRecordset(EngineConnection& pobjConnection) : mobjConnection(pobjConnection) { ActiveConnection = &pobjConnection; }
@@ -45,6 +58,7 @@ void EngineRecordset::Open(const std::string& pstrSource) {
   EngineRows rows;
   mblnFetched = !CanWait();
   if (mblnFetched) {
+    mlngRowState = mobjConnection.RowState();
     rows = mobjConnection.Select(mstrSource);
     mcolColumns = std::make_shared<const std::vector<std::string>>(std::move(rows.Columns));
   }
@@ -70,6 +84,7 @@ void EngineRecordset::CheckCurrent() const {
 
 void EngineRecordset::Fetch() const {
   if (mblnFetched) return;
+  mlngRowState = mobjConnection.RowState();
   EngineRows rows = mobjConnection.Select(mstrSource);
   const std::vector<Variant> added = std::exchange(mcolValues, std::move(rows.Values));
   mblnFetched = true;
@@ -147,6 +162,7 @@ void EngineRecordset::Collect(std::string_view pstrName, const Variant& pvarValu
 
 void EngineRecordset::Update() {
   CheckCurrent();
+  if (!mblnAdding && HasAssigned()) return ForgetAssigned();
   std::vector<std::string> names;
   std::vector<Variant> values;
   names.reserve(mcolAssigned.size());
@@ -187,6 +203,13 @@ const std::string& EngineRecordset::Table() {
   if (mstrTable.empty()) mstrTable = Dialect::TableOf(mstrSource);
   if (mstrTable.empty()) throw Error(vntErrStatement, "Rows that come from more than one table cannot be changed.");
   return mstrTable;
+}
+
+bool EngineRecordset::HasAssigned() const {
+  if (mlngRowState == 0 || mlngRowState != mobjConnection.RowState() || mobjConnection.IsTransactionLost()) return false;
+  return std::all_of(mcolAssigned.begin(), mcolAssigned.end(), [&](const Assignment& pobjAssigned) {
+    return IsStoredAs(mcolValues[mlngRow * Width() + pobjAssigned.Column], pobjAssigned.Value);
+  });
 }
 
 void EngineRecordset::KeepAssigned(std::size_t plngRow) {

@@ -25,7 +25,7 @@ class EngineRecordset final : public Recordset {
   Field Fields(std::string_view pstrName) const override;
   void AddNew() override;
   void Collect(std::string_view pstrName, const Variant& pvarValue) override;
-  /// Throws Error 3021 without a current row.
+  /// Throws Error 3021 without a current row. Writes nothing when the row has these values already and nobody can have changed it.
   void Update() override;
 
  private:
@@ -47,6 +47,7 @@ class EngineRecordset final : public Recordset {
   const std::string& Table();
   void WriteNew(const std::vector<std::string>& pcolNames, std::vector<Variant> pcolValues);
   void WriteChanged(const std::vector<std::string>& pcolNames, std::vector<Variant> pcolValues);
+  bool HasAssigned() const;
   void KeepAssigned(std::size_t plngRow);
   void ForgetAssigned();
 
@@ -58,6 +59,7 @@ class EngineRecordset final : public Recordset {
   mutable std::size_t mlngRow = 0;                              // the current one, not counting a new one
   bool mblnWhole = false;                                       // the source is a table that is named alone
   mutable bool mblnFetched = false;                             // else mcolValues holds rows added here alone
+  mutable std::int64_t mlngRowState = 0;                        // of the connection when the rows were fetched
   mutable std::size_t mlngHint = 0;                             // where the next column is looked for first
   bool mblnAdding = false;
   std::vector<Assignment> mcolAssigned;

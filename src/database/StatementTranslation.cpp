@@ -19,18 +19,6 @@ double RealOf(std::string_view pstrDigits) {
   return number;
 }
 
-Variant NumberOf(std::string_view pstrDigits, bool pblnNegative) {
-  std::int64_t whole = 0;
-  const char* const last = pstrDigits.data() + pstrDigits.size();
-  const auto [end, problem] = std::from_chars(pstrDigits.data(), last, whole);
-  const std::int64_t number = pblnNegative ? -whole : whole;
-  using Limits = std::numeric_limits<std::int32_t>;
-  if (problem == std::errc{} && end == last && number >= Limits::min() && number <= Limits::max()) {
-    return static_cast<std::int32_t>(number);
-  }
-  return pblnNegative ? -RealOf(pstrDigits) : RealOf(pstrDigits);
-}
-
 Date DateOf(std::string_view pstrText) {
   Date date;
   if (!ParseDate(pstrText, date)) {
@@ -42,7 +30,20 @@ Date DateOf(std::string_view pstrText) {
 
 }  // namespace
 
-Dialect::Translation::Translation(const Dialect& pobjDialect, std::string_view pstrSql) : mobjDialect(pobjDialect), mTokens(pstrSql) {
+Variant SqlNumber(std::string_view pstrDigits, bool pblnNegative) {
+  std::int64_t whole = 0;
+  const char* const last = pstrDigits.data() + pstrDigits.size();
+  const auto [end, problem] = std::from_chars(pstrDigits.data(), last, whole);
+  const std::int64_t number = pblnNegative ? -whole : whole;
+  using Limits = std::numeric_limits<std::int32_t>;
+  if (problem == std::errc{} && end == last && number >= Limits::min() && number <= Limits::max()) {
+    return static_cast<std::int32_t>(number);
+  }
+  return pblnNegative ? -RealOf(pstrDigits) : RealOf(pstrDigits);
+}
+
+Dialect::Translation::Translation(const Dialect& pobjDialect, std::string_view pstrSql, std::vector<SqlValue>* pcolValues)
+    : mobjDialect(pobjDialect), mstrSql(pstrSql), mcolValues(pcolValues), mTokens(pstrSql) {
   CheckBeginning();
   mResult.IsReusable = true;
   mResult.Text.reserve(pstrSql.size() + pstrSql.size() / 4 + 32);  // for the quotes around names
@@ -74,11 +75,12 @@ void Dialect::Translation::Translate(const SqlToken& pToken) {
     case SqlTokenKind::BracketedName:
       return AddName(pToken.Text);
     case SqlTokenKind::Text:
+      NoteValue({pToken.Text.data() - 1, pToken.Text.size() + 2}, true);
       return AddValue(UndoubleQuotes(pToken.Text));
     case SqlTokenKind::Date:
       return AddValue(DateOf(pToken.Text));
     case SqlTokenKind::Number:
-      return AddNumber(pToken.Text, false);
+      return AddNumber(pToken.Text, false, pToken.Text);
     default:
       return TranslateSymbol(pToken);
   }
@@ -120,7 +122,9 @@ void Dialect::Translation::TranslateSymbol(const SqlToken& pToken) {
   const char symbol = pToken.Text.front();
   if ((symbol == '-' || symbol == '+') && mblnValueFollows && mTokens.Peek().Kind == SqlTokenKind::Number) {
     // The sign becomes part of the number: an engine cannot tell the type of a signed parameter.
-    return AddNumber(mTokens.Next().Text, symbol == '-');
+    const std::string_view digits = mTokens.Next().Text;
+    const char* const sign = pToken.Text.data();
+    return AddNumber(digits, symbol == '-', {sign, static_cast<std::size_t>(digits.data() + digits.size() - sign)});
   }
   AddSymbol(pToken.Text);
 }
@@ -134,9 +138,16 @@ void Dialect::Translation::AddSymbol(std::string_view pstrSymbol) {
   mblnAfterDot = symbol == '.';
 }
 
-void Dialect::Translation::AddNumber(std::string_view pstrDigits, bool pblnNegative) {
+void Dialect::Translation::AddNumber(std::string_view pstrDigits, bool pblnNegative, std::string_view pstrWhole) {
   if (mblnOrdering) return AddPlain(pstrDigits, false);
-  AddValue(NumberOf(pstrDigits, pblnNegative));
+  NoteValue(pstrWhole, false);
+  AddValue(SqlNumber(pstrDigits, pblnNegative));
+}
+
+void Dialect::Translation::NoteValue(std::string_view pstrWhole, bool pblnText) {
+  if (!mcolValues) return;
+  const auto begin = static_cast<std::size_t>(pstrWhole.data() - mstrSql.data());
+  mcolValues->push_back({begin, begin + pstrWhole.size(), pblnText, mblnValueFollows});
 }
 
 void Dialect::Translation::AddValue(Variant pvarValue) {

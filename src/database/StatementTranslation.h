@@ -8,10 +8,13 @@
 
 namespace vantrel {
 
+/// The number of a statement. Throws Error vntErrStatement for one that no double holds.
+Variant SqlNumber(std::string_view pstrDigits, bool pblnNegative);
+
 /// Writes the statement again, token by token and with single blanks, so that statements of one shape have the same text.
 class Dialect::Translation {
  public:
-  Translation(const Dialect& pobjDialect, std::string_view pstrSql);
+  Translation(const Dialect& pobjDialect, std::string_view pstrSql, std::vector<SqlValue>* pcolValues);
 
   EngineStatement Run();
 
@@ -21,7 +24,9 @@ class Dialect::Translation {
   void TranslateWord(const SqlToken& pToken);
   void TranslateSymbol(const SqlToken& pToken);
   bool IsName(const SqlToken& pToken) const;
-  void AddNumber(std::string_view pstrDigits, bool pblnNegative);
+  /// `pstrWhole` has the sign, too.
+  void AddNumber(std::string_view pstrDigits, bool pblnNegative, std::string_view pstrWhole);
+  void NoteValue(std::string_view pstrWhole, bool pblnText);
   void AddValue(Variant pvarValue);
   /// The values after IN, which stay text, up to and including the closing parenthesis.
   void TranslateList();
@@ -34,6 +39,8 @@ class Dialect::Translation {
   void AddBlank();
 
   const Dialect& mobjDialect;
+  std::string_view mstrSql;
+  std::vector<SqlValue>* mcolValues;
   SqlTokenizer mTokens;
   EngineStatement mResult;
   bool mblnGlue = true;           // no blank before the next token

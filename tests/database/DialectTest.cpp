@@ -3,6 +3,7 @@
 
 #include "database/PostgresDialect.h"
 #include "database/SqliteDialect.h"
+#include "database/StatementShapes.h"
 #include "util/Error.h"
 
 namespace vantrel::test {
@@ -88,6 +89,49 @@ TEST(Dialect, WhatIsNoStatementIsRefused) {
                                            "SELECT 12ab"}) {
     EXPECT_THROW(SqliteDialect().Translate(statement), Error) << statement;
   }
+}
+
+// Every statement comes after each of the others, so that it meets their shapes.
+TEST(Dialect, AStatementOfAKnownShapeIsTranslatedAsAnyOther) {
+  const std::string_view statements[] = {"SELECT a FROM T WHERE b = 1",
+                                         "SELECT a FROM T WHERE b = -7.5",
+                                         "SELECT a FROM T WHERE b = - 7",
+                                         "SELECT a FROM T WHERE b = 2e3",
+                                         "SELECT a FROM T WHERE b = .5",
+                                         "SELECT a FROM T WHERE b = 2147483648;",
+                                         "SELECT a FROM T WHERE b = 1 -2",
+                                         "SELECT a FROM T WHERE b = 1 - -2",
+                                         "SELECT a FROM T WHERE b = '1'",
+                                         "SELECT a FROM T WHERE b = 'it''s' AND c = '' AND d = 3",
+                                         "SELECT a FROM T WHERE b = '' AND c = ''' AND d = 4' AND d = 5",
+                                         "SELECT a FROM T WHERE b = True AND c = 1",
+                                         "SELECT a FROM T WHERE b = False AND c = 2",
+                                         "SELECT a FROM T WHERE b = 1 AND c IN (1, 2)",
+                                         "SELECT a FROM T WHERE b = 2 AND c IN (1, 3)",
+                                         "SELECT a FROM T WHERE b = 1.5.5",
+                                         "SELECT a FROM T WHERE b = 12.5",
+                                         "SELECT a FROM T WHERE b = 1 ORDER BY 2",
+                                         "SELECT a FROM T WHERE b = 1 ORDER BY 3",
+                                         "SELECT X1 FROM T WHERE b = 1",
+                                         "SELECT X2 FROM T WHERE b = 1"};
+  const SqliteDialect dialect;
+  for (const std::string_view first : statements) {
+    for (const std::string_view second : statements) {
+      StatementShapes shapes;
+      shapes.Translate(dialect, first);
+      EXPECT_EQ(Shown(shapes.Translate(dialect, second)), Sqlite(second)) << "after " << first;
+    }
+  }
+  StatementShapes shapes;
+  for (int i = 0; i < 40; ++i) {
+    const std::string text = "SELECT a" + std::to_string(i) + "x FROM T WHERE b = 'x'";
+    EXPECT_EQ(Shown(shapes.Translate(dialect, text)), Sqlite(text));
+  }
+  shapes.Translate(dialect, "SELECT a FROM T WHERE b = 'x'");
+  for (const std::string_view bad : {"SELECT a FROM T WHERE b = 'x", "SELECT a FROM T WHERE b = 1 2x", "SELECT a FROM T WHERE b = 1x"}) {
+    EXPECT_THROW(shapes.Translate(dialect, bad), Error) << bad;
+  }
+  EXPECT_THROW(shapes.Translate(dialect, std::string_view("SELECT a FROM T WHERE b = 'x\0y'", 31)), Error);
 }
 
 TEST(Dialect, ACommentIsArithmetic) {

@@ -174,5 +174,27 @@ TEST_F(EngineConnectionTest, WhatWasAssignedAndNotWrittenIsForgotten) {
   EXPECT_THAT(Script.Calls, ElementsAre("SELECT * FROM \"T\""));
 }
 
+TEST_F(EngineConnectionTest, ARowIsWrittenOnlyWhereThatCanChangeIt) {
+  const auto writes = [this](const Variant& pvarId, const Variant& pvarName, bool pblnBetween) {
+    const auto rows = Opened(Connection, "SELECT * FROM T WHERE Id = 1");
+    rows->Collect("Id", pvarId);
+    rows->Collect("Name", pvarName);
+    if (pblnBetween) Execute();
+    Script.Calls.clear();
+    rows->Update();
+    EXPECT_EQ(rows->Fields("Name").Value, pvarName);
+    return !Script.Calls.empty();
+  };
+  const std::int32_t one = 1;
+  EXPECT_TRUE(writes(one, "a", false)) << "outside a transaction others may have written";
+  Connection.BeginTrans(Transaction::Write);
+  EXPECT_FALSE(writes(one, "a", false));
+  EXPECT_FALSE(writes(1.0, "a", false)) << "numbers of another kind";
+  EXPECT_TRUE(writes(one, "b", false));
+  EXPECT_TRUE(writes(one, Variant::Null, false));
+  EXPECT_TRUE(writes("1", "a", false)) << "only the column knows";
+  EXPECT_TRUE(writes(one, "a", true)) << "a statement may have written meanwhile";
+}
+
 }  // namespace
 }  // namespace vantrel::test
