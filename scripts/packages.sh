@@ -2,8 +2,8 @@
 # Debian packages, read by ./run and ./test.
 
 # To build and run the program.
-run_packages=(g++ cmake ninja-build ccache libpugixml-dev libcli11-dev libsqlite3-dev libpq-dev
-  qt6-base-dev qt6-svg-dev libqt6svg6 fonts-liberation2)
+run_packages=(g++ cmake ninja-build ccache libpugixml-dev libcli11-dev nlohmann-json3-dev
+  libsqlite3-dev libpq-dev qt6-base-dev qt6-svg-dev libqt6svg6 fonts-liberation2)
 
 # On top of these, to test it.
 test_packages=(

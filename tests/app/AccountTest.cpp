@@ -17,10 +17,9 @@ TEST(Account, JsonOfARunThatFailed) {
   account.Error = "Transition \"t\" fires itself without end.";
   account.Marking = {{{"Place1", "in"}, 2}};
   account.Trace = {{"Transition1", "t"}};
-  EXPECT_EQ(ToJson(account),
-            R"({"net": "n", "places": 0, "transitions": 0, "arcs": 0, "start": "Place1", "end": null, )"
-            R"("cases": {"started": 1, "finished": 0}, "firings": 0, "tokens_created": 0, "stopped": "error", )"
-            R"("error": "Transition \"t\" fires itself without end.", "marking": {"Place1": 2}, "trace": ["Transition1"]})");
+  EXPECT_EQ(ToJson(account), R"({"net":"n","places":0,"transitions":0,"arcs":0,"start":"Place1","end":null,)"
+                             R"("cases":{"started":1,"finished":0},"firings":0,"tokens_created":0,"stopped":"error",)"
+                             R"("error":"Transition \"t\" fires itself without end.","marking":{"Place1":2},"trace":["Transition1"]})");
 }
 
 TEST(Account, NamesOfAFileCannotSteerTheTerminal) {

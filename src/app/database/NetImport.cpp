@@ -1,6 +1,8 @@
 #include "app/database/NetImport.h"
 
-#include "app/JsonWriter.h"
+#include <nlohmann/json.hpp>
+
+#include "app/Json.h"
 #include "interchange/PnmlImport.h"
 
 namespace vantrel {
@@ -30,15 +32,11 @@ void Store(OpenDatabase& pobjDatabase, const LoadedNet& pobjNet, ImportOutcome& 
   if (auto lost = LostMarking(pobjNet); !lost.empty()) pobjOutcome.Notes.push_back(std::move(lost));
 }
 
-void WriteOutcome(JsonWriter& pobjJson, const ImportOutcome& pobjOutcome) {
+nlohmann::ordered_json OutcomeJson(const ImportOutcome& pobjOutcome) {
   const bool stored = pobjOutcome.Id != 0;
-  pobjJson.Open('{').Key("file").Text(pobjOutcome.File).Key("id");
-  stored ? pobjJson.Number(pobjOutcome.Id) : pobjJson.Null();
-  pobjJson.Key("net").Text(pobjOutcome.NetId).Key("name").Text(pobjOutcome.NetName).Key("notes").Open('[');
-  for (const std::string& note : pobjOutcome.Notes) pobjJson.Text(note);
-  pobjJson.Close(']').Key("error");
-  stored ? pobjJson.Null() : pobjJson.Text(pobjOutcome.Failure);
-  pobjJson.Close('}');
+  return {{"file", pobjOutcome.File},   {"id", stored ? nlohmann::ordered_json(pobjOutcome.Id) : nullptr},
+          {"net", pobjOutcome.NetId},   {"name", pobjOutcome.NetName},
+          {"notes", pobjOutcome.Notes}, {"error", stored ? nullptr : nlohmann::ordered_json(pobjOutcome.Failure)}};
 }
 
 }  // namespace
@@ -57,11 +55,9 @@ ImportOutcome ImportNet(OpenDatabase& pobjDatabase, const std::string& pstrFile,
 }
 
 std::string ImportJson(const std::vector<ImportOutcome>& pcolOutcomes) {
-  JsonWriter json;
-  json.Open('{').Key("imported").Open('[');
-  for (const ImportOutcome& outcome : pcolOutcomes) WriteOutcome(json, outcome);
-  json.Close(']').Close('}');
-  return json.Written();
+  auto imported = nlohmann::ordered_json::array();
+  for (const ImportOutcome& outcome : pcolOutcomes) imported.push_back(OutcomeJson(outcome));
+  return OneLine({{"imported", std::move(imported)}});
 }
 
 }  // namespace vantrel

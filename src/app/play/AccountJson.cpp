@@ -1,9 +1,13 @@
-#include "app/JsonWriter.h"
+#include <nlohmann/json.hpp>
+
+#include "app/Json.h"
 #include "app/play/Account.h"
 
 namespace vantrel {
 
 namespace {
+
+using nlohmann::ordered_json;
 
 const char* Word(StopReason pReason) {
   switch (pReason) {
@@ -16,51 +20,47 @@ const char* Word(StopReason pReason) {
   }
 }
 
-void WriteKeyOrNull(JsonWriter& pobjJson, const std::optional<AccountEntry>& pobjEntry) {
-  if (pobjEntry) {
-    pobjJson.Text(pobjEntry->Key);
-  } else {
-    pobjJson.Null();
-  }
+ordered_json EntryKey(const std::optional<AccountEntry>& pobjEntry) { return pobjEntry ? ordered_json(pobjEntry->Key) : nullptr; }
+
+ordered_json Cases(const Account& pobjAccount) {
+  auto cases = ordered_json::object();
+  if (pobjAccount.CasesTakenUp) cases["taken_up"] = *pobjAccount.CasesTakenUp;
+  cases["started"] = pobjAccount.CasesStarted;
+  cases["finished"] = pobjAccount.CasesFinished;
+  return cases;
 }
 
-void WriteNet(JsonWriter& pobjJson, const Account& pobjAccount) {
-  pobjJson.Key("net").Text(pobjAccount.Net);
-  pobjJson.Key("places").Number(pobjAccount.Places);
-  pobjJson.Key("transitions").Number(pobjAccount.Transitions);
-  pobjJson.Key("arcs").Number(pobjAccount.Arcs);
-  WriteKeyOrNull(pobjJson.Key("start"), pobjAccount.Start);
-  WriteKeyOrNull(pobjJson.Key("end"), pobjAccount.End);
+// Adds without the search for an equal key that operator[] makes: a net may hold tokens in very many places.
+ordered_json Marking(const Account& pobjAccount) {
+  ordered_json::object_t marking;
+  marking.reserve(pobjAccount.Marking.size());
+  for (const auto& holding : pobjAccount.Marking) marking.emplace_back(holding.Place.Key, holding.Tokens);
+  return marking;
 }
 
-void WriteOutcome(JsonWriter& pobjJson, const Account& pobjAccount) {
-  pobjJson.Key("cases").Open('{');
-  if (pobjAccount.CasesTakenUp) pobjJson.Key("taken_up").Number(*pobjAccount.CasesTakenUp);
-  pobjJson.Key("started").Number(pobjAccount.CasesStarted);
-  pobjJson.Key("finished").Number(pobjAccount.CasesFinished).Close('}');
-  pobjJson.Key("firings").Number(pobjAccount.Firings);
-  pobjJson.Key("tokens_created").Number(pobjAccount.TokensCreated);
-  pobjJson.Key("stopped").Text(Word(pobjAccount.Stopped)).Key("error");
-  if (pobjAccount.Stopped == StopReason::Error) {
-    pobjJson.Text(pobjAccount.Error);
-  } else {
-    pobjJson.Null();
-  }
+ordered_json Trace(const Account& pobjAccount) {
+  ordered_json::array_t trace;
+  trace.reserve(pobjAccount.Trace.size());
+  for (const auto& firing : pobjAccount.Trace) trace.emplace_back(firing.Key);
+  return trace;
 }
 
 }  // namespace
 
 std::string ToJson(const Account& pobjAccount) {
-  JsonWriter json;
-  json.Open('{');
-  WriteNet(json, pobjAccount);
-  WriteOutcome(json, pobjAccount);
-  json.Key("marking").Open('{');
-  for (const auto& holding : pobjAccount.Marking) json.Key(holding.Place.Key).Number(holding.Tokens);
-  json.Close('}').Key("trace").Open('[');
-  for (const auto& firing : pobjAccount.Trace) json.Text(firing.Key);
-  json.Close(']').Close('}');
-  return json.Written();
+  return OneLine({{"net", pobjAccount.Net},
+                  {"places", pobjAccount.Places},
+                  {"transitions", pobjAccount.Transitions},
+                  {"arcs", pobjAccount.Arcs},
+                  {"start", EntryKey(pobjAccount.Start)},
+                  {"end", EntryKey(pobjAccount.End)},
+                  {"cases", Cases(pobjAccount)},
+                  {"firings", pobjAccount.Firings},
+                  {"tokens_created", pobjAccount.TokensCreated},
+                  {"stopped", Word(pobjAccount.Stopped)},
+                  {"error", pobjAccount.Stopped == StopReason::Error ? ordered_json(pobjAccount.Error) : nullptr},
+                  {"marking", Marking(pobjAccount)},
+                  {"trace", Trace(pobjAccount)}});
 }
 
 }  // namespace vantrel

@@ -1,6 +1,8 @@
 #include "app/show/Listing.h"
 
-#include "app/JsonWriter.h"
+#include <nlohmann/json.hpp>
+
+#include "app/Json.h"
 #include "app/show/Columns.h"
 #include "app/show/Flags.h"
 #include "interchange/PnmlError.h"
@@ -17,13 +19,15 @@ std::string Embedders(const WorkflowListing& pobjWorkflow) {
   return text.empty() ? "-" : text;
 }
 
-void WriteEntry(JsonWriter& pobjJson, const WorkflowListing& pobjWorkflow) {
-  pobjJson.Open('{').Key("id").Number(pobjWorkflow.Id).Key("guid").Text(TextOf(pobjWorkflow.GUID));
-  pobjJson.Key("start").Text(pobjWorkflow.StartPlaceName).Key("end").Text(pobjWorkflow.EndPlaceName);
-  pobjJson.Key("places").Number(pobjWorkflow.Places).Key("transitions").Number(pobjWorkflow.Transitions);
-  pobjJson.Key("arcs").Number(pobjWorkflow.Arcs).Key("embedded_in").Open('[');
-  for (const std::int32_t id : pobjWorkflow.EmbeddedIn) pobjJson.Number(id);
-  pobjJson.Close(']').Close('}');
+nlohmann::ordered_json EntryJson(const WorkflowListing& pobjWorkflow) {
+  return {{"id", pobjWorkflow.Id},
+          {"guid", TextOf(pobjWorkflow.GUID)},
+          {"start", pobjWorkflow.StartPlaceName},
+          {"end", pobjWorkflow.EndPlaceName},
+          {"places", pobjWorkflow.Places},
+          {"transitions", pobjWorkflow.Transitions},
+          {"arcs", pobjWorkflow.Arcs},
+          {"embedded_in", pobjWorkflow.EmbeddedIn}};
 }
 
 }  // namespace
@@ -38,11 +42,9 @@ void WriteListing(std::ostream& pobjOut, const std::vector<WorkflowListing>& pco
 }
 
 std::string ListingJson(const std::vector<WorkflowListing>& pcolWorkflows) {
-  JsonWriter json;
-  json.Open('{').Key("workflows").Open('[');
-  for (const WorkflowListing& workflow : pcolWorkflows) WriteEntry(json, workflow);
-  json.Close(']').Close('}');
-  return json.Written();
+  auto workflows = nlohmann::ordered_json::array();
+  for (const WorkflowListing& workflow : pcolWorkflows) workflows.push_back(EntryJson(workflow));
+  return OneLine({{"workflows", std::move(workflows)}});
 }
 
 }  // namespace vantrel

@@ -1,4 +1,6 @@
-#include "app/JsonWriter.h"
+#include <nlohmann/json.hpp>
+
+#include "app/Json.h"
 #include "app/show/Flags.h"
 #include "app/show/StoredWorkflow.h"
 
@@ -6,134 +8,154 @@ namespace vantrel {
 
 namespace {
 
-void WriteKey(JsonWriter& pobjJson, const char* pstrName, const Node* pobjNode) {
-  pobjJson.Key(pstrName);
-  pobjNode ? pobjJson.Text(pobjNode->Key) : pobjJson.Null();
+using nlohmann::ordered_json;
+
+ordered_json NodeKey(const Node* pobjNode) { return pobjNode ? ordered_json(pobjNode->Key) : nullptr; }
+
+ordered_json ValueJson(const Variant& pvarValue) {
+  return pvarValue.IsNull() || pvarValue.IsObject() ? nullptr : ordered_json(pvarValue.ToText());
 }
 
-void WriteValue(JsonWriter& pobjJson, const Variant& pvarValue) {
-  pvarValue.IsNull() || pvarValue.IsObject() ? pobjJson.Null() : pobjJson.Text(pvarValue.ToText());
-}
-
-void WriteHead(JsonWriter& pobjJson, const StoredWorkflow& pobjStored) {
+ordered_json HeadJson(const StoredWorkflow& pobjStored) {
   const Workflow& workflow = *pobjStored.Workflow;
-  pobjJson.Key("id").Number(workflow.RecId).Key("guid").Text(TextOf(workflow.GUID));
-  WriteKey(pobjJson, "start", workflow.StartPlace.get());
-  WriteKey(pobjJson, "end", workflow.EndPlace().get());
-  for (const Flag& flag : FlagsOf(workflow)) pobjJson.Key(flag.Name).Boolean(flag.IsOn);
-  pobjJson.Key("run_style").Number(workflow.RunStyle);
-  pobjJson.Key("stored").Open('{').Key("cases").Number(pobjStored.Run.Cases);
-  pobjJson.Key("tokens").Number(pobjStored.Run.Tokens).Key("tokens_in_places").Number(pobjStored.Run.TokensInPlaces).Close('}');
+  ordered_json head{{"id", workflow.RecId},
+                    {"guid", TextOf(workflow.GUID)},
+                    {"start", NodeKey(workflow.StartPlace.get())},
+                    {"end", NodeKey(workflow.EndPlace().get())}};
+  for (const Flag& flag : FlagsOf(workflow)) head[flag.Name] = flag.IsOn;
+  head["run_style"] = workflow.RunStyle;
+  head["stored"] = {
+      {"cases", pobjStored.Run.Cases}, {"tokens", pobjStored.Run.Tokens}, {"tokens_in_places", pobjStored.Run.TokensInPlaces}};
+  return head;
 }
 
-void WriteNode(JsonWriter& pobjJson, const Node& pobjNode, std::int32_t plngId) {
-  pobjJson.Key("key").Text(pobjNode.Key).Key("id").Number(plngId).Key("name").Text(pobjNode.Name());
-  pobjJson.Key("caption").Text(pobjNode.Caption()).Key("description").Text(pobjNode.Description);
-  pobjJson.Key("left").Decimal(pobjNode.Left()).Key("top").Decimal(pobjNode.Top());
-  pobjJson.Key("input_position").Number(pobjNode.InputPosition()).Key("output_position").Number(pobjNode.OutputPosition());
-  pobjJson.Key("caption_offset_left").Decimal(pobjNode.CaptionOffsetLeft()).Key("caption_offset_top").Decimal(pobjNode.CaptionOffsetTop());
-  pobjJson.Key("caption_width").Decimal(pobjNode.CaptionWidth).Key("caption_height").Decimal(pobjNode.CaptionHeight);
-  pobjJson.Key("enabled_image").Text(pobjNode.EnabledImageKey).Key("disabled_image").Text(pobjNode.DisabledImageKey);
+ordered_json NodeJson(const Node& pobjNode, std::int32_t plngId) {
+  return {{"key", pobjNode.Key},
+          {"id", plngId},
+          {"name", pobjNode.Name()},
+          {"caption", pobjNode.Caption()},
+          {"description", pobjNode.Description},
+          {"left", Decimal(pobjNode.Left())},
+          {"top", Decimal(pobjNode.Top())},
+          {"input_position", pobjNode.InputPosition()},
+          {"output_position", pobjNode.OutputPosition()},
+          {"caption_offset_left", Decimal(pobjNode.CaptionOffsetLeft())},
+          {"caption_offset_top", Decimal(pobjNode.CaptionOffsetTop())},
+          {"caption_width", Decimal(pobjNode.CaptionWidth)},
+          {"caption_height", Decimal(pobjNode.CaptionHeight)},
+          {"enabled_image", pobjNode.EnabledImageKey},
+          {"disabled_image", pobjNode.DisabledImageKey}};
 }
 
-void WriteDefinition(JsonWriter& pobjJson, const PropertyRecord& pobjRecord) {
-  pobjJson.Open('{').Key("id").Number(pobjRecord.Id).Key("name").Text(pobjRecord.Name).Key("caption").Text(pobjRecord.Caption);
-  pobjJson.Key("type").Number(pobjRecord.Type).Key("value");
-  WriteValue(pobjJson, pobjRecord.Value);
-  pobjJson.Key("description").Text(pobjRecord.Description).Key("attributes").Number(pobjRecord.Attributes).Key("options").Open('[');
-  for (const auto& option : pobjRecord.Options) {
-    pobjJson.Open('{').Key("prompt").Text(option->Prompt).Key("value");
-    WriteValue(pobjJson, option->Value);
-    pobjJson.Close('}');
+ordered_json DefinitionJson(const PropertyRecord& pobjRecord) {
+  auto options = ordered_json::array();
+  for (const auto& option : pobjRecord.Options) options.push_back({{"prompt", option->Prompt}, {"value", ValueJson(option->Value)}});
+  return {{"id", pobjRecord.Id},
+          {"name", pobjRecord.Name},
+          {"caption", pobjRecord.Caption},
+          {"type", pobjRecord.Type},
+          {"value", ValueJson(pobjRecord.Value)},
+          {"description", pobjRecord.Description},
+          {"attributes", pobjRecord.Attributes},
+          {"options", std::move(options)}};
+}
+
+ordered_json PlaceJson(const Place& pobjPlace) {
+  auto definitions = ordered_json::array();
+  if (const auto records = pobjPlace.TokenProperties) {
+    for (const auto& record : *records) definitions.push_back(DefinitionJson(*record));
   }
-  pobjJson.Close(']').Close('}');
+  auto json = NodeJson(pobjPlace, pobjPlace.RecId());
+  json["selection_type"] = pobjPlace.SelectionType;
+  json["definitions"] = std::move(definitions);
+  return json;
 }
 
-void WritePlace(JsonWriter& pobjJson, const Place& pobjPlace) {
-  pobjJson.Open('{');
-  WriteNode(pobjJson, pobjPlace, pobjPlace.RecId());
-  pobjJson.Key("selection_type").Number(pobjPlace.SelectionType).Key("definitions").Open('[');
-  if (const auto definitions = pobjPlace.TokenProperties) {
-    for (const auto& definition : *definitions) WriteDefinition(pobjJson, *definition);
-  }
-  pobjJson.Close(']').Close('}');
-}
-
-void WriteTransition(JsonWriter& pobjJson, const Transition& pobjTransition) {
-  pobjJson.Open('{');
-  WriteNode(pobjJson, pobjTransition, pobjTransition.RecId);
-  pobjJson.Key("trigger").Text(NameOfTrigger(pobjTransition.TriggerType())).Key("output").Text(NameOfOutput(pobjTransition.OutputType()));
-  pobjJson.Key("action").Text(pobjTransition.Action).Key("duration").Decimal(pobjTransition.Duration);
-  pobjJson.Key("duration_std_dev").Decimal(pobjTransition.DurationStdDev).Key("embeds");
-  pobjTransition.SubflowId == 0 ? pobjJson.Null() : pobjJson.Number(pobjTransition.SubflowId);
-  pobjJson.Key("object_class").Text(pobjTransition.ObjectClassName).Key("object_name").Text(pobjTransition.ObjectName).Close('}');
+ordered_json TransitionJson(const Transition& pobjTransition) {
+  auto json = NodeJson(pobjTransition, pobjTransition.RecId);
+  json["trigger"] = NameOfTrigger(pobjTransition.TriggerType());
+  json["output"] = NameOfOutput(pobjTransition.OutputType());
+  json["action"] = pobjTransition.Action;
+  json["duration"] = Decimal(pobjTransition.Duration);
+  json["duration_std_dev"] = Decimal(pobjTransition.DurationStdDev);
+  json["embeds"] = pobjTransition.SubflowId == 0 ? nullptr : ordered_json(pobjTransition.SubflowId);
+  json["object_class"] = pobjTransition.ObjectClassName;
+  json["object_name"] = pobjTransition.ObjectName;
+  return json;
 }
 
 // The corners of the path: the first segment's start, then every segment's end.
-void WritePath(JsonWriter& pobjJson, const Arc& pobjArc) {
-  const auto point = [&](float psngX, float psngY) { pobjJson.Open('[').Decimal(psngX).Decimal(psngY).Close(']'); };
-  pobjJson.Key("path").Open('[');
-  bool first = true;
+ordered_json PathJson(const Arc& pobjArc) {
+  auto path = ordered_json::array();
+  const auto add = [&](float psngX, float psngY) { path.push_back(ordered_json::array({Decimal(psngX), Decimal(psngY)})); };
   for (const Vector* segment : pobjArc.Segments()) {
-    if (first) point(segment->X1(), segment->Y1());
-    first = false;
-    point(segment->X2(), segment->Y2());
+    if (path.empty()) add(segment->X1(), segment->Y1());
+    add(segment->X2(), segment->Y2());
   }
-  pobjJson.Close(']');
+  return path;
 }
 
-void WriteLabel(JsonWriter& pobjJson, const char* pstrName, float psngX, float psngY, float psngWidth, float psngHeight) {
-  pobjJson.Key(pstrName).Open('{').Key("offset_x").Decimal(psngX).Key("offset_y").Decimal(psngY);
-  pobjJson.Key("width").Decimal(psngWidth).Key("height").Decimal(psngHeight).Close('}');
+ordered_json LabelJson(float psngX, float psngY, float psngWidth, float psngHeight) {
+  return {{"offset_x", Decimal(psngX)}, {"offset_y", Decimal(psngY)}, {"width", Decimal(psngWidth)}, {"height", Decimal(psngHeight)}};
 }
 
-void WriteArc(JsonWriter& pobjJson, const Arc& pobjArc) {
+ordered_json ArcJson(const Arc& pobjArc) {
   const bool inward = pobjArc.ArcDirection == vntInArc;
   const Node* const place = pobjArc.Place.get();
   const Node* const transition = pobjArc.Transition.get();
-  pobjJson.Open('{').Key("key").Text(pobjArc.Key).Key("id").Number(pobjArc.RecId);
-  WriteKey(pobjJson, "from", inward ? place : transition);
-  WriteKey(pobjJson, "to", inward ? transition : place);
-  pobjJson.Key("description").Text(pobjArc.Description).Key("weight").Text(pobjArc.Weight()).Key("guard").Text(pobjArc.Guard());
-  WriteLabel(pobjJson, "guard_label", pobjArc.CaptionOffsetX(), pobjArc.CaptionOffsetY(), pobjArc.CaptionWidth(), pobjArc.CaptionHeight());
-  WriteLabel(pobjJson, "weight_label", pobjArc.WeightOffsetX(), pobjArc.WeightOffsetY(), pobjArc.WeightWidth(), pobjArc.WeightHeight());
-  WritePath(pobjJson, pobjArc);
-  pobjJson.Close('}');
+  return {{"key", pobjArc.Key},
+          {"id", pobjArc.RecId},
+          {"from", NodeKey(inward ? place : transition)},
+          {"to", NodeKey(inward ? transition : place)},
+          {"description", pobjArc.Description},
+          {"weight", pobjArc.Weight()},
+          {"guard", pobjArc.Guard()},
+          {"guard_label", LabelJson(pobjArc.CaptionOffsetX(), pobjArc.CaptionOffsetY(), pobjArc.CaptionWidth(), pobjArc.CaptionHeight())},
+          {"weight_label", LabelJson(pobjArc.WeightOffsetX(), pobjArc.WeightOffsetY(), pobjArc.WeightWidth(), pobjArc.WeightHeight())},
+          {"path", PathJson(pobjArc)}};
 }
 
-void WriteNote(JsonWriter& pobjJson, const Notation& pobjNote) {
-  pobjJson.Open('{').Key("key").Text(pobjNote.Key).Key("id").Number(pobjNote.RecId).Key("caption").Text(pobjNote.Caption);
-  pobjJson.Key("tag").Text(pobjNote.Tag).Key("left").Number(pobjNote.Left()).Key("top").Number(pobjNote.Top());
-  pobjJson.Key("width").Number(pobjNote.Width()).Key("height").Number(pobjNote.Height());
-  pobjJson.Key("back_color").Number(pobjNote.BackColor).Key("fore_color").Number(pobjNote.ForeColor);
-  pobjJson.Key("back_style").Number(pobjNote.BackStyle).Key("border_style").Number(pobjNote.BorderStyle);
-  pobjJson.Key("alignment").Number(pobjNote.Alignment).Key("appearance").Number(pobjNote.Appearance);
-  pobjJson.Key("font").Text(pobjNote.Font).Key("size").Number(pobjNote.Size);
-  pobjJson.Key("bold").Boolean(pobjNote.Bold).Key("italics").Boolean(pobjNote.Italics);
-  pobjJson.Key("underline").Boolean(pobjNote.Underline).Key("strikethrough").Boolean(pobjNote.Strikethrough);
-  pobjJson.Key("protected").Boolean(pobjNote.Protected).Close('}');
+ordered_json NoteJson(const Notation& pobjNote) {
+  return {{"key", pobjNote.Key},
+          {"id", pobjNote.RecId},
+          {"caption", pobjNote.Caption},
+          {"tag", pobjNote.Tag},
+          {"left", pobjNote.Left()},
+          {"top", pobjNote.Top()},
+          {"width", pobjNote.Width()},
+          {"height", pobjNote.Height()},
+          {"back_color", pobjNote.BackColor},
+          {"fore_color", pobjNote.ForeColor},
+          {"back_style", pobjNote.BackStyle},
+          {"border_style", pobjNote.BorderStyle},
+          {"alignment", pobjNote.Alignment},
+          {"appearance", pobjNote.Appearance},
+          {"font", pobjNote.Font},
+          {"size", pobjNote.Size},
+          {"bold", pobjNote.Bold},
+          {"italics", pobjNote.Italics},
+          {"underline", pobjNote.Underline},
+          {"strikethrough", pobjNote.Strikethrough},
+          {"protected", pobjNote.Protected}};
 }
 
 template <class T>
-void WriteAll(JsonWriter& pobjJson, const char* pstrName, const Collection<T>& pcolItems, void (*pWrite)(JsonWriter&, const T&)) {
-  pobjJson.Key(pstrName).Open('[');
-  for (const auto& item : pcolItems) pWrite(pobjJson, *item);
-  pobjJson.Close(']');
+ordered_json AllOf(const Collection<T>& pcolItems, ordered_json (*pJsonOf)(const T&)) {
+  auto all = ordered_json::array();
+  for (const auto& item : pcolItems) all.push_back(pJsonOf(*item));
+  return all;
 }
 
 }  // namespace
 
 std::string StoredWorkflowJson(const StoredWorkflow& pobjStored) {
   const Workflow& workflow = *pobjStored.Workflow;
-  JsonWriter json;
-  json.Open('{');
-  WriteHead(json, pobjStored);
-  WriteAll(json, "places", workflow.Places, WritePlace);
-  WriteAll(json, "transitions", workflow.Transitions, WriteTransition);
-  WriteAll(json, "arcs", workflow.Arcs, WriteArc);
-  WriteAll(json, "notes", workflow.Notations, WriteNote);
-  json.Close('}');
-  return json.Written();
+  auto json = HeadJson(pobjStored);
+  json["places"] = AllOf(workflow.Places, PlaceJson);
+  json["transitions"] = AllOf(workflow.Transitions, TransitionJson);
+  json["arcs"] = AllOf(workflow.Arcs, ArcJson);
+  json["notes"] = AllOf(workflow.Notations, NoteJson);
+  return OneLine(json);
 }
 
 }  // namespace vantrel
