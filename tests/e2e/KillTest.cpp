@@ -39,7 +39,7 @@ std::shared_ptr<Workflow> Build(const Version& pVersion, std::int32_t plngId) {
     const auto next = workflow->NewPlace(name("place", i));
     for (const auto& arc : {workflow->CreateArc(place, transition, vntInArc), workflow->CreateArc(next, transition, vntOutArc)}) {
       arc->Guard(std::string(1, pVersion.Letter));
-      for (int segment = 1; segment < pVersion.Segments; ++segment) arc->InsertVector(workflow->Vectors.Last());
+      for (int segment = 1; segment < pVersion.Segments; ++segment) arc->InsertVector(arc->Vectors()->Last());
     }
     place = next;
   }
